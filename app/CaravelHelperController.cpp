@@ -1,0 +1,193 @@
+#include "app/CaravelHelperController.h"
+
+#include "app/FrontEndProtocol.h"
+#include "app/Log.h"
+#include "app/PrefsController.h"
+#include "modules/CVSyncMusic.h"
+#include "platform/DistributedNotificationCenter.h"
+#include "platform/FileManager.h"
+#include "platform/Localized.h"
+#include "platform/MainThread.h"
+#include "platform/UserDefaults.h"
+#include "platform/Workspace.h"
+#include "util/FileManagerTools.h"
+#include "util/Preferences.h"
+#include "util/StringTools.h"
+#include "util/TextFormat.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace {
+
+// How long a quitting helper waits for its run to write what it must.
+constexpr auto quitPatience = std::chrono::seconds(5);
+
+QString helperDidStartNotification()
+{
+    return QStringLiteral("CVHelperDidStartNotification");
+}
+
+ModuleFactory modules()
+{
+    ModuleFactory factory;
+    factory.music
+        = [](CVSyncModuleDelegate *delegate) { return std::make_unique<CVSyncMusic>(delegate); };
+    return factory;
+}
+
+} // namespace
+
+CaravelHelperController::CaravelHelperController(Services services, QObject *parent)
+    : QObject(parent)
+    , m_services(std::move(services))
+    , m_manager({m_services.volumes, m_services.notifications, m_services.clock,
+                 m_services.bundle.resourcePath()},
+                modules())
+    , m_status({m_manager, m_logger, m_frontEnd, m_services.alerts, m_services.clock,
+                [this] { openCaravel(); }})
+    , m_lists(m_manager)
+{
+    m_logger.setDelegate(this);
+    m_manager.setDelegate(&m_status);
+    connect(&m_frontEnd, &FrontEnd::vanished, this, &CaravelHelperController::frontEndIsGone);
+}
+
+CaravelHelperController::~CaravelHelperController() = default;
+
+void CaravelHelperController::start()
+{
+    PrefsController::initialize(m_services.notifications);
+    PrefsController::beginObserving(m_services.notifications);
+    initialize();
+    setUp();
+}
+
+void CaravelHelperController::initialize()
+{
+    m_logger.log(QStringLiteral("Initializing %@..."),
+                 filled(QStringLiteral("%@ build %@"),
+                        {QStringLiteral("Caravel"), m_services.bundle.version()}));
+    m_services.notifications.post(helperDidStartNotification());
+    m_services.notifications.observe(
+        helperDidStartNotification(), this, [this] { helperDidStart(); },
+        DistributedNotificationCenter::Own::Ignore);
+    logDetail(QStringLiteral("Initializing SyncManager..."));
+    m_manager.refreshSyncBytesEstimate();
+    logDetail(QStringLiteral("Creating helper connection..."));
+    m_helperConnection.exportObject(QStringLiteral("/CaravelHelper"),
+                                    QStringLiteral("org.caravel.CaravelHelperProtocol"),
+                                    FrontEndProtocol::methods(*this));
+    const QString name = QStringLiteral("CaravelHelper ") + m_services.bundle.version();
+    if (!m_helperConnection.registerName(name))
+        qCWarning(lcApp).noquote() << "Another process has the connection name" << name;
+    m_status.setInitialTexts();
+}
+
+void CaravelHelperController::setUp()
+{
+    m_status.setStatusText(localized("No PSP Connected"));
+    createFolders();
+    FileManager &files = FileManager::defaultManager();
+    const QString leftover = Preferences::supportFolder() + QStringLiteral("/CONVERT.MP4");
+    if (files.linkStatus(leftover).exists())
+        files.remove(leftover, nullptr);
+    m_manager.detectPSP();
+}
+
+void CaravelHelperController::createFolders()
+{
+    FileManagerTools::createPath(Preferences::supportFolder());
+    FileManagerTools::createPath(Preferences::documentsFolder());
+    for (const char *name : {"Music", "Photos", "Movies"})
+        FileManagerTools::createPath(Preferences::dropboxFolder(QString::fromLatin1(name)));
+}
+
+void CaravelHelperController::logDetail(const QString &message)
+{
+    if (Preferences::useDetailedLogging())
+        m_logger.log(message);
+}
+
+void CaravelHelperController::logChanged(const QString &line)
+{
+    m_frontEnd.writeToLog(line);
+}
+
+// --- The front-end
+
+void CaravelHelperController::setApplication(const QString &address, const QString &objectPath)
+{
+    m_frontEnd.connectTo(address, objectPath);
+    logDetail(QStringLiteral("Caravel front-end has connected."));
+}
+
+void CaravelHelperController::applicationWillQuit(const QString &address)
+{
+    // Of two front-ends only the one that is connected can leave.
+    if (!m_frontEnd.isConnected() || m_frontEnd.isAt(address))
+        frontEndIsGone();
+}
+
+void CaravelHelperController::frontEndIsGone()
+{
+    logDetail(QStringLiteral("Caravel front-end has quit."));
+    m_frontEnd.disconnect();
+    if (!UserDefaults::standard().boolForKey(QStringLiteral("startOnLogin")))
+        requestQuit();
+}
+
+void CaravelHelperController::openCaravel()
+{
+    logDetail(QStringLiteral("Launching Caravel front-end..."));
+    Workspace::openFile(StringTools::standardizingPath(m_services.bundle.resourcePath()
+                                                       + QStringLiteral("/../../../../..")));
+}
+
+void CaravelHelperController::syncNow(const QVariantMap &sender)
+{
+    if (sender.value(QStringLiteral("title")).toString() == localized("Cancel Sync"))
+        m_manager.cancelSync();
+    else
+        m_manager.sync();
+}
+
+void CaravelHelperController::ejectPSP()
+{
+    // An eject under a running sync would take the stick from its hands.
+    if (m_manager.isSyncing())
+        qCWarning(lcApp) << "The PSP can't be ejected during a sync";
+    else
+        m_manager.eject();
+}
+
+// --- Going away
+
+void CaravelHelperController::helperDidStart()
+{
+    logDetail(QStringLiteral("Another helper has started, I am quitting!"));
+    requestQuit();
+}
+
+void CaravelHelperController::requestQuit()
+{
+    if (m_isQuitting || m_frontEnd.isOpen())
+        return;
+    m_isQuitting = true;
+    logDetail(QStringLiteral("Helper quitting..."));
+    quit();
+}
+
+void CaravelHelperController::quit()
+{
+    m_manager.cancelSync();
+    const bool finishedAll = Workers::serveUntilFinished(quitPatience);
+    m_helperConnection.invalidate();
+    UserDefaults::standard().synchronize();
+    if (!finishedAll) {
+        // A thread that hangs in a read of a dying stick must not meet destructors.
+        qCWarning(lcApp) << "A sync didn't end in time; leaving without it";
+        std::_Exit(0);
+    }
+    Q_EMIT finished();
+}

@@ -1,0 +1,84 @@
+#include "app/FrontEnd.h"
+
+#include "platform/RemoteObject.h"
+
+FrontEnd::FrontEnd(QObject *parent)
+    : QObject(parent)
+{
+}
+
+FrontEnd::~FrontEnd() = default;
+
+void FrontEnd::connectTo(const QString &address, const QString &objectPath)
+{
+    m_remote = std::make_unique<RemoteObject>(address, objectPath,
+                                              QStringLiteral("org.caravel.CaravelFrontEnd"));
+    connect(m_remote.get(), &RemoteObject::vanished, this, &FrontEnd::vanished);
+}
+
+void FrontEnd::disconnect()
+{
+    // It may be this very object whose signal is being handled.
+    if (m_remote)
+        m_remote.release()->deleteLater();
+}
+
+bool FrontEnd::isAt(const QString &address) const
+{
+    return m_remote && m_remote->service() == address;
+}
+
+bool FrontEnd::isOpen() const
+{
+    if (!m_remote)
+        return false;
+    const auto answer
+        = m_remote->call(QStringLiteral("isOpen"), {}, std::chrono::seconds(1), false);
+    return answer.value && answer.value->toBool();
+}
+
+void FrontEnd::send(const QString &method, const QVariantList &arguments) const
+{
+    if (m_remote)
+        m_remote->send(method, arguments);
+}
+
+void FrontEnd::doAlert(const QString &title, const QString &message, AlertStyle style) const
+{
+    send(QStringLiteral("doAlert"), {title, message, static_cast<int>(style)});
+}
+
+void FrontEnd::updateUserInterface() const
+{
+    send(QStringLiteral("updateUserInterface"));
+}
+
+void FrontEnd::updateSyncBytes() const
+{
+    send(QStringLiteral("updateSyncBytes"));
+}
+
+void FrontEnd::updateSyncBytesEstimate() const
+{
+    send(QStringLiteral("updateSyncBytesEstimate"));
+}
+
+void FrontEnd::syncDidFinish(bool completed) const
+{
+    send(QStringLiteral("syncDidFinish"), {completed});
+}
+
+void FrontEnd::pspDidMount() const
+{
+    send(QStringLiteral("pspDidMount"));
+}
+
+void FrontEnd::pspDidUnmount() const
+{
+    send(QStringLiteral("pspDidUnmount"));
+}
+
+void FrontEnd::writeToLog(const QString &line) const
+{
+    send(QStringLiteral("writeToLog"), {line});
+}

@@ -1,0 +1,40 @@
+#include "app/PrefsController.h"
+
+#include "platform/DistributedNotificationCenter.h"
+#include "platform/UserDefaults.h"
+#include "util/Preferences.h"
+
+namespace PrefsController {
+
+namespace {
+
+QString didChange()
+{
+    return QStringLiteral("CVPrefsDidChangeNotification");
+}
+
+void prefsChanged(DistributedNotificationCenter &center)
+{
+    UserDefaults::standard().synchronize();
+    center.post(didChange());
+}
+
+} // namespace
+
+void initialize(DistributedNotificationCenter &center)
+{
+    UserDefaults &defaults = UserDefaults::standard();
+    defaults.registerDefaults(Preferences::registeredDefaults());
+    QObject::connect(&defaults, &UserDefaults::changed, &center,
+                     [&center] { prefsChanged(center); });
+}
+
+void beginObserving(DistributedNotificationCenter &center)
+{
+    // What this process announces it has just written itself.
+    center.observe(
+        didChange(), &UserDefaults::standard(), [] { UserDefaults::standard().synchronize(); },
+        DistributedNotificationCenter::Own::Ignore);
+}
+
+} // namespace PrefsController

@@ -1,0 +1,30 @@
+#include "app/RelativeDate.h"
+
+#include "platform/Localized.h"
+
+#include <QLocale>
+
+namespace {
+
+QString dayName(qint64 daysFromToday)
+{
+    switch (daysFromToday) {
+    case 0: return localized("Today");
+    case 1: return localized("Tomorrow");
+    case -1: return localized("Yesterday");
+    default: return {};
+    }
+}
+
+} // namespace
+
+QString relativeDate(const std::optional<QDateTime> &date, const QDateTime &now)
+{
+    if (!date || !date->isValid())
+        return localized("Never");
+    const QDateTime local = date->toLocalTime();
+    const QString day = dayName(now.toLocalTime().date().daysTo(local.date()));
+    // Month names and day halves are English wherever dates are formatted.
+    return day.isEmpty() ? QLocale::c().toString(local, QStringLiteral("dd-MMM-yy hh:mm AP"))
+                         : day + QLocale::c().toString(local, QStringLiteral(" hh:mm AP"));
+}

@@ -1,0 +1,260 @@
+#include "app/SyncStatus.h"
+
+#include "app/Log.h"
+#include "app/RelativeDate.h"
+#include "platform/Clock.h"
+#include "platform/Localized.h"
+#include "platform/UserDefaults.h"
+#include "sync/CVSyncItem.h"
+#include "sync/CVSyncManager.h"
+#include "util/FileManagerTools.h"
+#include "util/Preferences.h"
+#include "util/QMLogger.h"
+#include "util/TextFormat.h"
+
+#include <utility>
+
+namespace {
+
+bool preference(const char *key)
+{
+    return UserDefaults::standard().boolForKey(QString::fromLatin1(key));
+}
+
+QString size(std::optional<quint64> bytes)
+{
+    return FileManagerTools::sizeDescriptionForByteCount(bytes);
+}
+
+// One line for the log, keys in a fixed order.
+QString description(const ErrorInfo &error)
+{
+    QString text
+        = QStringLiteral("%1: %2").arg(error.value(QStringLiteral("Error")).toString(),
+                                       error.value(QStringLiteral("Path")).toString());
+    if (const QString reason = error.value(QStringLiteral("Reason")).toString(); !reason.isEmpty())
+        text += QStringLiteral(" (%1)").arg(reason);
+    return text;
+}
+
+} // namespace
+
+SyncStatus::SyncStatus(Services services)
+    : m_services(std::move(services))
+{
+}
+
+void SyncStatus::setInitialTexts()
+{
+    m_statusText = localized("Initializing...");
+    m_statusSubText = lastSyncText();
+}
+
+void SyncStatus::setStatusText(const QString &text)
+{
+    m_statusText = text;
+    if (Preferences::useDetailedLogging())
+        m_services.logger.log(text);
+}
+
+void SyncStatus::setStatusSubText(const QString &text)
+{
+    m_statusSubText = text;
+    if (Preferences::useDetailedLogging())
+        m_services.logger.log(text);
+}
+
+void SyncStatus::show(const QString &text, const QString &subText)
+{
+    setStatusText(text);
+    setStatusSubText(subText);
+    m_services.frontEnd.updateUserInterface();
+}
+
+QString SyncStatus::lastSyncText() const
+{
+    const auto lastSync = UserDefaults::standard().dateForKey(QStringLiteral("lastSync"));
+    return filled(localized("Last Sync: %@"), {relativeDate(lastSync, m_services.clock.now())});
+}
+
+void SyncStatus::doAlert(const QString &title, const QString &message, AlertStyle style)
+{
+    if (m_services.frontEnd.isConnected())
+        m_services.frontEnd.doAlert(title, message, style);
+    else
+        m_services.alerts.show(title, message, style);
+}
+
+// --- The device
+
+void SyncStatus::pspDidMount(const QString &)
+{
+    const bool syncedBefore
+        = UserDefaults::standard().dateForKey(QStringLiteral("lastSync")).has_value();
+    show(filled(localized("%@ Available"), {size(m_services.manager.pspFreeSpace())}),
+         syncedBefore ? lastSyncText() : localized("Click \"Sync Now\" to perform a sync."));
+    m_services.frontEnd.pspDidMount();
+    if (preference("openOnMount"))
+        m_services.openFrontEnd();
+}
+
+void SyncStatus::pspDidUnmount()
+{
+    show(localized("No PSP Connected"), localized("Connect a PSP to perform a sync."));
+    m_services.frontEnd.pspDidUnmount();
+}
+
+void SyncStatus::foundUnformattedMemoryStick()
+{
+    if (!preference("warnAboutUnformattedMemorySticks"))
+        return;
+    doAlert(localized("Unformatted memory stick found!"),
+            localized("A Memory Stick was found, however it is not formatted for use with a "
+                      "PSP.\n\nIf you intend to use this Memory Stick with the PSP and Caravel, you "
+                      "must first format it from the PSP's main menu."),
+            AlertStyle::Warning);
+}
+
+bool SyncStatus::shouldSyncOnMount()
+{
+    return !m_isInteractive && !preference("useSyncProfiles");
+}
+
+bool SyncStatus::shouldUnmountPSP()
+{
+    return !m_isInteractive;
+}
+
+void SyncStatus::pspWillUnmount()
+{
+    show(localized("Ejecting PSP..."),
+         localized("One moment, Caravel is preparing your PSP for ejection..."));
+}
+
+void SyncStatus::pspUnmountFailed()
+{
+    show(localized("Eject Failed"), localized("The PSP may be in use by another application."));
+}
+
+// --- The run
+
+void SyncStatus::syncWillStart()
+{
+    show(localized("Preparing to Sync..."),
+         localized("One moment, Caravel is gathering information..."));
+}
+
+void SyncStatus::syncWillCleanUp()
+{
+    show(localized("Cleaning Up..."), localized("Caravel is removing unneeded files..."));
+}
+
+void SyncStatus::syncNotEnoughFreeSpace(quint64 bytes)
+{
+    m_services.logger.log(
+        QStringLiteral("Not enough free space to complete sync of size: %@"), size(bytes));
+    doAlert(localized("Sync too large!"),
+            filled(localized("You are attempting to sync %@, however only %@ of free space is "
+                             "available on the Memory Stick currently in your PSP.\n\nPlease "
+                             "deselect some media to ensure the sync can be completed."),
+                   {size(bytes), size(m_services.manager.pspFreeSpace())}),
+            AlertStyle::Critical);
+}
+
+void SyncStatus::syncDidStart()
+{
+    show(localized("Starting Sync..."), localized("Caravel is copying selected files..."));
+}
+
+void SyncStatus::syncWillProcessModule(const QString &moduleName)
+{
+    setStatusText(filled(localized("Syncing %@..."), {moduleName}));
+    m_services.frontEnd.updateUserInterface();
+}
+
+void SyncStatus::syncWillProcessItem(const CVSyncItem &item)
+{
+    setStatusSubText(item.description);
+    m_services.frontEnd.updateUserInterface();
+}
+
+void SyncStatus::syncDidCopyBytes(quint64)
+{
+    m_services.frontEnd.updateSyncBytes();
+}
+
+void SyncStatus::syncDidCopyLastBytes()
+{
+    m_services.frontEnd.updateUserInterface();
+}
+
+void SyncStatus::syncDidProcessItem(const CVSyncItem &) {}
+
+void SyncStatus::finalizeDidStart() {}
+
+void SyncStatus::syncWillCancel()
+{
+    show(localized("Cancelling Sync..."),
+         localized("Please wait while Caravel completes the previous task..."));
+}
+
+void SyncStatus::syncError(const ErrorInfo &error)
+{
+    const QString kind = error.value(QStringLiteral("Error")).toString();
+    // A write that fails leaves a file as incomplete as one that couldn't be made.
+    if (kind != u"Couldn't create" && kind != u"Couldn't write") {
+        qCWarning(lcApp).noquote() << description(error);
+        return;
+    }
+    CVSyncManager &manager = m_services.manager;
+    if (manager.pspIsMounted() && manager.pspFreeSpace().value_or(0) == 0)
+        memoryStickFilled();
+    else
+        m_services.logger.log(QStringLiteral("Unexpected error: %@"), description(error));
+}
+
+void SyncStatus::memoryStickFilled()
+{
+    // Files that follow fail the same way before the run has stopped; the user is told once.
+    if (!m_services.manager.canCancelSync())
+        return;
+    m_services.manager.cancelSync();
+    m_services.logger.log(QStringLiteral("Memory stick filled while syncing!"));
+    doAlert(localized("Memory stick full!"),
+            localized("The Memory Stick currently inside your PSP has been filled. You must "
+                      "deselect some media to free enough space to complete a sync."),
+            AlertStyle::Critical);
+}
+
+void SyncStatus::syncDidFinish(bool completed)
+{
+    m_services.frontEnd.updateSyncBytes();
+    m_services.frontEnd.syncDidFinish(completed);
+    const bool brief = !Preferences::useDetailedLogging();
+    if (completed) {
+        if (brief)
+            m_services.logger.log(QStringLiteral("Sync was completed successfully."));
+        setStatusText(localized("Sync Successful"));
+        setStatusSubText(lastSyncText());
+    } else {
+        if (brief)
+            m_services.logger.log(localized("Sync was cancelled."));
+        setStatusText(localized("Sync Cancelled"));
+        setStatusSubText(localized("You must re-sync to ensure the PSP is up to date."));
+    }
+    UserDefaults::standard().synchronize();
+    m_services.manager.refreshSyncBytesEstimate();
+    m_services.frontEnd.updateUserInterface();
+}
+
+void SyncStatus::newSyncBytesEstimate(quint64 bytes)
+{
+    if (Preferences::useDetailedLogging()) {
+        const UserDefaults &defaults = UserDefaults::standard();
+        qCInfo(lcApp).noquote() << filled(
+            QStringLiteral("Got %@, last sync size = %@, last stick size = %@"),
+            {size(bytes), size(defaults.unsignedForKey(QStringLiteral("lastSyncSize"))),
+             size(defaults.unsignedForKey(QStringLiteral("lastStickSize")))});
+    }
+    m_services.frontEnd.updateSyncBytesEstimate();
+}

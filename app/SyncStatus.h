@@ -1,0 +1,85 @@
+#pragma once
+
+#include "app/FrontEnd.h"
+#include "sync/CVSyncManagerDelegate.h"
+
+#include <QString>
+
+#include <atomic>
+#include <functional>
+
+class Clock;
+class CVSyncManager;
+class QMLogger;
+
+/// Shows an alert where no front-end does. Main thread; must not wait for the user.
+class AlertPresenter
+{
+public:
+    virtual ~AlertPresenter() = default;
+    virtual void show(const QString &title, const QString &message, AlertStyle style) = 0;
+};
+
+/// Turns what the sync manager tells into the two status lines, log lines and alerts, and hands it on
+/// to the front-end. Main thread, but for the two questions.
+class SyncStatus : public CVSyncManagerDelegate
+{
+public:
+    /// What it works with; not owned, outliving it.
+    struct Services
+    {
+        CVSyncManager &manager;
+        QMLogger &logger;
+        FrontEnd &frontEnd;
+        AlertPresenter &alerts;
+        const Clock &clock;
+        std::function<void()> openFrontEnd;
+    };
+    explicit SyncStatus(Services services);
+
+    QString statusText() const { return m_statusText; }
+    QString statusSubText() const { return m_statusSubText; }
+    void setStatusText(const QString &text);
+    void setStatusSubText(const QString &text);
+    /// The texts before anything is known; not logged.
+    void setInitialTexts();
+
+    /// While set, a stick is neither synced on mount nor ejected after a run. Any thread.
+    bool isInteractive() const { return m_isInteractive; }
+    void setIsInteractive(bool interactive) { m_isInteractive = interactive; }
+
+    /// Through the front-end where one is connected, else by ourselves.
+    void doAlert(const QString &title, const QString &message, AlertStyle style);
+
+    void pspDidMount(const QString &volume) override;
+    void pspDidUnmount() override;
+    void foundUnformattedMemoryStick() override;
+    bool shouldSyncOnMount() override;
+    void syncWillStart() override;
+    void syncWillCleanUp() override;
+    void syncNotEnoughFreeSpace(quint64 bytes) override;
+    void syncWillCancel() override;
+    void syncDidStart() override;
+    void syncWillProcessModule(const QString &moduleName) override;
+    void syncWillProcessItem(const CVSyncItem &item) override;
+    void syncDidCopyBytes(quint64 count) override;
+    void syncDidCopyLastBytes() override;
+    void syncDidProcessItem(const CVSyncItem &item) override;
+    void syncError(const ErrorInfo &error) override;
+    void finalizeDidStart() override;
+    bool shouldUnmountPSP() override;
+    void pspWillUnmount() override;
+    void pspUnmountFailed() override;
+    void syncDidFinish(bool completed) override;
+    void newSyncBytesEstimate(quint64 bytes) override;
+
+private:
+    void show(const QString &text, const QString &subText);
+    QString lastSyncText() const;
+    void memoryStickFilled();
+
+    const Services m_services;
+    QString m_statusText;
+    QString m_statusSubText;
+    std::atomic<bool> m_isInteractive = false;
+};

@@ -1,0 +1,70 @@
+#include "frontend/Follower.h"
+
+#include "frontend/Output.h"
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+Follower::Follower(HelperClient &helper)
+    : m_helper(helper)
+    , m_frontEnd(helper)
+    , m_quitSignals([this](int) { interrupted(); })
+{
+    m_soon.setSingleShot(true);
+    m_slow.setInterval(1s);
+    connect(&m_soon, &QTimer::timeout, this, &Follower::readNow);
+    connect(&m_slow, &QTimer::timeout, this, &Follower::readNow);
+    connect(&m_frontEnd, &FrontEndObject::changed, this, &Follower::readSoon);
+    connect(&m_frontEnd, &FrontEndObject::pspDidMount, this, &Follower::readSoon);
+    connect(&m_frontEnd, &FrontEndObject::pspDidUnmount, this, &Follower::readSoon);
+    connect(&m_frontEnd, &FrontEndObject::alert, this, &Follower::alert);
+    connect(&m_helper, &HelperClient::gone, this, [this] { finish(NoHelper); });
+}
+
+ExitStatus Follower::run()
+{
+    begin();
+    readNow();
+    m_slow.start();
+    if (!m_finished)
+        m_loop.exec();
+    if (m_helper.failed())
+        return m_helper.reportFailure();
+    return m_status;
+}
+
+void Follower::alert(const QString &title, const QString &message, int)
+{
+    Output::printError(title + u'\n' + message);
+}
+
+void Follower::readSoon()
+{
+    constexpr qint64 interval = 100;
+    if (m_soon.isActive())
+        return;
+    const qint64 elapsed = m_sinceReading.isValid() ? m_sinceReading.elapsed() : interval;
+    m_soon.start(static_cast<int>(std::max<qint64>(0, interval - elapsed)));
+}
+
+void Follower::readNow()
+{
+    if (m_finished)
+        return;
+    const HelperState state = m_helper.state();
+    m_sinceReading.start();
+    if (m_helper.failed())
+        finish(NoHelper);
+    else
+        stateRead(state);
+}
+
+void Follower::finish(ExitStatus status)
+{
+    if (m_finished)
+        return;
+    m_finished = true;
+    m_status = status;
+    m_loop.quit();
+}

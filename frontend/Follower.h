@@ -1,0 +1,48 @@
+#pragma once
+
+#include "frontend/FrontEndObject.h"
+#include "frontend/HelperClient.h"
+#include "platform/QuitSignals.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+/// A command that stays connected and follows the helper: reads its state when the helper says that
+/// something changed, at most ten times a second, and once a second without being told, since
+/// another front-end may have taken this one's place with the helper. Ends with the helper.
+class Follower : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Follower(HelperClient &helper);
+
+    /// Follows until finish() is called or the helper goes away; its answer is the exit status.
+    ExitStatus run();
+
+protected:
+    /// Called once, connected, before the first state: what is to be told to the helper.
+    virtual void begin() {}
+    virtual void stateRead(const HelperState &state) = 0;
+    virtual void alert(const QString &title, const QString &message, int style);
+    virtual void interrupted() { finish(Done); } ///< Ctrl-C, or a request to terminate
+
+    void finish(ExitStatus status);
+    void readNow();
+
+    HelperClient &helper() { return m_helper; }
+    FrontEndObject &frontEnd() { return m_frontEnd; }
+
+private:
+    void readSoon();
+
+    HelperClient &m_helper;
+    FrontEndObject m_frontEnd;
+    QuitSignals m_quitSignals;
+    QEventLoop m_loop;
+    QTimer m_soon; // single shot, to the next permitted reading
+    QTimer m_slow;
+    QElapsedTimer m_sinceReading;
+    ExitStatus m_status = Done;
+    bool m_finished = false;
+};

@@ -1,0 +1,145 @@
+#include "frontend/HelperClient.h"
+
+#include "frontend/Output.h"
+#include "platform/Bundle.h"
+#include "platform/NamedConnection.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTimer>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto answerLimit = 60s; // a list reads whole libraries, an eject flushes a stick
+constexpr auto startLimit = 10s;
+
+QString helperBundle()
+{
+    return Bundle::main().path() + QStringLiteral("/Contents/Helpers/CaravelHelper");
+}
+
+// The helper outlives this command: it keeps neither its terminal nor its folder, so that a folder
+// given relative to that has to be spelled out.
+bool startDetached(const QString &program)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QString volumes = QStringLiteral("CARAVEL_VOLUMES");
+    if (const QString folder = environment.value(volumes); !folder.isEmpty())
+        environment.insert(volumes, QDir().absoluteFilePath(folder));
+    QProcess process;
+    process.setProgram(program);
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(QDir::rootPath());
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached();
+}
+
+} // namespace
+
+HelperClient::HelperClient() = default;
+HelperClient::~HelperClient() = default;
+
+QString HelperClient::service()
+{
+    return NamedConnection::busName(QStringLiteral("CaravelHelper ") + Bundle::main().version());
+}
+
+bool HelperClient::connectToHelper()
+{
+    if (!NamedConnection::busAvailable()) {
+        fail(NoHelper, QStringLiteral("no helper: there is no session bus to reach it by"));
+        return false;
+    }
+    m_remote = std::make_unique<RemoteObject>(service(), QStringLiteral("/CaravelHelper"),
+                                              QStringLiteral("org.caravel.CaravelHelperProtocol"));
+    if (!m_remote->isAvailable() && !start())
+        return false;
+    connect(m_remote.get(), &RemoteObject::vanished, this, [this] {
+        fail(NoHelper, QStringLiteral("the helper has gone away"));
+        Q_EMIT gone();
+    });
+    return true;
+}
+
+// The bus starts the helper where it knows how to; else its executable beside ours is started.
+bool HelperClient::start()
+{
+    if (m_remote->call(QStringLiteral("pspIsMounted"), {}, startLimit).value)
+        return true;
+    const QString program = Bundle(helperBundle()).executable();
+    if (program.isEmpty())
+        fail(NoHelper, QStringLiteral("no helper: none is installed in %1").arg(helperBundle()));
+    else if (!startDetached(program))
+        fail(NoHelper, QStringLiteral("no helper: %1 can't be started").arg(program));
+    else if (!waitUntilThere())
+        fail(
+            NoHelper,
+            QStringLiteral("no helper: %1 was started but did not appear on the bus").arg(program));
+    return !failed();
+}
+
+bool HelperClient::waitUntilThere()
+{
+    QEventLoop loop;
+    connect(m_remote.get(), &RemoteObject::appeared, &loop, &QEventLoop::quit);
+    QTimer::singleShot(startLimit, &loop, &QEventLoop::quit);
+    if (!m_remote->isAvailable())
+        loop.exec();
+    return m_remote->isAvailable();
+}
+
+QVariant HelperClient::ask(const QString &method, const QVariantList &arguments)
+{
+    if (failed())
+        return {};
+    const RemoteObject::Answer answer = m_remote->call(method, arguments, answerLimit, false);
+    if (answer.value)
+        return *answer.value;
+    if (m_remote->isAvailable())
+        fail(Refused, QStringLiteral("%1: %2").arg(method, answer.error));
+    else
+        fail(NoHelper, QStringLiteral("the helper has gone away"));
+    return {};
+}
+
+HelperState HelperClient::state()
+{
+    return {
+        .mounted = askBool(QStringLiteral("pspIsMounted")),
+        .syncing = askBool(QStringLiteral("isSyncing")),
+        .canCancel = askBool(QStringLiteral("canCancelSync")),
+        .indeterminate = askBool(QStringLiteral("isIndeterminate")),
+        .statusText = askText(QStringLiteral("statusText")),
+        .statusSubText = askText(QStringLiteral("statusSubText")),
+        .syncBytes = askCount(QStringLiteral("syncBytes")),
+        .syncBytesTotal = askCount(QStringLiteral("syncBytesTotal")),
+    };
+}
+
+void HelperClient::tell(const QString &method, const QVariantList &arguments)
+{
+    if (!failed())
+        m_remote->send(method, arguments);
+}
+
+ExitStatus HelperClient::reportFailure()
+{
+    if (!m_failureText.isEmpty())
+        Output::error(m_failureText);
+    m_failureText.clear();
+    return m_failure;
+}
+
+void HelperClient::fail(ExitStatus status, const QString &text)
+{
+    if (failed())
+        return;
+    m_failure = status;
+    m_failureText = text;
+}

@@ -1,0 +1,187 @@
+#include "frontend/ListCommands.h"
+
+#include "frontend/HelperClient.h"
+#include "frontend/Output.h"
+#include "platform/UserDefaults.h"
+
+#include <QJsonArray>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+const ListKind &kindNamed(const QString &name)
+{
+    const auto &kinds = listKinds();
+    const auto found = std::find_if(kinds.begin(), kinds.end(),
+                                    [&](const ListKind &kind) { return kind.name == name; });
+    Q_ASSERT(found != kinds.end());
+    return *found;
+}
+
+QString text(const QVariantMap &row, QStringView key)
+{
+    return row.value(key.toString()).toString();
+}
+
+QStringList currentSelection(const ListKind &kind, const QVariantList &rows)
+{
+    if (!kind.preferenceKey.isEmpty())
+        return UserDefaults::standard()
+            .stringArrayForKey(kind.preferenceKey)
+            .value_or(QStringList());
+    QStringList selected;
+    for (const QVariant &each : rows) {
+        const QVariantMap row = each.toMap();
+        if (row.value(QStringLiteral("enabled")).toBool())
+            selected.append(text(row, u"identifier"));
+    }
+    return selected;
+}
+
+// Entries in the unit, its size in bytes, or what a game save says of itself.
+QString detail(const QVariantMap &row)
+{
+    QStringList parts;
+    for (const QStringView key :
+         {QStringView(u"size"), QStringView(u"description"), QStringView(u"date")}) {
+        if (const QString part = text(row, key); !part.isEmpty())
+            parts.append(part);
+    }
+    return Output::printable(parts.join(QStringLiteral("  ")));
+}
+
+void printRows(const QVariantList &rows, const QStringList &selected)
+{
+    int width = 0;
+    for (const QVariant &row : rows)
+        width = std::max(width, Output::columns(text(row.toMap(), u"name")));
+    for (const QVariant &each : rows) {
+        const QVariantMap row = each.toMap();
+        const QString name = Output::printable(text(row, u"name"));
+        const QString mark = selected.contains(text(row, u"identifier")) ? QStringLiteral("[x] ")
+                                                                         : QStringLiteral("[ ] ");
+        const QString gap(width - Output::columns(name) + 2, u' ');
+        Output::print((mark + name + gap + detail(row)).trimmed());
+    }
+}
+
+QSet<QString> identifiersNamed(const QVariantList &rows, const QString &name)
+{
+    QSet<QString> named;
+    for (const QVariant &each : rows) {
+        const QVariantMap row = each.toMap();
+        if (text(row, u"identifier") == name)
+            return {name};
+        if (text(row, u"name") == name)
+            named.insert(text(row, u"identifier"));
+    }
+    return named;
+}
+
+bool isWanted(SelectMode mode, bool isNow, bool isNamed)
+{
+    switch (mode) {
+    case SelectMode::Add:
+        return isNow || isNamed;
+    case SelectMode::Remove:
+        return isNow && !isNamed;
+    case SelectMode::All:
+        return true;
+    case SelectMode::None:
+        return false;
+    case SelectMode::Replace:
+        break;
+    }
+    return isNamed;
+}
+
+ExitStatus refuseNames(const ListKind &kind, const QStringList &names)
+{
+    Output::error(QStringLiteral("not among the %1: %2 (nothing was changed)")
+                      .arg(kind.name, names.join(QStringLiteral(", "))));
+    return Refused;
+}
+
+} // namespace
+
+const std::vector<ListKind> &listKinds()
+{
+    static const std::vector<ListKind> kinds = {
+        {QStringLiteral("music"),
+         QStringLiteral("musicItems"),
+         QStringLiteral("setSelectedMusicIdentifiers"),
+         {}},
+        {QStringLiteral("photos"),
+         QStringLiteral("photosItems"),
+         QStringLiteral("setSelectedPhotosIdentifiers"),
+         {}},
+        {QStringLiteral("bookmarks"),
+         QStringLiteral("bookmarksItems"),
+         QStringLiteral("setSelectedBookmarksIdentifiers"),
+         {}},
+        {QStringLiteral("movies"),
+         QStringLiteral("moviesItems"),
+         QStringLiteral("setSelectedMoviesIdentifiers"),
+         {}},
+        {QStringLiteral("saves"), QStringLiteral("backupItems"),
+         QStringLiteral("setSelectedBackupIdentifiers"), QStringLiteral("enabledBackup")},
+    };
+    return kinds;
+}
+
+Selection changedSelection(const QVariantList &rows, const QStringList &current, SelectMode mode,
+                           const QStringList &names)
+{
+    Selection selection;
+    QSet<QString> named;
+    for (const QString &name : names) {
+        const QSet<QString> identifiers = identifiersNamed(rows, name);
+        named.unite(identifiers);
+        if (identifiers.isEmpty())
+            selection.unknown.append(name);
+    }
+    for (const QVariant &row : rows) {
+        const QString identifier = text(row.toMap(), u"identifier");
+        if (isWanted(mode, current.contains(identifier), named.contains(identifier)))
+            selection.identifiers.append(identifier);
+    }
+    return selection;
+}
+
+ExitStatus runList(const QString &kindName, bool json)
+{
+    const ListKind &kind = kindNamed(kindName);
+    HelperClient helper;
+    helper.connectToHelper();
+    const QVariantList rows = helper.ask(kind.itemsMethod).toList();
+    if (helper.failed())
+        return helper.reportFailure();
+    if (json)
+        Output::json(QJsonArray::fromVariantList(rows));
+    else
+        printRows(rows, currentSelection(kind, rows));
+    return Done;
+}
+
+ExitStatus runSelect(const QString &kindName, SelectMode mode, const QStringList &names)
+{
+    const ListKind &kind = kindNamed(kindName);
+    HelperClient helper;
+    helper.connectToHelper();
+    const QVariantList rows = helper.ask(kind.itemsMethod).toList();
+    if (helper.failed())
+        return helper.reportFailure();
+    const Selection selection = changedSelection(rows, currentSelection(kind, rows), mode, names);
+    if (!selection.unknown.isEmpty())
+        return refuseNames(kind, selection.unknown);
+    helper.tell(kind.selectMethod, {selection.identifiers});
+    // Asked after the change, and served after it.
+    const QVariantList now = helper.ask(kind.itemsMethod).toList();
+    if (helper.failed())
+        return helper.reportFailure();
+    const bool rowsTell = kind.preferenceKey.isEmpty();
+    printRows(now, rowsTell ? currentSelection(kind, now) : selection.identifiers);
+    return Done;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "frontend/ExitStatus.h"
+
+#include <QStringList>
+#include <QVariantList>
+
+#include <optional>
+#include <vector>
+
+/// One kind of media whose rows the user selects from.
+struct ListKind
+{
+    QString name;        ///< as the command line calls it
+    QString itemsMethod; ///< the protocol's methods
+    QString selectMethod;
+    /// Of the selection in the shared preferences, for a kind whose rows don't tell what is
+    /// selected; else empty.
+    QString preferenceKey;
+};
+
+const std::vector<ListKind> &listKinds();
+
+/// `caravel list KIND`. As JSON the rows as the helper gives them.
+ExitStatus runList(const QString &kind, bool json);
+
+enum class SelectMode { Replace, Add, Remove, All, None };
+
+/// `caravel select KIND`: changes the selection as a whole or, where a name is in no row, not at
+/// all.
+ExitStatus runSelect(const QString &kind, SelectMode mode, const QStringList &names);
+
+/// What a change of selection comes to.
+struct Selection
+{
+    QStringList identifiers; ///< of the rows selected afterwards, in the order of the rows
+    QStringList unknown;     ///< names that are neither a row's identifier nor its name
+};
+
+/// The selection that the names (of All and None there are none) make of the current one. A name
+/// that is some row's identifier means that row alone, else every row with that name.
+Selection changedSelection(const QVariantList &rows, const QStringList &current, SelectMode mode,
+                           const QStringList &names);

@@ -1,0 +1,87 @@
+#include "frontend/Output.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <cstdio>
+#include <cwchar>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace {
+
+void write(std::FILE *stream, const QString &text)
+{
+    const QByteArray bytes = text.toLocal8Bit();
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+} // namespace
+
+void Output::print(const QString &line)
+{
+    write(stdout, line + u'\n');
+}
+
+void Output::error(const QString &text)
+{
+    printError(QStringLiteral("caravel: ") + text);
+}
+
+void Output::printError(const QString &line)
+{
+    write(stderr, line + u'\n');
+}
+
+void Output::raw(const QString &text)
+{
+    write(stdout, text);
+}
+
+void Output::json(const QJsonObject &object)
+{
+    print(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+}
+
+void Output::json(const QJsonArray &array)
+{
+    print(QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact)));
+}
+
+bool Output::isTerminal()
+{
+    return ::isatty(STDOUT_FILENO) == 1;
+}
+
+int Output::terminalWidth()
+{
+    winsize size = {};
+    const bool known = ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return known ? size.ws_col : 80;
+}
+
+QString Output::printable(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+            c == QChar::ParagraphSeparator)
+            c = u' ';
+    }
+    return text;
+}
+
+int Output::columns(const QString &text)
+{
+    int width = 0;
+    for (const char32_t c : text.toStdU32String()) {
+        const int one = ::wcwidth(static_cast<wchar_t>(c));
+        width += one < 0 ? 1 : one;
+    }
+    return width;
+}
+
+QString Output::yesNo(bool value)
+{
+    return value ? QStringLiteral("yes") : QStringLiteral("no");
+}

@@ -1,0 +1,190 @@
+#include "frontend/PrefsCommand.h"
+
+#include "frontend/HelperClient.h"
+#include "frontend/Output.h"
+#include "platform/DistributedNotificationCenter.h"
+#include "platform/NamedConnection.h"
+#include "platform/UserDefaults.h"
+#include "util/Preferences.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// The stored value in the type of its default, as every reader sees it.
+QVariant valueOf(const Preferences::Key &key)
+{
+    const UserDefaults &store = UserDefaults::standard();
+    switch (key.defaultValue.typeId()) {
+    case QMetaType::Bool:
+        return store.boolForKey(key.name);
+    case QMetaType::Int:
+        return store.integerForKey(key.name);
+    case QMetaType::ULongLong:
+        return store.unsignedForKey(key.name);
+    default:
+        return store.stringForKey(key.name);
+    }
+}
+
+bool isDefault(const Preferences::Key &key)
+{
+    return valueOf(key).toString() == key.defaultValue.toString();
+}
+
+QString shown(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::Bool)
+        return Output::yesNo(value.toBool());
+    if (value.typeId() == QMetaType::QDateTime)
+        return QLocale().toString(value.toDateTime().toLocalTime(), QLocale::ShortFormat);
+    if (value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList)
+        return value.toStringList().join(QStringLiteral(", "));
+    return value.toString();
+}
+
+const Preferences::Key *findKey(const QString &name)
+{
+    const auto &keys = Preferences::keys();
+    const auto found = std::find_if(keys.begin(), keys.end(),
+                                    [&](const Preferences::Key &key) { return key.name == name; });
+    return found == keys.end() ? nullptr : &*found;
+}
+
+// Kept by the helper, without a default: shown, never set here.
+bool isReadOnlyKey(const QString &name)
+{
+    static const QStringList keys = {
+        QStringLiteral("lastSync"),         QStringLiteral("enabledMusic"),
+        QStringLiteral("enabledPhotos"),    QStringLiteral("enabledMovies"),
+        QStringLiteral("enabledBookmarks"), QStringLiteral("enabledBackup"),
+        QStringLiteral("enabledContacts"),
+    };
+    return keys.contains(name);
+}
+
+QJsonObject entry(const QVariant &value, bool isDefaultValue)
+{
+    return {{QStringLiteral("value"), QJsonValue::fromVariant(value)},
+            {QStringLiteral("default"), isDefaultValue}};
+}
+
+ExitStatus showAll(bool json)
+{
+    QJsonObject object;
+    for (const Preferences::Key &key : Preferences::keys()) {
+        object.insert(key.name, entry(valueOf(key), isDefault(key)));
+        const QString mark = isDefault(key) ? QStringLiteral("  (default)") : QString();
+        if (!json)
+            Output::print(QStringLiteral("%1 = %2%3").arg(key.name, shown(valueOf(key)), mark));
+    }
+    if (json)
+        Output::json(object);
+    return Done;
+}
+
+ExitStatus showOne(const QString &name, bool json)
+{
+    const Preferences::Key *key = findKey(name);
+    const QVariant value = key ? valueOf(*key) : UserDefaults::standard().object(name);
+    const bool usesDefault = key ? isDefault(*key) : !value.isValid();
+    if (json)
+        Output::json(QJsonObject{{name, entry(value, usesDefault)}});
+    else
+        Output::print(shown(value));
+    return Done;
+}
+
+// The notification makes other processes read the store; the login item needs a word of its own.
+void tellOthers(const QString &name)
+{
+    if (!NamedConnection::busAvailable())
+        return;
+    DistributedNotificationCenter::defaultCenter().post(
+        QStringLiteral("CVPrefsDidChangeNotification"));
+    if (name == u"startOnLogin") {
+        RemoteObject helper(HelperClient::service(), QStringLiteral("/CaravelHelper"),
+                            QStringLiteral("org.caravel.CaravelHelperProtocol"));
+        helper.send(QStringLiteral("changeStartOnLogin"));
+    }
+    NamedConnection::flush();
+}
+
+QString expected(const QVariant &defaultValue)
+{
+    switch (defaultValue.typeId()) {
+    case QMetaType::Bool:
+        return QStringLiteral("yes or no");
+    case QMetaType::ULongLong:
+        return QStringLiteral("a whole number from 0");
+    default:
+        return QStringLiteral("a whole number");
+    }
+}
+
+ExitStatus setOne(const QString &name, const QString &text)
+{
+    const Preferences::Key *key = findKey(name);
+    if (!key) {
+        Output::error(QStringLiteral("%1 is kept by the helper and can't be set").arg(name));
+        return Refused;
+    }
+    const std::optional<QVariant> value = parsePreference(text, key->defaultValue);
+    if (!value) {
+        Output::error(
+            QStringLiteral("%1 takes %2, not \"%3\"").arg(name, expected(key->defaultValue), text));
+        return BadUsage;
+    }
+    UserDefaults &store = UserDefaults::standard();
+    store.setObject(name, *value);
+    if (!store.synchronize()) {
+        Output::error(QStringLiteral("the preferences can't be written"));
+        return Refused;
+    }
+    tellOthers(name);
+    return Done;
+}
+
+} // namespace
+
+std::optional<QVariant> parsePreference(const QString &text, const QVariant &defaultValue)
+{
+    static const QStringList yes = {QStringLiteral("yes"), QStringLiteral("true"),
+                                    QStringLiteral("on"), QStringLiteral("1")};
+    static const QStringList no = {QStringLiteral("no"), QStringLiteral("false"),
+                                   QStringLiteral("off"), QStringLiteral("0")};
+    bool ok = true;
+    QVariant value = text;
+    switch (defaultValue.typeId()) {
+    case QMetaType::Bool:
+        value = yes.contains(text.toLower());
+        ok = value.toBool() || no.contains(text.toLower());
+        break;
+    case QMetaType::Int:
+        value = text.toInt(&ok);
+        break;
+    case QMetaType::ULongLong:
+        value = text.toULongLong(&ok);
+        break;
+    default:
+        break;
+    }
+    return ok ? std::optional(value) : std::nullopt;
+}
+
+ExitStatus runPrefs(const QStringList &keyAndValue, bool json)
+{
+    UserDefaults::standard().registerDefaults(Preferences::registeredDefaults());
+    if (keyAndValue.isEmpty())
+        return showAll(json);
+    const QString &name = keyAndValue.first();
+    if (!findKey(name) && !isReadOnlyKey(name)) {
+        Output::error(QStringLiteral("no preference is called \"%1\"").arg(name));
+        return Refused;
+    }
+    return keyAndValue.size() == 1 ? showOne(name, json) : setOne(name, keyAndValue[1]);
+}

@@ -1,0 +1,168 @@
+#include "frontend/StatusCommands.h"
+
+#include "frontend/FrontEndObject.h"
+#include "frontend/Output.h"
+#include "frontend/ProgressDisplay.h"
+#include "platform/Localized.h"
+
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+struct Estimate
+{
+    QString size;
+    quint64 percent = 0;
+};
+
+Estimate readEstimate(HelperClient &helper)
+{
+    return {helper.askText(QStringLiteral("syncBytesEstimate")),
+            helper.askCount(QStringLiteral("syncPercentEstimate"))};
+}
+
+QString estimateText(const Estimate &estimate)
+{
+    return QStringLiteral("%1 (%2%)").arg(estimate.size).arg(estimate.percent);
+}
+
+void insertEstimate(QJsonObject &object, const Estimate &estimate)
+{
+    object.insert(QStringLiteral("syncBytesEstimate"), estimate.size);
+    object.insert(QStringLiteral("syncPercentEstimate"), static_cast<qint64>(estimate.percent));
+}
+
+void printField(QStringView name, const QString &value)
+{
+    Output::print(name.toString().leftJustified(12) + Output::printable(value));
+}
+
+void printStatus(const HelperState &state, bool firstSync, const Estimate &estimate)
+{
+    printField(u"PSP:", state.mounted ? QStringLiteral("connected") : QStringLiteral("none"));
+    printField(u"Status:", state.statusText);
+    printField(u"", state.statusSubText);
+    printField(u"Syncing:", Output::yesNo(state.syncing));
+    if (ProgressText::percent(state))
+        printField(u"Progress:", ProgressText::amount(state));
+    printField(u"First sync:", Output::yesNo(firstSync));
+    printField(u"Selected:", estimateText(estimate));
+}
+
+// Whether the helper reported a new estimate in time.
+bool refreshEstimate(HelperClient &helper)
+{
+    FrontEndObject frontEnd(helper);
+    QEventLoop loop;
+    bool arrived = false;
+    QObject::connect(&frontEnd, &FrontEndObject::estimateChanged, &loop, [&] {
+        arrived = true;
+        loop.quit();
+    });
+    QObject::connect(&helper, &HelperClient::gone, &loop, &QEventLoop::quit);
+    QTimer::singleShot(60s, &loop, &QEventLoop::quit);
+    helper.tell(QStringLiteral("refreshSyncBytesEstimate"));
+    if (!helper.failed())
+        loop.exec();
+    return arrived;
+}
+
+ExitStatus waitForEject(HelperClient &helper)
+{
+    const QDeadlineTimer deadline(60s);
+    QEventLoop loop;
+    QObject::connect(&helper, &HelperClient::gone, &loop, &QEventLoop::quit);
+    while (!helper.failed()) {
+        // The helper serves this after it has tried: a failure is told by the first answer.
+        const HelperState state = helper.state();
+        if (helper.failed())
+            break;
+        if (!state.mounted)
+            return Done;
+        if (state.statusText == localized("Eject Failed") || deadline.hasExpired()) {
+            Output::error(state.statusText + u'\n' + state.statusSubText);
+            return Refused;
+        }
+        QTimer::singleShot(250ms, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    return helper.reportFailure();
+}
+
+} // namespace
+
+QJsonObject stateToJson(const HelperState &state)
+{
+    return {
+        {QStringLiteral("mounted"), state.mounted},
+        {QStringLiteral("statusText"), state.statusText},
+        {QStringLiteral("statusSubText"), state.statusSubText},
+        {QStringLiteral("syncing"), state.syncing},
+        {QStringLiteral("canCancelSync"), state.canCancel},
+        {QStringLiteral("isIndeterminate"), state.indeterminate},
+        {QStringLiteral("syncBytes"), static_cast<qint64>(state.syncBytes)},
+        {QStringLiteral("syncBytesTotal"), static_cast<qint64>(state.syncBytesTotal)},
+    };
+}
+
+ExitStatus runStatus(bool json)
+{
+    HelperClient helper;
+    helper.connectToHelper();
+    const HelperState state = helper.state();
+    const bool firstSync = helper.askBool(QStringLiteral("isFirstSync"));
+    const Estimate estimate = readEstimate(helper);
+    if (helper.failed())
+        return helper.reportFailure();
+    if (!json) {
+        printStatus(state, firstSync, estimate);
+        return Done;
+    }
+    QJsonObject object = stateToJson(state);
+    object.insert(QStringLiteral("isFirstSync"), firstSync);
+    insertEstimate(object, estimate);
+    Output::json(object);
+    return Done;
+}
+
+ExitStatus runEstimate(bool json)
+{
+    HelperClient helper;
+    helper.connectToHelper();
+    const bool syncing = helper.askBool(QStringLiteral("isSyncing"));
+    if (!helper.failed() && !syncing && !refreshEstimate(helper) && !helper.failed()) {
+        Output::error(QStringLiteral("the helper has made no estimate within a minute"));
+        return Refused;
+    }
+    const Estimate estimate = readEstimate(helper);
+    if (helper.failed())
+        return helper.reportFailure();
+    QJsonObject object;
+    insertEstimate(object, estimate);
+    if (json)
+        Output::json(object);
+    else
+        Output::print(estimateText(estimate));
+    return Done;
+}
+
+ExitStatus runEject()
+{
+    HelperClient helper;
+    helper.connectToHelper();
+    const bool mounted = helper.askBool(QStringLiteral("pspIsMounted"));
+    const bool canSync = helper.askBool(QStringLiteral("canSync"));
+    if (helper.failed())
+        return helper.reportFailure();
+    if (!canSync) {
+        Output::error(mounted ? QStringLiteral("A sync is running.")
+                              : QStringLiteral("No PSP is connected."));
+        return Refused;
+    }
+    helper.tell(QStringLiteral("ejectPSP"), {QVariantMap()});
+    return waitForEject(helper);
+}

@@ -1,0 +1,195 @@
+#include "frontend/ListCommands.h"
+#include "frontend/Output.h"
+#include "frontend/PrefsCommand.h"
+#include "frontend/StatusCommands.h"
+#include "frontend/SyncCommand.h"
+#include "frontend/WatchCommand.h"
+#include "platform/Bundle.h"
+
+#include <CLI/CLI.hpp>
+
+#include <QCoreApplication>
+
+namespace {
+
+QStringList toTexts(const std::vector<std::string> &words)
+{
+    QStringList texts;
+    for (const std::string &word : words)
+        texts.append(QString::fromLocal8Bit(word));
+    return texts;
+}
+
+// Where the parser leaves what was given. One command is chosen, so the options share their places.
+struct Arguments
+{
+    bool json = false;
+    bool noWait = false;
+    bool follow = false;
+    bool clear = false;
+    bool add = false;
+    bool remove = false;
+    bool all = false;
+    bool none = false;
+    std::string kind;
+    std::vector<std::string> words;
+};
+
+class CommandLine
+{
+public:
+    CommandLine();
+    int run(int argc, char **argv);
+
+private:
+    using Command = std::function<ExitStatus()>;
+
+    CLI::App *add(const std::string &name, const std::string &description, Command command);
+    CLI::App *addReading(const std::string &name, const std::string &description, Command command);
+    void addLog();
+    void addSync();
+    void addList();
+    void addSelect();
+    void addPrefs();
+    ExitStatus select() const;
+
+    CLI::App m_app{"Keeps a PSP's Memory Stick up to date with your media.", "caravel"};
+    Arguments m_arguments;
+    Command m_chosen;
+};
+
+CommandLine::CommandLine()
+{
+    m_app.require_subcommand(0, 1);
+    m_app.set_version_flag(
+        "--version", [] { return "caravel build " + Bundle::main().version().toStdString(); });
+    addReading("status", "Show the PSP, the sync and the selection's size",
+               [this] { return runStatus(m_arguments.json); });
+    addReading("watch", "Show the state and every change of it until Ctrl-C",
+               [this] { return runWatch(m_arguments.json); });
+    addLog();
+    addSync();
+    add("cancel", "Cancel the running sync", [] { return runCancel(); });
+    add("eject", "Eject the PSP", [] { return runEject(); });
+    addReading("estimate", "Estimate how much of the PSP the selection takes",
+               [this] { return runEstimate(m_arguments.json); });
+    addList();
+    addSelect();
+    addPrefs();
+}
+
+CLI::App *CommandLine::add(const std::string &name, const std::string &description, Command command)
+{
+    CLI::App *subcommand = m_app.add_subcommand(name, description);
+    subcommand->callback([this, command = std::move(command)] { m_chosen = command; });
+    return subcommand;
+}
+
+CLI::App *CommandLine::addReading(const std::string &name, const std::string &description,
+                                  Command command)
+{
+    CLI::App *subcommand = add(name, description, std::move(command));
+    subcommand->add_flag("--json", m_arguments.json, "Print JSON");
+    return subcommand;
+}
+
+void CommandLine::addLog()
+{
+    CLI::App *log = addReading("log", "Show the helper's log", [this] {
+        const LogMode shown = m_arguments.follow ? LogMode::Follow : LogMode::Show;
+        return runLog(m_arguments.clear ? LogMode::Clear : shown, m_arguments.json);
+    });
+    CLI::Option *follow =
+        log->add_flag("--follow", m_arguments.follow, "Go on with new lines until Ctrl-C");
+    log->add_flag("--clear", m_arguments.clear, "Empty the log instead")->excludes(follow);
+}
+
+void CommandLine::addSync()
+{
+    CLI::App *sync = add("sync", "Sync now; Ctrl-C cancels the sync",
+                         [this] { return runSync(!m_arguments.noWait); });
+    sync->add_flag("--no-wait", m_arguments.noWait, "Return once the sync was asked for");
+}
+
+void addKind(CLI::App &subcommand, std::string &kind)
+{
+    std::vector<std::string> names;
+    for (const ListKind &each : listKinds())
+        names.push_back(each.name.toStdString());
+    subcommand.add_option("KIND", kind, "Kind of media")->required()->check(CLI::IsMember(names));
+}
+
+void CommandLine::addList()
+{
+    CLI::App *list =
+        addReading("list", "List what can be selected, with a mark for what is", [this] {
+            return runList(QString::fromStdString(m_arguments.kind), m_arguments.json);
+        });
+    addKind(*list, m_arguments.kind);
+}
+
+void CommandLine::addSelect()
+{
+    CLI::App *select =
+        add("select", "Select what is synced: the NAMEs, or change the selection by them",
+            [this] { return this->select(); });
+    addKind(*select, m_arguments.kind);
+    CLI::Option *names = select->add_option("NAME", m_arguments.words, "Names or identifiers");
+    CLI::Option *add = select->add_flag("--add", m_arguments.add, "Select the NAMEs too");
+    CLI::Option *remove =
+        select->add_flag("--remove", m_arguments.remove, "Deselect the NAMEs")->excludes(add);
+    CLI::Option *all = select->add_flag("--all", m_arguments.all, "Select everything");
+    CLI::Option *none = select->add_flag("--none", m_arguments.none, "Select nothing");
+    all->excludes(add)->excludes(remove)->excludes(names);
+    none->excludes(add)->excludes(remove)->excludes(names)->excludes(all);
+}
+
+void CommandLine::addPrefs()
+{
+    CLI::App *prefs =
+        addReading("prefs", "Show the preferences, or one of them, or set it",
+                   [this] { return runPrefs(toTexts(m_arguments.words), m_arguments.json); });
+    prefs->add_option("KEY VALUE", m_arguments.words, "Preference, and the value to set")
+        ->expected(0, 2)
+        ->type_name("");
+}
+
+ExitStatus CommandLine::select() const
+{
+    SelectMode mode = SelectMode::Replace;
+    if (m_arguments.add)
+        mode = SelectMode::Add;
+    else if (m_arguments.remove)
+        mode = SelectMode::Remove;
+    else if (m_arguments.all)
+        mode = SelectMode::All;
+    else if (m_arguments.none)
+        mode = SelectMode::None;
+    const bool needsNames = mode != SelectMode::All && mode != SelectMode::None;
+    if (needsNames && m_arguments.words.empty()) {
+        Output::error(QStringLiteral("name what to select, or say --all or --none"));
+        return BadUsage;
+    }
+    return runSelect(QString::fromStdString(m_arguments.kind), mode, toTexts(m_arguments.words));
+}
+
+int CommandLine::run(int argc, char **argv)
+{
+    try {
+        m_app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return m_app.exit(error) == 0 ? Done : BadUsage;
+    }
+    if (m_chosen)
+        return m_chosen();
+    Output::printError(QString::fromStdString(m_app.help()));
+    return BadUsage;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    return CommandLine().run(argc, argv);
+}

@@ -1,0 +1,3 @@
+#include "modules/Log.h"
+
+Q_LOGGING_CATEGORY(lcModules, "caravel.modules")

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "modules/MusicLibrary.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <string_view>
+#include <unordered_map>
+
+/// Folder and file names of tracks on the stick, for one library and one pair of preferences.
+class MusicNaming
+{
+public:
+    // Stored numbers of the preference "organizeMusicBy"; any other counts as Album.
+    enum OrganizeBy { Playlist = 0, Artist = 1, Album = 2, ArtistAndAlbum = 3 };
+    // Stored numbers of "sortMusicBy"; any other counts as DiscAndTrack.
+    enum SortBy { Position = 0, Nothing = 1, DiscAndTrack = 2 };
+
+    MusicNaming(qint64 organizeBy, qint64 sortBy);
+
+    /// Names from here on are those of this playlist's tracks.
+    void beginPlaylist(const QString &name);
+
+    /// "folder/file" of the playlist's track at the position (from 0), which `suffix` (the extension
+    /// with its dot) will follow. Neither component leaves its place or is too long.
+    QString relativePath(const MusicLibrary::Track &track, int position, QStringView suffix);
+
+    /// What a file of that extension is called on the stick: "M4A" and "AAC" become "MP4".
+    static QString extensionOnStick(QStringView extension);
+
+    /// Whether the stick plays files of that extension; any case.
+    static bool isPlayable(QStringView extension, qint64 firmwareVersion);
+
+private:
+    QString folder(const MusicLibrary::Track &track);
+    QString prefix(const MusicLibrary::Track &track, int position) const;
+    const QString &sanitized(const MusicLibrary::Text &text, const QString &absent);
+
+    const qint64 m_organizeBy;
+    const qint64 m_sortBy;
+    QString m_playlist;
+    // Artists and albums recur with every track of theirs. The keys are texts of the library.
+    std::unordered_map<std::string_view, QString> m_sanitized;
+};

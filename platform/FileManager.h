@@ -1,0 +1,142 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariantMap>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// What a failed file operation tells its handler: "Error" (what could not be done), "Path" (the
+/// path concerned, absolute) and, where the system gave one, "Reason" (its own text).
+using ErrorInfo = QVariantMap;
+
+/// Told of the progress and the errors of file operations, on the thread that runs them.
+class FileOperationHandler
+{
+public:
+    virtual ~FileOperationHandler() = default;
+
+    /// A chunked copy wrote so many bytes of one file (at most 1 MiB a call). True stops the copy.
+    virtual bool fileManagerCopiedBytes(quint64 bytes, const QString &toPath) = 0;
+
+    /// One step of an operation failed; the operation goes on with the next step when the answer is
+    /// true and ends there when it is false. The chunked copy ignores the answer.
+    virtual bool fileManagerShouldProceedAfterError(const ErrorInfo &error) = 0;
+};
+
+/// What one look at a path tells.
+struct FileStatus
+{
+    enum class Kind {
+        Missing, ///< nothing there, or it can't be reached
+        File,    ///< a regular file, or anything that is neither of the others
+        Folder,
+        Link, ///< a symbolic link; only where links are not followed
+    };
+    Kind kind = Kind::Missing;
+    quint64 size = 0; ///< bytes; 0 for what is missing
+
+    bool exists() const { return kind != Kind::Missing; }
+    bool isFolder() const { return kind == Kind::Folder; }
+};
+
+/// One entry of a recursive listing.
+struct FolderEntry
+{
+    QString path; ///< relative to the listed folder, in normal form, without a leading slash
+    bool isFolder = false; ///< a folder itself; false for a link to one
+    int parent = -1; ///< index of the folder that holds it in the same listing; -1: the listed folder
+};
+
+/// Size and free space of a file system in bytes; free is what an ordinary user can still fill.
+struct VolumeSpace
+{
+    quint64 size = 0;
+    quint64 free = 0;
+};
+
+/// The files of the machine. Paths are absolute, "/" between components, UTF-8 on disk. No call
+/// throws. Every call may come from any thread. The class is the layer that tests replace to make
+/// disks fail; the base class is the real thing (POSIX), so a test overrides only what it changes.
+class FileManager
+{
+public:
+    virtual ~FileManager() = default;
+
+    /// The process's file manager: the real one unless a test has put another in its place.
+    static FileManager &defaultManager();
+
+    /// For tests: replaces the default manager (not owned); nullptr restores the real one.
+    static void setDefaultManager(FileManager *manager);
+
+    /// One stat call. `status` follows links, `linkStatus` does not.
+    virtual FileStatus status(const QString &path) const;
+    virtual FileStatus linkStatus(const QString &path) const;
+    bool exists(const QString &path) const { return status(path).exists(); }
+
+    /// Everything below a folder: a folder before its contents, siblings in byte order of names,
+    /// links listed but not followed. One directory listing per folder and no stat call where the
+    /// file system tells the kind of its entries. Empty for what is no folder; a folder that can't be
+    /// read counts as empty and is named in the system log, as is an entry that is left out because
+    /// its name is no valid UTF-8 (no QString could lead back to it).
+    virtual std::vector<FolderEntry> subpaths(const QString &folder) const;
+
+    /// Whether two files, or two folder trees entry by entry, hold the same bytes. Links are compared
+    /// by their targets' texts and never followed. Sizes are compared before contents. False when
+    /// anything can't be read.
+    virtual bool contentsEqual(const QString &first, const QString &second) const;
+
+    /// Makes one folder (0755 less the umask). False when it could not, or something is there.
+    virtual bool createFolder(const QString &path);
+
+    /// Raw access for chunked copies, as POSIX: a descriptor or -1, a count or -1, errno set. Reads
+    /// and writes are retried when interrupted. `createForWriting` truncates (0644 less the umask).
+    virtual int openForReading(const QString &path);
+    virtual int createForWriting(const QString &path);
+    virtual qint64 read(int descriptor, void *buffer, size_t count);
+    virtual qint64 write(int descriptor, const void *buffer, size_t count);
+    virtual bool close(int descriptor);
+
+    /// Writes the buffers of the file system that holds the path to its device (syncfs); flushes every
+    /// file system where that fails.
+    virtual void flush(const QString &path);
+
+    /// Copies a file or a folder tree; links are copied as links. An existing destination is an error.
+    /// Errors go to the handler (may be null: every error is then passed over) and the copy goes on
+    /// with the next entry: "Couldn't copy" with the source's path, "Couldn't create" and "Couldn't
+    /// write" with the destination's. Pipes, sockets and devices are such errors and never opened; a
+    /// file that can't be copied whole leaves nothing. True when everything was copied. No progress is
+    /// reported.
+    virtual bool copy(const QString &source, const QString &destination,
+                      FileOperationHandler *handler);
+
+    /// Renames, or copies and removes where the destination lies on another file system; the source
+    /// is removed only after all of it was copied. An existing destination is an error.
+    virtual bool move(const QString &source, const QString &destination,
+                      FileOperationHandler *handler);
+
+    /// Removes a file, a link (not its target) or a folder with everything in it; errors as in
+    /// copy(). True when nothing is left at the path.
+    virtual bool remove(const QString &path, FileOperationHandler *handler);
+
+    /// Removes a folder only as long as it is empty, so that what somebody has just put there stays;
+    /// errors as in copy().
+    virtual bool removeEmptyFolder(const QString &path, FileOperationHandler *handler);
+
+    /// Replaces a small file whole: a temporary beside it, flushed, renamed, and the folder flushed.
+    /// On failure the old file stays, no temporary is left and the reason is stored; only when nothing
+    /// but the folder's flush failed, the new file is in place already.
+    virtual bool writeAtomically(const QString &path, const QByteArray &contents, QString *reason);
+
+    /// A whole file, or nothing when it is missing, unreadable, no regular file, or longer than the
+    /// limit.
+    virtual std::optional<QByteArray> readFile(const QString &path, quint64 limit) const;
+
+    /// Space of the file system that holds the path; nothing where the path doesn't exist.
+    virtual std::optional<VolumeSpace> volumeSpace(const QString &path) const;
+
+    /// What the desktop would call the file: its name.
+    virtual QString displayName(const QString &path) const;
+};

@@ -1,0 +1,83 @@
+#include "platform/PropertyListReader.h"
+
+#include "platform/Posix.h"
+#include "platform/PropertyListParts.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <string_view>
+
+using namespace PropertyListParts;
+
+namespace PropertyListParts {
+
+ssize_t readSome(int descriptor, void *buffer, std::size_t size)
+{
+    ssize_t count = 0;
+    do
+        count = ::read(descriptor, buffer, size);
+    while (count < 0 && errno == EINTR);
+    return count;
+}
+
+QString tooLongText(quint64 limit)
+{
+    return QStringLiteral("the file is longer than %1 bytes").arg(limit);
+}
+
+QString tooDeepText()
+{
+    return QStringLiteral("nested deeper than %1").arg(depthLimit);
+}
+
+} // namespace PropertyListParts
+
+namespace {
+
+bool isBinary(int descriptor)
+{
+    constexpr std::string_view magic = "bplist0";
+    char start[magic.size()];
+    return ::pread(descriptor, start, sizeof start, 0) == ssize_t(sizeof start) &&
+           std::string_view(start, sizeof start) == magic;
+}
+
+PropertyListError readOpenFile(int descriptor, quint64 limit, PropertyListHandler &handler)
+{
+    struct stat status;
+    if (::fstat(descriptor, &status) != 0)
+        return PropertyListError{Posix::reason(errno)};
+    const auto size = static_cast<quint64>(status.st_size);
+    if (size == 0)
+        return PropertyListError{QStringLiteral("the file is empty")};
+    if (size > limit)
+        return PropertyListError{tooLongText(limit)};
+    if (isBinary(descriptor))
+        return readBinary(descriptor, size, limit, handler);
+    return readXml(descriptor, limit, handler);
+}
+
+} // namespace
+
+QString PropertyListError::in(const QString &path) const
+{
+    const QString place = line > 0 ? path + u':' + QString::number(line) : path;
+    return place + QStringLiteral(": ") + text;
+}
+
+bool readPropertyList(const QString &path, quint64 limit, PropertyListHandler &handler,
+                      PropertyListError *error)
+{
+    PropertyListError problem;
+    const Posix::Descriptor file(Posix::openRegularFile(Posix::native(path).constData()));
+    const bool isMissing = !file && (errno == ENOENT || errno == ENOTDIR);
+    if (file)
+        problem = readOpenFile(file.get(), limit, handler);
+    else if (!isMissing)
+        problem = PropertyListError{Posix::reason(errno)};
+    if (error)
+        *error = problem;
+    return file && !problem;
+}

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+
+/// The user's preferences store: one domain of our own, a layer of registered defaults below it,
+/// and access to other programs' domains. A domain is the property list "<name>.plist" in the
+/// user's preferences folder.
+///
+/// Reads come from memory and never touch the disk; synchronize() brings memory and file together.
+/// Values of another type than asked for are converted as the platform does: a bool from "YES",
+/// "true", "1" or any number but 0; a number from its text (leading blanks and trailing text are
+/// passed over, anything else is 0); a string from a number.
+/// All reads and writes may come from any thread; a store is made and destroyed on the main thread.
+class UserDefaults : public QObject
+{
+    Q_OBJECT
+public:
+    /// `folder` is where the domains' files lie. The domain's file is read at once.
+    UserDefaults(QString domain, QString folder, QObject *parent = nullptr);
+    ~UserDefaults() override;
+
+    /// The store of the shared domain "org.caravel.Caravel" under $HOME/Library/Preferences, made
+    /// at the first call (main thread).
+    static UserDefaults &standard();
+
+    /// For tests: the store that standard() answers from now on (not owned); nullptr makes
+    /// standard() build a new one from the current $HOME.
+    static void setStandard(UserDefaults *store);
+
+    /// Values for keys that nobody has set; kept in memory only.
+    void registerDefaults(const QVariantMap &defaults);
+
+    /// The set value, else the registered one, else an invalid variant.
+    QVariant object(const QString &key) const;
+    bool boolForKey(const QString &key) const;
+    qint64 integerForKey(const QString &key) const;
+    quint64 unsignedForKey(const QString &key) const;
+    QString stringForKey(const QString &key) const;
+    std::optional<QDateTime> dateForKey(const QString &key) const;
+    /// Nothing where the key is absent or no array; entries that are no strings are left out.
+    std::optional<QStringList> stringArrayForKey(const QString &key) const;
+
+    /// Sets a key for this process; an invalid variant removes it. When that changes anything,
+    /// changed() follows on the main thread. Dates keep whole seconds. A value of a type that no
+    /// property list can hold changes nothing and is named in the system log. Written to the file
+    /// by the next synchronize().
+    void setObject(const QString &key, const QVariant &value);
+
+    /// Writes this process's changes into the file (only the keys changed here; all else in the
+    /// file stays) and reads what others wrote. Atomic, and safe against other processes and
+    /// threads that do the same. False when the file could not be written: the changes are kept for
+    /// the next time. A file that can't be parsed is kept aside as "<name>.plist.unreadable", said
+    /// once in the system log; one that can't be opened is left as it is, and nothing is written
+    /// over it. Does not emit changed().
+    bool synchronize();
+
+    /// Another domain, read from its file at each call; nothing where it is missing or unreadable
+    /// (an unreadable one is named in the system log and left alone).
+    std::optional<QVariantMap> persistentDomain(const QString &name) const;
+
+    /// Replaces another domain's file whole, atomically. False where it could not.
+    bool setPersistentDomain(const QVariantMap &values, const QString &name);
+
+Q_SIGNALS:
+    /// A value was set in this process. Main thread, after setObject() has returned; several
+    /// changes may share one signal.
+    void changed();
+
+private:
+    /// What tells that a file is still the one that was read.
+    struct Stamp
+    {
+        quint64 device = 0;
+        quint64 inode = 0;
+        qint64 size = 0;
+        qint64 modified = 0; // nanoseconds
+
+        bool operator==(const Stamp &) const = default;
+    };
+
+    static std::optional<Stamp> stampOf(const QString &path);
+    QString filePath(const QString &domain) const;
+    QString lockPath(const QString &domain) const;
+    void announce();
+    QVariantMap ownChanges() const;
+    bool exchange(const QVariantMap &changes);
+    bool write(const QVariantMap &values);
+    void adopt(const QVariantMap &contents, const QVariantMap &written);
+    std::optional<QVariantMap> readOwnFile(bool locked);
+    std::optional<QVariantMap> leftAlone(const QString &reason);
+    bool writingFailed(const QString &reason);
+
+    const QString m_domain;
+    const QString m_folder;
+    const std::shared_ptr<const bool> m_alive; // gone once this is: queued signals look first
+    std::atomic<bool> m_notificationQueued = false;
+
+    std::mutex m_synchronizing; // held through a synchronize(), before m_mutex; guards what follows
+    std::optional<Stamp> m_lastRead;
+    bool m_saidUnreadable = false;
+    bool m_saidUnwritable = false;
+
+    mutable std::mutex m_mutex; // guards what follows; held for copies only
+    QVariantMap m_registered;
+    QVariantMap m_stored;      // the file's contents with our changes applied
+    std::set<QString> m_dirty; // keys set or removed here since the last successful write
+};

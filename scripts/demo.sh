@@ -1,0 +1,235 @@
+#!/usr/bin/env bash
+# Shows the whole road once: a home with a music library, a stick in a folder, the helper on a private
+# session bus, two syncs and an eject. Checks what came to lie on the stick and fails if it is wrong.
+set -euo pipefail
+
+usage() {
+    cat <<'EOF'
+Usage: demo.sh [--keep DIR]
+Installs what is missing, builds, makes a sample home and a sample Memory Stick, syncs, and shows what
+came to lie on the stick. Nothing outside the build folder and the sample is touched.
+
+  --keep DIR   make home and stick in DIR (home, volumes/MEMORYSTICK) and leave them there
+  --help       this text
+EOF
+}
+
+heading() { printf '\n== %s\n' "$*"; }
+
+fail() {
+    printf '\ndemo.sh: FAILED: %s\n' "$*" >&2
+    if [[ -s ${helper_log:-} ]]; then
+        printf 'What the helper wrote:\n' >&2
+        sed 's/^/  | /' "$helper_log" >&2
+    fi
+    exit 1
+}
+
+# --- The sample, then the rest on a bus of its own
+
+main() {
+    local keep=''
+    while (($#)); do
+        case $1 in
+        --keep)
+            [[ -n ${2:-} ]] || { usage >&2; exit 2; }
+            keep=$2
+            shift
+            ;;
+        --keep=?*) keep=${1#*=} ;;
+        -h | --help) usage; exit 0 ;;
+        *) usage >&2; exit 2 ;;
+        esac
+        shift
+    done
+
+    local project sample
+    project=$(cd "$(dirname "$0")/.." && pwd)
+    if [[ -n $keep ]]; then
+        mkdir -p "$keep"
+        sample=$(cd "$keep" && pwd)
+        if [[ -e $sample/home || -e $sample/volumes ]]; then
+            fail "$sample holds a sample already; name another folder"
+        fi
+    else
+        temporary=$(mktemp -d)
+        trap 'rm -rf -- "$temporary"' EXIT
+        sample=$temporary
+    fi
+
+    heading "Build"
+    (
+        cd "$project"
+        scripts/install-dependencies.sh
+        cmake --preset release
+        cmake --build --preset release --parallel "$(nproc)"
+    )
+    heading "A home with a music library, and a stick, in $sample"
+    mkdir -p "$sample/home" "$sample/volumes"
+    "$project/scripts/demo/make_sample.py" "$sample/home" "$sample/volumes/MEMORYSTICK"
+    (cd "$sample/home" && find . -type f -printf '%10s  %P\n' | sort -k 2)
+
+    # Neither the user's own folders nor the user's own bus has a part in this.
+    unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME CARAVEL_VOLUMES
+    HOME=$sample/home LC_ALL=C.UTF-8 \
+        dbus-run-session -- "$0" --on-private-bus "$project" "$sample"
+
+    if [[ -n $keep ]]; then
+        printf '\nKept: %s and %s\n' "$sample/home" "$sample/volumes/MEMORYSTICK"
+    fi
+}
+
+# --- What the demo looks at
+
+# show_tree: the stick's folders and files with their sizes.
+show_tree() {
+    (cd "$stick" && find . -mindepth 1 \( -type d -printf '%10s  %P/\n' -o -printf '%10s  %P\n' \)) |
+        sed -E 's|^ *[0-9]+  (.*/)$|         -  \1|' | sort -k 2
+}
+
+# wait_for SECONDS WHAT COMMAND...: until the command succeeds.
+wait_for() {
+    local deadline=$((SECONDS + $1)) what=$2
+    shift 2
+    until "$@"; do
+        ((SECONDS < deadline)) || fail "waited in vain for $what"
+        sleep 0.05
+    done
+}
+
+helper_is_on_bus() {
+    kill -0 "$helper" 2>/dev/null || fail "the helper ended at its start"
+    dbus-send --session --print-reply --dest=org.freedesktop.DBus /org/freedesktop/DBus \
+        org.freedesktop.DBus.ListNames |
+        grep '"org\.caravel\.CaravelHelper_[0-9]*"' >/dev/null
+}
+
+run_caravel() {
+    local word shown='$ caravel'
+    for word; do
+        [[ $word != *[!A-Za-z0-9-]* ]] || word="\"$word\""
+        shown+=" $word"
+    done
+    printf '\n%s\n' "$shown"
+    "$caravel" "$@" || fail "caravel $* ended with status $?"
+}
+
+# expect_music: the stick's music is exactly what standard input lists, one "place on the
+# stick|source below home" per line, each a true copy.
+expect_music() {
+    local wanted=() place source
+    while IFS='|' read -r place source; do
+        wanted+=("$place")
+        [[ -f $stick/PSP/MUSIC/$place ]] || fail "$place did not arrive"
+        cmp -- "$stick/PSP/MUSIC/$place" "$HOME/$source" || fail "$place is no true copy of $source"
+    done
+    diff <(printf '%s\n' "${wanted[@]}" | sort) \
+        <(cd "$stick/PSP/MUSIC" && find . -type f -printf '%P\n' | sort) ||
+        fail "the stick's music is not what the selection wants (< wanted, > found)"
+    diff <(printf '%s\n' "${wanted[@]}" | sed 's|/[^/]*$||' | sort -u) \
+        <(cd "$stick/PSP/MUSIC" && find . -mindepth 1 -type d -printf '%P\n' | sort) ||
+        fail "the stick's music folders are not those of its files (< wanted, > found)"
+}
+
+foreign_files() {
+    (cd "$stick" && sha256sum MEMSTICK.IND PSP/GAME/PUZZLE/EBOOT.PBP PSP/SAVEDATA/PUZZLE00/DATA.BIN)
+}
+
+expect_icon() {
+    local icons=$bundle/Helpers/CaravelHelper/Contents/Resources
+    cmp -- "$stick/.VolumeIcon.icns" "$icons/PSP$(date +%-m).icns" || fail "the stick has another icon"
+}
+
+# --- On the private bus
+
+stop_helper() {
+    local status=0
+    kill -TERM "$helper"
+    wait "$helper" || status=$?
+    ((status == 0)) || fail "the helper ended with status $status"
+}
+
+on_private_bus() {
+    local project=$1 sample=$2
+    bundle=$project/build/release/Caravel/Contents
+    caravel=$bundle/bin/caravel
+    stick=$sample/volumes/MEMORYSTICK
+    helper_log=$sample/helper.log
+    local music="Music/iTunes/iTunes Music" before foreign kept_file
+    # The stick's names are in canonical decomposition.
+    local cafe=$'Cafe\u0301 at Seven'
+
+    heading "The stick as it was"
+    show_tree
+    foreign=$(foreign_files)
+
+    heading "The helper starts"
+    "$bundle/Helpers/CaravelHelper/Contents/bin/caravel-helper" \
+        --volumes-folder "$sample/volumes" 2>"$helper_log" &
+    helper=$!
+    trap 'kill -TERM "$helper" 2>/dev/null && wait "$helper" || true' EXIT
+    wait_for 20 "the helper's name on the bus" helper_is_on_bus
+
+    run_caravel list music
+    run_caravel select music "Road Trip" "AC/DC: Live?"
+    run_caravel estimate
+    run_caravel sync
+
+    heading "The stick after the first sync"
+    show_tree
+    # Road Trip's lossless track and its stream are not among these.
+    expect_music <<EOF
+Harbour Lights/001. Casting Off.mp3|$music/The Paper Lanterns/Harbour Lights/01 Casting Off.mp3
+Harbour Lights/002. Who's at the Helm_.mp3|$music/The Paper Lanterns/Harbour Lights/02 Who's at the Helm_.mp3
+Slow Mornings/101. $cafe.MP4|$music/Ada Quill/Slow Mornings/01 Café at Seven.m4a
+Live at the Mill/201. Sawdust.wav|$music/Northbound Trio/Live at the Mill/01 Sawdust.wav
+Live at the Mill/202. The Wheel Turns.mp3|$music/Northbound Trio/Live at the Mill/02 The Wheel Turns.mp3
+Live/Encore.MP4|Documents/Caravel/Dropboxes/Music/Live/Encore.m4a
+EOF
+    [[ $(foreign_files) == "$foreign" ]] || fail "another program's files were touched"
+    [[ -f $stick/.caravel/MusicSyncIndex.plist && -f $stick/.caravel/LastSyncSize ]] ||
+        fail "the stick has no record of the sync"
+    expect_icon
+
+    before=$(show_tree)
+    kept_file="$stick/PSP/MUSIC/Harbour Lights/002. Who's at the Helm_.mp3"
+    local kept_inode
+    kept_inode=$(stat -c %i "$kept_file")
+    run_caravel select music --remove "Road Trip"
+    run_caravel select music --add "Recently Added"
+    run_caravel sync
+
+    heading "What the second sync changed (- went, + came)"
+    diff --unchanged-line-format='' --old-line-format='- %L' --new-line-format='+ %L' \
+        <(printf '%s\n' "$before") <(show_tree) || (($? == 1))
+    expect_music <<EOF
+Harbour Lights/002. Who's at the Helm_.mp3|$music/The Paper Lanterns/Harbour Lights/02 Who's at the Helm_.mp3
+Harbour Lights/003. Night _ Day.mp3|$music/The Paper Lanterns/Harbour Lights/03 Night _ Day.mp3
+Slow Mornings/102. Second Cup.MP4|$music/Ada Quill/Slow Mornings/02 Second Cup.m4a
+Live at the Mill/201. Sawdust.wav|$music/Northbound Trio/Live at the Mill/01 Sawdust.wav
+Live at the Mill/202. The Wheel Turns.mp3|$music/Northbound Trio/Live at the Mill/02 The Wheel Turns.mp3
+Live/Encore.MP4|Documents/Caravel/Dropboxes/Music/Live/Encore.m4a
+EOF
+    [[ $(stat -c %i "$kept_file") == "$kept_inode" ]] || fail "a file that was in place was copied again"
+    [[ $(foreign_files) == "$foreign" ]] || fail "another program's files were touched"
+
+    run_caravel status
+    run_caravel log
+    run_caravel eject
+    wait_for 10 "the stick to be ejected" test -d "$sample/volumes/.ejected/MEMORYSTICK"
+
+    heading "The helper stops"
+    stop_helper
+    trap - EXIT
+    # Back into the slot, for whoever kept the sample.
+    mv "$sample/volumes/.ejected/MEMORYSTICK" "$stick"
+    rmdir "$sample/volumes/.ejected"
+    [[ ! -s $helper_log ]] || sed 's/^/  | /' "$helper_log"
+    printf '\nAll is as it should be: the selection is on the stick, and nothing else was touched.\n'
+}
+
+if [[ ${1:-} == --on-private-bus ]]; then
+    on_private_bus "$2" "$3"
+else
+    main "$@"
+fi

@@ -1,0 +1,213 @@
+#!/usr/bin/env python3
+"""Makes the demo's home folder, with a music library and real sound files, and its Memory Stick."""
+
+import argparse
+import datetime
+import hashlib
+import plistlib
+import subprocess
+import sys
+from dataclasses import dataclass
+from pathlib import Path
+from urllib.parse import quote
+
+RATE = 44100
+
+
+@dataclass(frozen=True)
+class Track:
+    number: int  # the library's "Track ID"
+    artist: str
+    album: str
+    name: str
+    position: tuple[int, int]  # disc and track; (0, track) for a record of one disc without a number
+    codec: str  # a key of CODECS
+    seconds: int
+    tones: tuple[int, ...]  # Hz
+
+
+@dataclass(frozen=True)
+class Codec:
+    extension: str
+    kind: str  # the library's "Kind"
+    options: tuple[str, ...]  # ffmpeg's
+
+
+CODECS = {
+    "mp3": Codec("mp3", "MPEG audio file", ("-c:a", "libmp3lame", "-b:a", "128k", "-id3v2_version", "3")),
+    "aac": Codec("m4a", "AAC audio file", ("-c:a", "aac", "-b:a", "128k")),
+    "wav": Codec("wav", "WAV audio file", ("-c:a", "pcm_s16le")),
+    "lossless": Codec("m4a", "Apple Lossless audio file", ("-c:a", "alac")),
+}
+
+LANTERNS = ("The Paper Lanterns", "Harbour Lights")
+QUILL = ("Ada Quill", "Slow Mornings")
+TRIO = ("Northbound Trio", "Live at the Mill")
+
+TRACKS = (
+    Track(35, *LANTERNS, "Casting Off", (0, 1), "mp3", 4, (220, 277, 330)),
+    Track(37, *LANTERNS, "Who's at the Helm?", (0, 2), "mp3", 3, (247, 311, 370)),
+    Track(39, *LANTERNS, "Night / Day", (0, 3), "mp3", 2, (262, 330, 392)),
+    Track(41, *QUILL, "Café at Seven", (1, 1), "aac", 3, (294, 370)),
+    Track(43, *QUILL, "Second Cup", (1, 2), "aac", 4, (330, 415)),
+    Track(45, *QUILL, "Glass Rivers", (1, 3), "lossless", 3, (349, 440)),
+    Track(47, *TRIO, "Sawdust", (2, 1), "wav", 2, (392,)),
+    Track(49, *TRIO, "The Wheel Turns", (2, 2), "mp3", 3, (440, 554)),
+)
+STREAM_NUMBER = 51
+
+# What the dropbox holds: dropped in by hand, unknown to the library.
+DROPPED = Track(0, *TRIO, "Encore", (0, 0), "aac", 2, (523, 659, 784))
+
+
+@dataclass(frozen=True)
+class Playlist:
+    name: str
+    tracks: tuple[int, ...]
+    marks: tuple[tuple[str, object], ...] = ()
+
+
+PLAYLISTS = (
+    Playlist("Library", (*(track.number for track in TRACKS), STREAM_NUMBER),
+             (("Master", True), ("Visible", False))),
+    Playlist("Party Shuffle", (37, 47), (("Party Shuffle", True),)),
+    Playlist("Recently Added", (37, 39, 43),
+             (("Smart Info", b"\x01\x01\x00\x03" + bytes(100)), ("Smart Criteria", b"SLst" + bytes(132)))),
+    Playlist("AC/DC: Live?", (47, 49)),
+    Playlist("Road Trip", (35, 37, 41, 45, STREAM_NUMBER)),
+)
+
+
+def persistent_id(*parts: object) -> str:
+    return hashlib.sha256(repr(parts).encode()).hexdigest()[:16].upper()
+
+
+def make_sound(track: Track, path: Path) -> None:
+    path.parent.mkdir(parents=True, exist_ok=True)
+    tones = "+".join(f"sin(2*PI*{tone}*t)" for tone in track.tones)
+    source = f"aevalsrc='0.6/{len(track.tones)}*({tones})':s={RATE}:d={track.seconds}"
+    disc, number = track.position
+    tags = {"title": track.name, "artist": track.artist, "album": track.album,
+            "track": str(number), "disc": str(disc)}
+    tag_options = [part for key, value in tags.items() if value != "0"
+                   for part in ("-metadata", f"{key}={value}")]
+    subprocess.run(["ffmpeg", "-nostdin", "-v", "error", "-y", "-f", "lavfi", "-i", source,
+                    "-ac", "2", "-bitexact", *tag_options, *CODECS[track.codec].options, str(path)],
+                   check=True)
+
+
+def location(path: Path) -> str:
+    return "file://localhost" + quote(str(path))
+
+
+def sound_path(music_folder: Path, track: Track) -> Path:
+    name = track.name.replace("/", "_").replace("?", "_")
+    extension = CODECS[track.codec].extension
+    return music_folder / track.artist / track.album / f"{track.position[1]:02} {name}.{extension}"
+
+
+def track_record(track: Track, path: Path) -> dict:
+    disc, number = track.position
+    record = {
+        "Track ID": track.number,
+        "Name": track.name,
+        "Artist": track.artist,
+        "Album": track.album,
+        "Genre": "Demo",
+        "Kind": CODECS[track.codec].kind,
+        "Size": path.stat().st_size,
+        "Total Time": track.seconds * 1000,
+        "Track Number": number,
+        "Date Added": datetime.datetime(2026, 1, track.position[1], 12),
+        "Sample Rate": RATE,
+        "Persistent ID": persistent_id("track", track.number),
+        "Track Type": "File",
+        "Location": location(path),
+    }
+    if disc:
+        record["Disc Number"] = disc
+    return record
+
+
+def stream_record() -> dict:
+    return {
+        "Track ID": STREAM_NUMBER,
+        "Name": "Harbour Radio",
+        "Genre": "Radio",
+        "Kind": "MPEG audio stream",
+        "Persistent ID": persistent_id("track", STREAM_NUMBER),
+        "Track Type": "URL",
+        "Location": "http://radio.invalid/harbour.mp3",
+    }
+
+
+def playlist_record(index: int, playlist: Playlist) -> dict:
+    return {
+        "Name": playlist.name,
+        "Playlist ID": 100 + index,
+        "Playlist Persistent ID": persistent_id("playlist", playlist.name),
+        **dict(playlist.marks),
+        "All Items": True,
+        "Playlist Items": [{"Track ID": number} for number in playlist.tracks],
+    }
+
+
+def make_library(home: Path) -> None:
+    folder = home / "Music" / "iTunes"
+    music_folder = folder / "iTunes Music"
+    records = {}
+    for track in TRACKS:
+        path = sound_path(music_folder, track)
+        make_sound(track, path)
+        records[str(track.number)] = track_record(track, path)
+    records[str(STREAM_NUMBER)] = stream_record()
+    library = {
+        "Major Version": 1,
+        "Minor Version": 1,
+        "Application Version": "7.0",
+        "Music Folder": location(music_folder) + "/",
+        "Library Persistent ID": persistent_id("library"),
+        "Tracks": records,
+        "Playlists": [playlist_record(index, playlist) for index, playlist in enumerate(PLAYLISTS)],
+    }
+    with open(folder / "iTunes Music Library.xml", "wb") as file:
+        plistlib.dump(library, file, sort_keys=False)
+
+
+def make_home(home: Path) -> None:
+    make_library(home)
+    make_sound(DROPPED, home / "Documents/Caravel/Dropboxes/Music/Live/Encore.m4a")
+
+
+def make_stick(stick: Path) -> None:
+    """A stick that has been in use: other programs' files, and music that nobody selects any more."""
+    files = {
+        "MEMSTICK.IND": b"",
+        "PSP/GAME/PUZZLE/EBOOT.PBP": b"\0PBP" + bytes(2044),
+        "PSP/SAVEDATA/PUZZLE00/DATA.BIN": bytes(range(256)) * 4,
+        "PSP/MUSIC/Old Record/Gone.mp3": b"ID3\3" + bytes(4092),
+        "PSP/MUSIC/.DS_Store": b"\0\0\0\1Bud1" + bytes(248),
+    }
+    for name, content in files.items():
+        path = stick / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(content)
+    (stick / "PSP/MUSIC/Empty").mkdir()
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("home", type=Path, help="the home folder to fill")
+    parser.add_argument("stick", type=Path, help="the stick's folder to fill")
+    options = parser.parse_args()
+    try:
+        make_home(options.home.absolute())
+        make_stick(options.stick)
+    except (OSError, subprocess.CalledProcessError) as error:
+        print(f"make_sample.py: {error}", file=sys.stderr)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,81 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building, testing and the demo need; only those that are missing,
+# and without any network use when none is.
+set -euo pipefail
+
+usage() {
+    cat <<'EOF'
+Usage: install-dependencies.sh [--lint]
+Installs the missing ones of the Debian packages that this project needs (as root or through sudo).
+
+  --lint   also clang-format, clang-tidy and git
+EOF
+}
+
+packages=(
+    # Building
+    g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev libexpat1-dev libplist-dev
+    libcli11-dev librsvg2-bin python3
+    # Tests and benchmarks
+    libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs mount util-linux
+    # The demo's sound files, and the helper at run time
+    ffmpeg
+)
+while (($#)); do
+    case $1 in
+    --lint) packages+=(clang-format clang-tidy git) ;;
+    -h | --help) usage; exit 0 ;;
+    *) usage >&2; exit 2 ;;
+    esac
+    shift
+done
+
+for tool in apt-get dpkg-query; do
+    if ! command -v "$tool" >/dev/null; then
+        echo "install-dependencies.sh: $tool is missing: this works on Debian 12 (or a relative)" \
+            "only. Install what matches these packages by other means:" >&2
+        printf '  %s\n' "${packages[@]}" >&2
+        exit 1
+    fi
+done
+
+is_installed() {
+    local state
+    # shellcheck disable=SC2016 # the braces are dpkg-query's own
+    state=$(dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null || true)
+    grep -qx installed <<<"$state"
+}
+
+missing=()
+for package in "${packages[@]}"; do
+    is_installed "$package" || missing+=("$package")
+done
+if ((${#missing[@]} == 0)); then
+    exit 0
+fi
+
+root=()
+if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+        echo "install-dependencies.sh: these packages are missing, and neither root nor sudo is at" \
+            "hand to install them: ${missing[*]}" >&2
+        exit 1
+    fi
+    root=(sudo)
+fi
+
+apt_get() {
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q "$@"
+}
+
+# A bare or old machine has no package lists, or ones whose files are gone: then they are fetched anew.
+install_missing() {
+    apt_get install -y --no-install-recommends "${missing[@]}"
+}
+
+echo "Installing ${missing[*]}"
+if ! install_missing; then
+    echo "Fetching the package lists, then once more"
+    apt_get update
+    install_missing
+fi

@@ -1,0 +1,90 @@
+#!/usr/bin/env bash
+# Checks the formatting of the sources, the scripts, and what clang-tidy has to say.
+set -euo pipefail
+
+usage() {
+    cat <<'EOF'
+Usage: lint.sh [--format | --scripts | --tidy [FILE...]]
+Without an option all three, one after the other.
+
+  --format    clang-format's check of every C++ file
+  --scripts   the shell scripts' and Python scripts' syntax, and shellcheck where it is installed
+  --tidy      clang-tidy, over the given sources or all of them (minutes)
+EOF
+}
+
+cd "$(dirname "$0")/.."
+
+# Tracked files and new ones alike, save what .gitignore leaves out and what was deleted.
+sources() {
+    local file
+    git -c safe.directory="$PWD" ls-files --cached --others --exclude-standard -- "$@" | sort -u |
+        while IFS= read -r file; do
+            [[ ! -f $file ]] || printf '%s\n' "$file"
+        done
+}
+
+check_format() {
+    local files
+    mapfile -t files < <(sources '*.cpp' '*.h')
+    if ((${#files[@]} == 0)); then
+        echo "lint.sh: git lists no C++ files here" >&2
+        return 1
+    fi
+    clang-format --dry-run -Werror "${files[@]}"
+    echo "Formatting: ${#files[@]} files are in order"
+}
+
+check_scripts() {
+    local shell python file
+    mapfile -t shell < <(sources 'scripts/*.sh' '.ci/run')
+    mapfile -t python < <(sources '*.py')
+    for file in "${shell[@]}"; do
+        bash -n "$file"
+    done
+    for file in "${python[@]}"; do
+        python3 -c 'import ast, sys; ast.parse(open(sys.argv[1]).read(), sys.argv[1])' "$file"
+    done
+    for file in "${shell[@]}" "${python[@]}"; do
+        if [[ ! -x $file ]]; then
+            echo "lint.sh: $file is not executable" >&2
+            return 1
+        fi
+    done
+    if command -v shellcheck >/dev/null; then
+        shellcheck "${shell[@]}"
+    fi
+    echo "Scripts: $((${#shell[@]} + ${#python[@]})) files are in order"
+}
+
+check_tidy() {
+    local files=("$@")
+    if ((${#files[@]} == 0)); then
+        mapfile -t files < <(sources '*.cpp')
+    fi
+    # The generated moc files that the sources' compilation needs are made by the build.
+    cmake --preset debug >/dev/null
+    cmake --build --preset debug --parallel "$(nproc)"
+    printf '%s\0' "${files[@]}" |
+        xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p build/debug 2> >(
+            grep -v -E '^[0-9]+ warnings? generated|^Suppressed [0-9]+|^Use -header-filter' >&2
+        )
+}
+
+what=${1:-all}
+if (($#)); then
+    shift
+fi
+case $what in
+-h | --help) usage; exit 0 ;;
+--format) check_format ;;
+--scripts) check_scripts ;;
+--tidy) scripts/install-dependencies.sh --lint; check_tidy "$@" ;;
+all)
+    scripts/install-dependencies.sh --lint
+    check_format
+    check_scripts
+    check_tidy
+    ;;
+*) usage >&2; exit 2 ;;
+esac

@@ -1,0 +1,161 @@
+#include "sync/CVSyncManager.h"
+
+#include "platform/DistributedNotificationCenter.h"
+#include "platform/NumberArchive.h"
+#include "platform/UserDefaults.h"
+#include "sync/StickFiles.h"
+
+#include <utility>
+
+namespace {
+
+// An archive of one number takes some eighty bytes; what is much longer is none.
+constexpr quint64 archiveLimit = 4096;
+
+QVariant asVariant(std::optional<quint64> number)
+{
+    return number ? QVariant::fromValue(*number) : QVariant();
+}
+
+} // namespace
+
+CVSyncManager::CVSyncManager(SyncServices services, ModuleFactory modules, QObject *parent)
+    : QObject(parent)
+    , m_services(std::move(services))
+    , m_modules(std::move(modules))
+{
+    connect(&m_services.volumes, &Volumes::didMount, this, &CVSyncManager::volumeDidMount);
+    connect(&m_services.volumes, &Volumes::willUnmount, this, &CVSyncManager::volumeWillUnmount);
+    connect(&m_services.volumes, &Volumes::didUnmount, this, &CVSyncManager::detectPSP);
+    // How a process that has no connection to this one stops a sync.
+    m_services.notifications.observe(QStringLiteral("CVCancelSyncNotification"), this,
+                                     [this] { cancelSync(); });
+}
+
+CVSyncManager::~CVSyncManager() = default;
+
+QString CVSyncManager::pspVolume() const
+{
+    const std::scoped_lock lock(m_volumeMutex);
+    return m_pspVolume;
+}
+
+void CVSyncManager::setPSPVolume(const QString &volume)
+{
+    const auto identity = VolumeIdentity::of(volume);
+    const std::scoped_lock lock(m_volumeMutex);
+    m_pspVolume = volume;
+    m_identity = identity;
+}
+
+QString CVSyncManager::pspName() const
+{
+    return FileManager::defaultManager().displayName(pspVolume());
+}
+
+// --- Detection
+
+void CVSyncManager::detectPSP()
+{
+    bool foundUnformatted = false;
+    for (const QString &volume : m_services.volumes.mountedRemovableMedia()) {
+        const FileManager &files = FileManager::defaultManager();
+        if (!files.exists(volume + QStringLiteral("/MEMSTICK.IND")))
+            continue;
+        if (takeAsPSP(volume))
+            return;
+        foundUnformatted = true;
+    }
+    setPSPIsMounted(false);
+    if (foundUnformatted)
+        tell([](CVSyncManagerDelegate &delegate) { delegate.foundUnformattedMemoryStick(); });
+}
+
+bool CVSyncManager::takeAsPSP(const QString &volume)
+{
+    if (!FileManager::defaultManager().exists(volume + QStringLiteral("/PSP")))
+        return false;
+    setPSPVolume(volume);
+    setPSPIsMounted(true);
+    UserDefaults::standard().setObject(QStringLiteral("lastFreeSpace"), asVariant(pspFreeSpace()));
+    readLastSyncSize(volume);
+    return true;
+}
+
+void CVSyncManager::readLastSyncSize(const QString &volume)
+{
+    const FileManager &files = FileManager::defaultManager();
+    if (!files.exists(StickFiles::caravelFolder(volume)))
+        return;
+    std::optional<quint64> size;
+    if (const auto archive = files.readFile(StickFiles::lastSyncSize(volume), archiveLimit))
+        size = NumberArchive::decode(*archive);
+    UserDefaults::standard().setObject(QStringLiteral("lastSyncSize"), asVariant(size));
+}
+
+void CVSyncManager::setPSPIsMounted(bool mounted)
+{
+    if (m_pspIsMounted.exchange(mounted) == mounted)
+        return;
+    if (!mounted) {
+        tell([](CVSyncManagerDelegate &delegate) { delegate.pspDidUnmount(); });
+        return;
+    }
+    tell([volume = pspVolume()](CVSyncManagerDelegate &delegate) { delegate.pspDidMount(volume); });
+    if (UserDefaults::standard().boolForKey(QStringLiteral("syncOnMount")) && pspIsMounted()
+        && !isFirstSync() && m_delegate->shouldSyncOnMount())
+        sync();
+}
+
+bool CVSyncManager::pspIsMounted()
+{
+    if (m_pspIsMounted && !isStillThere())
+        detectPSP();
+    return m_pspIsMounted;
+}
+
+// What an unplugged stick leaves behind is often an empty folder at the same path.
+bool CVSyncManager::isStillThere() const
+{
+    const auto found = VolumeIdentity::of(pspVolume());
+    const std::scoped_lock lock(m_volumeMutex);
+    return found && found == m_identity;
+}
+
+bool CVSyncManager::isFirstSync()
+{
+    return pspIsMounted()
+        && !FileManager::defaultManager().exists(StickFiles::caravelFolder(pspVolume()));
+}
+
+void CVSyncManager::volumeDidMount()
+{
+    if (!pspIsMounted())
+        detectPSP();
+}
+
+void CVSyncManager::volumeWillUnmount(const QString &path)
+{
+    if (path == pspVolume() && !m_pspIsUnmounting)
+        cancelSync();
+}
+
+// --- Space
+
+std::optional<quint64> CVSyncManager::pspSpace() const
+{
+    const auto space = FileManager::defaultManager().volumeSpace(pspVolume());
+    return space ? std::optional(space->size) : std::nullopt;
+}
+
+std::optional<quint64> CVSyncManager::pspFreeSpace() const
+{
+    const auto space = FileManager::defaultManager().volumeSpace(pspVolume());
+    return space ? std::optional(space->free) : std::nullopt;
+}
+
+std::optional<quint64> CVSyncManager::pspUsedSpace() const
+{
+    const auto space = FileManager::defaultManager().volumeSpace(pspVolume());
+    return space ? std::optional(space->size - space->free) : std::nullopt;
+}

@@ -1,0 +1,154 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/MainThread.h"
+#include "platform/VolumeIdentity.h"
+#include "platform/Volumes.h"
+#include "sync/CVSyncManagerDelegate.h"
+#include "sync/ModuleFactory.h"
+
+#include <QObject>
+
+#include <atomic>
+#include <mutex>
+#include <optional>
+
+class DistributedNotificationCenter;
+class SyncRun;
+
+/// What the manager works with; not owned, outliving it and every run.
+struct SyncServices
+{
+    Volumes &volumes;
+    DistributedNotificationCenter &notifications;
+    Clock &clock;
+    QString resourceFolder; ///< holds PSP1.icns to PSP12.icns
+};
+
+/// Knows whether a PSP is attached, and syncs, estimates and ejects it.
+///
+/// Main thread, except where a member says otherwise. Runs and estimates work on threads of their own
+/// (platform/MainThread.h's Workers); the manager must outlive them.
+class CVSyncManager : public QObject
+{
+    Q_OBJECT
+public:
+    CVSyncManager(SyncServices services, ModuleFactory modules, QObject *parent = nullptr);
+    ~CVSyncManager() override;
+
+    /// Not owned; set once, before detectPSP().
+    void setDelegate(CVSyncManagerDelegate *delegate) { m_delegate = delegate; }
+    CVSyncManagerDelegate *delegate() const { return m_delegate; }
+
+    // --- The device. Any thread.
+
+    /// Mount path of the PSP; empty until one has been found, then the last one's, mounted or not.
+    QString pspVolume() const;
+    QString pspName() const;
+    /// Looks whether the stick is still there, and scans when it isn't.
+    bool pspIsMounted();
+    bool pspIsUnmounting() const { return m_pspIsUnmounting; }
+    /// Whether a PSP is mounted that has never been synced.
+    bool isFirstSync();
+    /// Bytes of the stick's file system; nothing when its path doesn't exist.
+    std::optional<quint64> pspSpace() const;
+    std::optional<quint64> pspFreeSpace() const;
+    std::optional<quint64> pspUsedSpace() const;
+
+    /// Scans the mounted volumes for a PSP and brings the mount state in line.
+    void detectPSP();
+
+    // --- The run
+
+    bool isSyncing() const { return m_isSyncing; }
+    bool shouldCancelSync() const { return m_shouldCancelSync; }
+    bool canSync();
+    bool canCancelSync() const;
+    /// Progress can't be shown as a fraction now.
+    bool isIndeterminate() const { return m_isIndeterminate; }
+    /// Bytes that the run has to copy (1 while none is active), and those copied.
+    quint64 syncBytesTotal() const { return m_syncBytesTotal; }
+    quint64 syncBytes() const { return m_syncBytes; }
+
+    /// Starts a run where canSync(), else does nothing.
+    void sync();
+    /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any thread.
+    void cancelSync();
+    /// Unmounts and ejects the stick, waiting for the outcome. Main thread or the run's.
+    void eject();
+
+    // --- The estimate
+
+    /// Starts a computation of the selection's size; newSyncBytesEstimate() tells its end.
+    void refreshSyncBytesEstimate();
+    /// Bytes of the current selection as last computed.
+    quint64 syncBytesEstimate() const { return m_syncBytesEstimate; }
+    /// The same in per cent of the room a sync can use, cut to a whole number; 0 where nothing is known
+    /// of the stick.
+    quint32 syncPercentEstimate();
+
+private:
+    friend class SyncRun;
+
+    // Detection
+    bool takeAsPSP(const QString &volume);
+    bool isStillThere() const;
+    void readLastSyncSize(const QString &volume);
+    void setPSPVolume(const QString &volume);
+    void setPSPIsMounted(bool mounted);
+    void volumeDidMount();
+    void volumeWillUnmount(const QString &path);
+
+    // The run, on its own thread
+    void _sync();
+    void startRun(SyncRun &run);
+    void pauseBeforeRun();
+    void createModules(SyncRun &run);
+    void prepareModules(SyncRun &run);
+    void cleanUpModules(SyncRun &run);
+    void testFreeSpace(SyncRun &run);
+    void syncModules(SyncRun &run);
+    void finalizeModules(SyncRun &run);
+    void recordSizes(SyncRun &run);
+    void ejectAfterRun();
+    void finishRun();
+    bool endRun();
+    void setIcon(SyncRun &run);
+    void addCopiedBytes(quint64 count);
+    void add(SyncRun &run, const ModuleFactory::Make &make) const;
+
+    // The estimate, on its own thread
+    void _refreshSyncBytesEstimate();
+
+    template <typename Callback>
+    void tell(Callback callback);
+
+    // Fixed after construction
+    const SyncServices m_services;
+    const ModuleFactory m_modules;
+    CVSyncManagerDelegate *m_delegate = nullptr;
+
+    // Under m_volumeMutex, which is held for a copy only
+    mutable std::mutex m_volumeMutex;
+    QString m_pspVolume;
+    std::optional<VolumeIdentity> m_identity;
+
+    std::mutex m_runMutex; // makes the steps into and out of a run, and into a cancel, one each
+
+    // Written by one party at a time, read by any
+    std::atomic<bool> m_pspIsMounted = false;
+    std::atomic<bool> m_pspIsUnmounting = false;
+    std::atomic<bool> m_isSyncing = false;
+    std::atomic<bool> m_shouldCancelSync = false;
+    std::atomic<bool> m_isIndeterminate = false;
+    std::atomic<quint64> m_syncBytesTotal = 1;
+    std::atomic<quint64> m_syncBytes = 0;
+    std::atomic<quint64> m_syncBytesEstimate = 0;
+};
+
+/// Runs a callback of the delegate on the main thread and waits for it.
+template <typename Callback>
+void CVSyncManager::tell(Callback callback)
+{
+    performOnMainThread([this, &callback] { callback(*m_delegate); }, CallMode::Wait);
+}

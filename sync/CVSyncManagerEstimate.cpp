@@ -1,0 +1,43 @@
+#include "sync/CVSyncManager.h"
+
+#include "platform/UserDefaults.h"
+#include "sync/SyncRun.h"
+
+void CVSyncManager::refreshSyncBytesEstimate()
+{
+    Workers::start([this] { _refreshSyncBytesEstimate(); });
+}
+
+// Game saves are copied to the computer, so they take no room on the stick and don't count.
+void CVSyncManager::_refreshSyncBytesEstimate()
+{
+    SyncRun estimate(*this, pspVolume());
+    add(estimate, m_modules.music);
+    add(estimate, m_modules.photos);
+    add(estimate, m_modules.movies);
+    if (UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion")) > 0) {
+        add(estimate, m_modules.bookmarks);
+        add(estimate, m_modules.contacts);
+    }
+    m_syncBytesEstimate = 0;
+    quint64 total = 0;
+    for (const auto &module : estimate.modules) {
+        module->prepare(false);
+        total += module->syncEstimateSize();
+    }
+    m_syncBytesEstimate = total;
+    tell([total](CVSyncManagerDelegate &delegate) { delegate.newSyncBytesEstimate(total); });
+}
+
+quint32 CVSyncManager::syncPercentEstimate()
+{
+    const UserDefaults &defaults = UserDefaults::standard();
+    const quint64 free = pspIsMounted() ? pspFreeSpace().value_or(0)
+                                        : defaults.unsignedForKey(QStringLiteral("lastFreeSpace"));
+    const double room = static_cast<double>(free)
+        + static_cast<double>(defaults.unsignedForKey(QStringLiteral("lastSyncSize")));
+    if (room <= 0)
+        return 0;
+    const double percent = static_cast<double>(m_syncBytesEstimate) / room * 100;
+    return percent < static_cast<double>(UINT32_MAX) ? static_cast<quint32>(percent) : UINT32_MAX;
+}

@@ -1,0 +1,19 @@
+#include "sync/DeviceIcon.h"
+
+#include "platform/FileManager.h"
+#include "platform/FinderInfo.h"
+
+namespace DeviceIcon {
+
+void set(const QString &volume, const QString &resourceFolder, const QDate &today)
+{
+    FileManager &files = FileManager::defaultManager();
+    const QString icon = volume + QStringLiteral("/.VolumeIcon.icns");
+    const QString resource = QStringLiteral("%1/PSP%2.icns").arg(resourceFolder).arg(today.month());
+    if (files.exists(icon))
+        files.remove(icon, nullptr);
+    files.copy(resource, icon, nullptr);
+    FinderInfo::setCustomIconFlag(volume);
+}
+
+} // namespace DeviceIcon

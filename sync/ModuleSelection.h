@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// What the user selected in one module, kept in the preferences and, per stick, in a profile on it.
+namespace ModuleSelection {
+
+/// The selection that counts for the volume: the stick's own profile while "useSyncProfiles" is on and
+/// the stick has a usable one, else the preference "enabled" + save name. Nothing where neither is
+/// there. Any thread.
+std::optional<QStringList> read(const QString &moduleSaveName, const QString &volume);
+
+/// Stores the selection in the preferences, and in the volume's profile when the volume has been
+/// synced before. An empty volume path stands for no volume.
+void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume);
+
+} // namespace ModuleSelection

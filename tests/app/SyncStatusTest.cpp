@@ -1,0 +1,174 @@
+#include "app/SyncStatus.h"
+
+#include "support/FailingFileManager.h"
+#include "support/ListModule.h"
+#include "support/SyncHarness.h"
+#include "util/QMLogger.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+class AlertList : public AlertPresenter
+{
+public:
+    QStringList titles;
+    QString message;
+    void show(const QString &title, const QString &text, AlertStyle) override
+    {
+        titles.append(title);
+        message = text;
+    }
+};
+
+class SyncStatusTest : public testing::Test
+{
+protected:
+    TemporaryFolder sources;
+    ListModule::Wishes wishes{[this] {
+                                  std::vector<CVSyncItem> items;
+                                  for (const QString &name : {QStringLiteral("one"), QStringLiteral("two")})
+                                      items.emplace_back(sources / name, harness.stick(QStringLiteral("PSP/MUSIC/") + name), name);
+                                  return items;
+                              },
+                              QStringLiteral("/PSP/MUSIC")};
+    FailingFileManager files;
+    SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
+    QMLogger logger;
+    FrontEnd frontEnd;
+    AlertList alerts;
+    int opened = 0;
+    SyncStatus status{{harness.manager, logger, frontEnd, alerts, harness.clock, [this] { ++opened; }}};
+
+    void SetUp() override
+    {
+        FileManager::setDefaultManager(&files);
+        harness.manager.setDelegate(&status);
+        for (const QString &name : {QStringLiteral("one"), QStringLiteral("two")})
+            writeFile(sources / name, "contents");
+    }
+    void TearDown() override
+    {
+        harness.settle();
+        FileManager::setDefaultManager(nullptr);
+    }
+
+    void run()
+    {
+        harness.manager.sync();
+        harness.settle();
+    }
+    /// The log's messages without their time stamps.
+    QStringList messages() const
+    {
+        QStringList result;
+        for (const QString &line : logger.log().split(u'\n', Qt::SkipEmptyParts))
+            result.append(line.mid(line.indexOf(u" : ") + 3));
+        return result;
+    }
+};
+
+QStringList list(std::initializer_list<const char *> texts)
+{
+    QStringList result;
+    for (const char *text : texts)
+        result.append(QString::fromUtf8(text));
+    return result;
+}
+
+} // namespace
+
+TEST_F(SyncStatusTest, FollowsTheDeviceAndTheRun)
+{
+    files.freeBytes = 3ULL << 29;
+    harness.mountStick();
+    EXPECT_EQ(status.statusText(), QStringLiteral("1.5 GB Available"));
+    EXPECT_EQ(status.statusSubText(), QStringLiteral("Click \"Sync Now\" to perform a sync."));
+    run();
+    EXPECT_EQ(status.statusText(), QStringLiteral("Sync Successful"));
+    EXPECT_EQ(status.statusSubText(), QStringLiteral("Last Sync: Today 03:09 PM"));
+    EXPECT_EQ(messages(), list({"Sync was completed successfully."}));
+
+    harness.defaults.setObject(QStringLiteral("openOnMount"), true);
+    harness.volumes.unmount(harness.stick());
+    EXPECT_EQ(status.statusText(), QStringLiteral("No PSP Connected"));
+    EXPECT_EQ(status.statusSubText(), QStringLiteral("Connect a PSP to perform a sync."));
+    harness.volumes.mount(harness.stick());
+    EXPECT_EQ(status.statusSubText(), QStringLiteral("Last Sync: Today 03:09 PM"));
+    EXPECT_EQ(opened, 1);
+    harness.volumes.canEject = false;
+    harness.manager.eject();
+    EXPECT_EQ(status.statusText(), QStringLiteral("Eject Failed"));
+}
+
+TEST_F(SyncStatusTest, LogsEveryTextWhenAskedTo)
+{
+    harness.mountStick();
+    harness.defaults.setObject(QStringLiteral("useDetailedLogging"), true);
+    const SystemLogCapture quiet;
+    run();
+    EXPECT_EQ(messages(), list({"Preparing to Sync...",
+                                "One moment, Caravel is gathering information...",
+                                "Cleaning Up...",
+                                "Caravel is removing unneeded files...",
+                                "Starting Sync...",
+                                "Caravel is copying selected files...",
+                                "Syncing Test...",
+                                "one",
+                                "two",
+                                "Sync Successful",
+                                "Last Sync: Today 03:09 PM"}));
+}
+
+TEST_F(SyncStatusTest, SaysWhyARunEnded)
+{
+    harness.mountStick();
+    files.freeBytes = 10;
+    run();
+    EXPECT_EQ(alerts.titles, list({"Sync too large!"}));
+    EXPECT_TRUE(alerts.message.contains(QStringLiteral("sync 16 b, however only 10 b of free space")));
+    EXPECT_EQ(messages(), list({"Not enough free space to complete sync of size: 16 b", "Sync was cancelled."}));
+    EXPECT_EQ(status.statusText(), QStringLiteral("Sync Cancelled"));
+    EXPECT_EQ(status.statusSubText(), QStringLiteral("You must re-sync to ensure the PSP is up to date."));
+}
+
+TEST_F(SyncStatusTest, TellsAFullStickFromOtherErrors)
+{
+    const SystemLogCapture system;
+    harness.mountStick();
+    files.readOnlyBelow = harness.stick(QStringLiteral("PSP"));
+    run();
+    ASSERT_EQ(messages().size(), 3);
+    EXPECT_TRUE(messages()[0].startsWith(QStringLiteral("Unexpected error: Couldn't create: ") + harness.stick()));
+    EXPECT_EQ(messages()[2], QStringLiteral("Sync was completed successfully."));
+    EXPECT_TRUE(alerts.titles.isEmpty());
+
+    files.readOnlyBelow.clear();
+    files.writableBytes = 4;
+    files.onFull = [this] { files.freeBytes = 0; };
+    logger.clear();
+    run();
+    EXPECT_EQ(messages().mid(1), list({"Memory stick filled while syncing!", "Sync was cancelled."}));
+    EXPECT_EQ(alerts.titles, list({"Memory stick full!"})) << "once, however many files fail";
+
+    status.syncError({{QStringLiteral("Error"), QStringLiteral("Couldn't remove")}});
+    EXPECT_EQ(alerts.titles.size(), 1);
+}
+
+TEST_F(SyncStatusTest, AnswersTheManagersQuestions)
+{
+    EXPECT_TRUE(status.shouldSyncOnMount());
+    EXPECT_TRUE(status.shouldUnmountPSP());
+    harness.defaults.setObject(QStringLiteral("useSyncProfiles"), true);
+    EXPECT_FALSE(status.shouldSyncOnMount());
+    EXPECT_TRUE(status.shouldUnmountPSP());
+    harness.defaults.setObject(QStringLiteral("useSyncProfiles"), false);
+    status.setIsInteractive(true);
+    EXPECT_FALSE(status.shouldSyncOnMount());
+    EXPECT_FALSE(status.shouldUnmountPSP());
+
+    status.foundUnformattedMemoryStick();
+    harness.defaults.setObject(QStringLiteral("warnAboutUnformattedMemorySticks"), false);
+    status.foundUnformattedMemoryStick();
+    EXPECT_EQ(alerts.titles, list({"Unformatted memory stick found!"}));
+}

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "platform/FileManager.h"
+
+#include <atomic>
+#include <cerrno>
+#include <functional>
+#include <optional>
+#include <utility>
+
+/// The real files, with faults of the test's choice, and a count of what was asked of the disk.
+class FailingFileManager : public FileManager
+{
+public:
+    std::optional<quint64> freeBytes;      ///< what volumes say is free
+    std::optional<qint64> writableBytes;   ///< so many more, then ENOSPC
+    std::function<void()> onFull;          ///< at the first write that finds no room
+    QString readOnlyBelow;                 ///< nothing below can be made or removed
+    mutable std::atomic<int> statusCalls = 0;
+    mutable std::atomic<int> listings = 0;
+
+    FileStatus status(const QString &path) const override
+    {
+        ++statusCalls;
+        return FileManager::status(path);
+    }
+    FileStatus linkStatus(const QString &path) const override
+    {
+        ++statusCalls;
+        return FileManager::linkStatus(path);
+    }
+    std::vector<FolderEntry> subpaths(const QString &folder) const override
+    {
+        ++listings;
+        return FileManager::subpaths(folder);
+    }
+    bool createFolder(const QString &path) override
+    {
+        return !isReadOnly(path) && FileManager::createFolder(path);
+    }
+    int createForWriting(const QString &path) override
+    {
+        return isReadOnly(path) ? -1 : FileManager::createForWriting(path);
+    }
+    qint64 write(int descriptor, const void *buffer, size_t count) override
+    {
+        if (writableBytes) {
+            if (*writableBytes <= 0) {
+                if (onFull)
+                    std::exchange(onFull, nullptr)();
+                errno = ENOSPC;
+                return -1;
+            }
+            count = std::min(count, static_cast<size_t>(*writableBytes));
+            *writableBytes -= static_cast<qint64>(count);
+        }
+        return FileManager::write(descriptor, buffer, count);
+    }
+    bool remove(const QString &path, FileOperationHandler *handler) override
+    {
+        return isReadOnly(path) ? refuse(path, handler) : FileManager::remove(path, handler);
+    }
+    bool removeEmptyFolder(const QString &path, FileOperationHandler *handler) override
+    {
+        return isReadOnly(path) ? refuse(path, handler)
+                                : FileManager::removeEmptyFolder(path, handler);
+    }
+    bool writeAtomically(const QString &path, const QByteArray &contents, QString *reason) override
+    {
+        return !isReadOnly(path) && FileManager::writeAtomically(path, contents, reason);
+    }
+    std::optional<VolumeSpace> volumeSpace(const QString &path) const override
+    {
+        auto space = FileManager::volumeSpace(path);
+        if (space && freeBytes)
+            space->free = *freeBytes;
+        return space;
+    }
+
+private:
+    bool isReadOnly(const QString &path) const
+    {
+        const bool below = !readOnlyBelow.isEmpty() && path.startsWith(readOnlyBelow + u'/');
+        if (below)
+            errno = EROFS;
+        return below;
+    }
+    static bool refuse(const QString &path, FileOperationHandler *handler)
+    {
+        if (handler) {
+            handler->fileManagerShouldProceedAfterError(
+                {{QStringLiteral("Error"), QStringLiteral("Couldn't remove")},
+                 {QStringLiteral("Path"), path},
+                 {QStringLiteral("Reason"), QStringLiteral("Read-only file system")}});
+        }
+        return false;
+    }
+};

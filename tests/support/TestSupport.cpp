@@ -1,0 +1,100 @@
+#include "support/TestSupport.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QTimer>
+
+#include <mutex>
+
+namespace {
+
+std::mutex logMutex;
+QStringList *logLines = nullptr;
+QtMessageHandler previousHandler = nullptr;
+
+void collectLine(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    const std::scoped_lock lock(logMutex);
+    if (logLines)
+        logLines->append(message);
+}
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder()
+{
+    if (!m_folder.isValid())
+        qFatal("no temporary folder: %s", qPrintable(m_folder.errorString()));
+}
+
+void writeFile(const QString &path, const QByteArray &contents)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("can't write %s: %s", qPrintable(path), qPrintable(file.errorString()));
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool waitFor(const std::function<bool()> &condition, std::chrono::milliseconds limit)
+{
+    const QDeadlineTimer deadline(limit);
+    // Conditions that no event announces (a file that another process writes) need a tick.
+    QTimer tick;
+    tick.start(5);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+QStringList treeOf(const QString &folder)
+{
+    QStringList entries;
+    QDirIterator walk(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                      QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString path = walk.next();
+        const bool isFolder = walk.fileInfo().isDir() && !walk.fileInfo().isSymLink();
+        entries.append(path.mid(folder.size() + 1) + (isFolder ? QStringLiteral("/") : QString()));
+    }
+    entries.sort();
+    return entries;
+}
+
+SystemLogCapture::SystemLogCapture()
+{
+    const std::scoped_lock lock(logMutex);
+    logLines = new QStringList;
+    previousHandler = qInstallMessageHandler(collectLine);
+}
+
+SystemLogCapture::~SystemLogCapture()
+{
+    qInstallMessageHandler(previousHandler);
+    const std::scoped_lock lock(logMutex);
+    delete logLines;
+    logLines = nullptr;
+}
+
+QStringList SystemLogCapture::lines() const
+{
+    const std::scoped_lock lock(logMutex);
+    return *logLines;
+}
+
+bool SystemLogCapture::contains(const QString &text) const
+{
+    return lines().join(u'\n').contains(text);
+}

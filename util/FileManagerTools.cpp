@@ -1,0 +1,260 @@
+#include "util/FileManagerTools.h"
+
+#include "platform/Localized.h"
+#include "platform/Workspace.h"
+#include "util/StringTools.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <system_error>
+#include <utility>
+
+using StringTools::appendingPathComponent;
+
+namespace {
+
+/// What the copy of one file needs until both sides are closed.
+class ChunkedCopy
+{
+public:
+    ChunkedCopy(FileManager &files, QString source, QString destination,
+                FileOperationHandler &handler)
+        : m_files(files)
+        , m_source(std::move(source))
+        , m_destination(std::move(destination))
+        , m_handler(handler)
+    {
+    }
+
+    bool run()
+    {
+        m_from = m_files.openForReading(m_source);
+        if (m_from < 0)
+            return false;
+        m_to = m_files.createForWriting(m_destination);
+        if (m_to < 0) {
+            report(QStringLiteral("Couldn't create"), m_destination, errno);
+            m_files.close(m_from);
+            return false;
+        }
+        copyChunks();
+        if (!m_files.close(m_to))
+            reportWriteError(errno);
+        m_files.close(m_from);
+        m_files.flush(m_destination);
+        return true;
+    }
+
+private:
+    // One buffer for every copy: only one runs at a time.
+    static constexpr size_t chunkSize = 1U << 20;
+    static std::array<char, chunkSize> buffer;
+
+    void copyChunks()
+    {
+        for (;;) {
+            const qint64 count = m_files.read(m_from, buffer.data(), buffer.size());
+            if (count < 0)
+                report(QStringLiteral("Couldn't read"), m_source, errno);
+            if (count <= 0)
+                return;
+            writeChunk(static_cast<size_t>(count));
+            if (m_handler.fileManagerCopiedBytes(static_cast<quint64>(count), m_destination))
+                return;
+        }
+    }
+
+    void writeChunk(size_t size)
+    {
+        for (size_t written = 0; written < size;) {
+            errno = 0;
+            const qint64 count = m_files.write(m_to, buffer.data() + written, size - written);
+            if (count <= 0) {
+                reportWriteError(errno);
+                return;
+            }
+            written += static_cast<size_t>(count);
+        }
+    }
+
+    /// A full stick fails every further chunk too: said once a file.
+    void reportWriteError(int error)
+    {
+        if (!std::exchange(m_writeErrorReported, true))
+            report(QStringLiteral("Couldn't write"), m_destination, error);
+    }
+
+    void report(const QString &what, const QString &path, int error)
+    {
+        ErrorInfo info{{QStringLiteral("Error"), what}, {QStringLiteral("Path"), path}};
+        if (error != 0)
+            info.insert(QStringLiteral("Reason"),
+                        QString::fromLocal8Bit(std::generic_category().message(error).c_str()));
+        m_handler.fileManagerShouldProceedAfterError(info);
+    }
+
+    FileManager &m_files;
+    const QString m_source;
+    const QString m_destination;
+    FileOperationHandler &m_handler;
+    int m_from = -1;
+    int m_to = -1;
+    bool m_writeErrorReported = false;
+};
+
+std::array<char, ChunkedCopy::chunkSize> ChunkedCopy::buffer;
+
+struct SizeUnit
+{
+    double limit; // largest byte count that is told in this unit
+    double bytes;
+    int decimals;
+    const char *format; // as the translations have it; the number takes the place of its "%0.nf"
+};
+
+constexpr double kilobyte = 1024.0;
+constexpr double megabyte = kilobyte * kilobyte;
+constexpr double gigabyte = megabyte * kilobyte;
+constexpr double terabyte = gigabyte * kilobyte;
+
+const SizeUnit &unitFor(double byteCount)
+{
+    static constexpr std::array<SizeUnit, 5> units = {{
+        {kilobyte, 1.0, 0, QT_TRANSLATE_NOOP("", "%0.0f b")},
+        {megabyte, kilobyte, 1, QT_TRANSLATE_NOOP("", "%0.1f KB")},
+        {gigabyte, megabyte, 1, QT_TRANSLATE_NOOP("", "%0.1f MB")},
+        {terabyte, gigabyte, 1, QT_TRANSLATE_NOOP("", "%0.1f GB")},
+        {0.0, terabyte, 1, QT_TRANSLATE_NOOP("", "%0.1f TB")},
+    }};
+    const auto fits = [byteCount](const SizeUnit &unit) {
+        return byteCount <= unit.limit;
+    };
+    return *std::find_if(units.begin(), units.end() - 1, fits);
+}
+
+/// As printf in the C locale; ties go to the even digit, which Qt's own conversion doesn't do.
+QString fixedPoint(double value, int decimals)
+{
+    std::array<char, 32> digits; // at most 2^64 with one decimal
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                   std::chars_format::fixed, decimals);
+    return QString::fromLatin1(digits.data(), end.ptr - digits.data());
+}
+
+constexpr char16_t fatCharacter(char16_t c)
+{
+    switch (c) {
+    case u':':
+    case u'/':
+    case u'?':
+    case u'<':
+    case u'>':
+    case u'|':
+    case u'*':
+    case u'\\':
+        return u'_';
+    case u'"':
+        return u'\'';
+    default:
+        return c;
+    }
+}
+
+constexpr std::array<char16_t, 128> fatCharacters = [] {
+    std::array<char16_t, 128> table{};
+    for (char16_t c = 0; c < table.size(); ++c)
+        table[c] = fatCharacter(c);
+    return table;
+}();
+
+bool isAscii(QStringView text)
+{
+    char16_t all = 0;
+    for (const QChar c : text)
+        all |= c.unicode();
+    return all < fatCharacters.size();
+}
+
+/// Decomposition changes nothing in ASCII, so the trimming can come first and the rest is one pass.
+QString asciiFilename(QStringView title)
+{
+    const QStringView trimmed = title.trimmed();
+    QString name(trimmed.size(), Qt::Uninitialized);
+    std::ranges::transform(trimmed, name.begin(),
+                           [](QChar c) { return QChar(fatCharacters[c.unicode()]); });
+    if (title.endsWith(u'.'))
+        name.back() = u'_';
+    return name;
+}
+
+} // namespace
+
+void FileManagerTools::createPath(const QString &path)
+{
+    FileManager &files = FileManager::defaultManager();
+    if (!path.startsWith(u'/') || files.exists(path))
+        return;
+    createPath(path.left(path.lastIndexOf(u'/')));
+    files.createFolder(path);
+}
+
+bool FileManagerTools::copyPath(const QString &source, const QString &toPath,
+                                FileOperationHandler &detailedHandler)
+{
+    FileManager &files = FileManager::defaultManager();
+    const FileStatus from = files.status(source);
+    // A link that leads nowhere is in the way too: writing through it would land somewhere else.
+    if (!from.exists() || files.linkStatus(toPath).exists())
+        return false;
+    if (from.isFolder())
+        return files.copy(source, toPath, &detailedHandler);
+    return ChunkedCopy(files, source, toPath, detailedHandler).run();
+}
+
+QString FileManagerTools::pathByResolvingAliasesInPath(const QString &path)
+{
+    FileManager &files = FileManager::defaultManager();
+    QString built = QStringLiteral("/");
+    for (const QString &component : path.split(u'/', Qt::SkipEmptyParts)) {
+        built = appendingPathComponent(built, component);
+        if (files.linkStatus(built).kind != FileStatus::Kind::Link)
+            continue;
+        const QString target = QFileInfo(built).canonicalFilePath();
+        if (!target.isEmpty())
+            built = target;
+    }
+    return built;
+}
+
+QString FileManagerTools::sizeDescriptionForByteCount(std::optional<quint64> byteCount)
+{
+    if (byteCount.value_or(0) == 0)
+        return localized("--");
+    const auto value = static_cast<double>(*byteCount);
+    const SizeUnit &unit = unitFor(value);
+    const QString placeholder =
+        unit.decimals == 0 ? QStringLiteral("%0.0f") : QStringLiteral("%0.1f");
+    return localized(unit.format)
+        .replace(placeholder, fixedPoint(value / unit.bytes, unit.decimals));
+}
+
+bool FileManagerTools::trashFileAtPath(const QString &path, FileOperationHandler *)
+{
+    return Workspace::recycle(path);
+}
+
+QString FileManagerTools::makeFilename(const QString &title)
+{
+    if (isAscii(title))
+        return asciiFilename(title);
+    QString name(title.size(), Qt::Uninitialized);
+    std::ranges::transform(title, name.begin(),
+                           [](QChar c) { return QChar(fatCharacter(c.unicode())); });
+    if (name.endsWith(u'.'))
+        name.back() = u'_';
+    return name.normalized(QString::NormalizationForm_D).trimmed();
+}

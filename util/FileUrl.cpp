@@ -1,0 +1,71 @@
+#include "util/FileUrl.h"
+
+#include <string>
+
+namespace FileUrl {
+
+namespace {
+
+constexpr std::string_view scheme = "file:";
+
+bool hasFileScheme(std::string_view url)
+{
+    if (url.size() < scheme.size())
+        return false;
+    for (size_t i = 0; i < scheme.size(); ++i) {
+        const char c = url[i];
+        if ((c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c) != scheme[i])
+            return false;
+    }
+    return true;
+}
+
+int hexDigit(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
+}
+
+std::string percentDecoded(std::string_view text)
+{
+    std::string decoded;
+    decoded.reserve(text.size());
+    for (size_t i = 0; i < text.size(); ++i) {
+        const int high = text[i] == '%' && i + 2 < text.size() ? hexDigit(text[i + 1]) : -1;
+        const int low = high >= 0 ? hexDigit(text[i + 2]) : -1;
+        if (low >= 0) {
+            decoded += static_cast<char>(high * 16 + low);
+            i += 2;
+        } else {
+            decoded += text[i];
+        }
+    }
+    return decoded;
+}
+
+} // namespace
+
+std::optional<QString> path(std::string_view url)
+{
+    if (!hasFileScheme(url))
+        return std::nullopt;
+    url.remove_prefix(scheme.size());
+    if (url.starts_with("//")) {
+        const size_t slash = url.find('/', 2);
+        url.remove_prefix(slash == url.npos ? url.size() : slash);
+    }
+    url = url.substr(0, url.find_first_of("?#"));
+    std::string decoded = percentDecoded(url);
+    while (decoded.size() > 1 && decoded.back() == '/')
+        decoded.pop_back();
+    if (!decoded.starts_with('/') || decoded.find('\0') != decoded.npos)
+        return std::nullopt;
+    return QString::fromUtf8(decoded.data(), static_cast<qsizetype>(decoded.size()));
+}
+
+} // namespace FileUrl

@@ -1,0 +1,3 @@
+#include "util/Log.h"
+
+Q_LOGGING_CATEGORY(lcUtil, "caravel.util")
