@@ -183,6 +183,7 @@ void CaravelHelperController::quit()
     m_manager.cancelSync();
     const bool finishedAll = Workers::serveUntilFinished(quitPatience);
     m_helperConnection.invalidate();
+    m_helperConnection.flush();
     UserDefaults::standard().synchronize();
     if (!finishedAll) {
         // A thread that hangs in a read of a dying stick must not meet destructors.

@@ -14,6 +14,9 @@ void FrontEnd::connectTo(const QString &address, const QString &objectPath)
     m_remote = std::make_unique<RemoteObject>(address, objectPath,
                                               QStringLiteral("org.caravel.CaravelFrontEnd"));
     connect(m_remote.get(), &RemoteObject::vanished, this, &FrontEnd::vanished);
+    // One that died since it called is not told of any more.
+    if (!m_remote->isAvailable())
+        QMetaObject::invokeMethod(this, &FrontEnd::vanished, Qt::QueuedConnection);
 }
 
 void FrontEnd::disconnect()

@@ -149,7 +149,8 @@ int FileManager::createForWriting(const QString &path)
 {
     const QByteArray native = Posix::native(path);
     return retryInterrupted([&native] {
-        return ::open(native.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW,
+        return ::open(native.constData(),
+                      O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW,
                       newFileMode);
     });
 }

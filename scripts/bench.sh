@@ -6,5 +6,5 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh >&2
 cmake --preset release -DCARAVEL_BUILD_BENCHMARKS=ON >&2
-cmake --build --preset release --parallel "$(nproc)" >&2
+cmake --build --preset release --parallel "$(nproc)" --target caravel_bench >&2
 exec build/release/bench/caravel_bench "$@"

@@ -62,7 +62,8 @@ main() {
         cd "$project"
         scripts/install-dependencies.sh
         cmake --preset release
-        cmake --build --preset release --parallel "$(nproc)"
+        cmake --build --preset release --parallel "$(nproc)" \
+            --target caravel caravel-helper caravel_resources
     )
     heading "A home with a music library, and a stick, in $sample"
     mkdir -p "$sample/home" "$sample/volumes"

@@ -187,7 +187,7 @@ TEST_F(CVSyncMusicTest, SurvivesLibrariesThatAreBroken)
         const char *said;
     };
     const Case cases[] = {
-        {"empty", {}, "line 1"},
+        {"empty", {}, "empty"},
         {"truncated", good.left(good.size() / 2), "line 5"},
         {"cut after the tracks", good.left(good.indexOf("<key>Playlists")), "line 7"},
         {"not a list", "<html><body>\n</body></html>", "line 1"},
