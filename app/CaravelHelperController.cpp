@@ -31,8 +31,9 @@ QString helperDidStartNotification()
 ModuleFactory modules()
 {
     ModuleFactory factory;
-    factory.music
-        = [](CVSyncModuleDelegate *delegate) { return std::make_unique<CVSyncMusic>(delegate); };
+    factory.music = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncMusic>(delegate);
+    };
     return factory;
 }
 
@@ -45,7 +46,9 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
                  m_services.bundle.resourcePath()},
                 modules())
     , m_status({m_manager, m_logger, m_frontEnd, m_services.alerts, m_services.clock,
-                [this] { openCaravel(); }})
+                [this] {
+                    openCaravel();
+                }})
     , m_lists(m_manager)
 {
     m_logger.setDelegate(this);
@@ -140,8 +143,8 @@ void CaravelHelperController::frontEndIsGone()
 void CaravelHelperController::openCaravel()
 {
     logDetail(QStringLiteral("Launching Caravel front-end..."));
-    Workspace::openFile(StringTools::standardizingPath(m_services.bundle.resourcePath()
-                                                       + QStringLiteral("/../../../../..")));
+    Workspace::openFile(StringTools::standardizingPath(m_services.bundle.resourcePath() +
+                                                       QStringLiteral("/../../../../..")));
 }
 
 void CaravelHelperController::syncNow(const QVariantMap &sender)

@@ -48,7 +48,8 @@ public:
     void syncNow(const QVariantMap &sender);
     void ejectPSP();
 
-    /// The platform's request to quit: passed over while the front-end is open, else the helper goes.
+    /// The platform's request to quit: passed over while the front-end is open, else the helper
+    /// goes.
     void requestQuit();
 
     void logChanged(const QString &line) override;

@@ -35,8 +35,8 @@ bool FrontEnd::isOpen() const
 {
     if (!m_remote)
         return false;
-    const auto answer
-        = m_remote->call(QStringLiteral("isOpen"), {}, std::chrono::seconds(1), false);
+    const auto answer =
+        m_remote->call(QStringLiteral("isOpen"), {}, std::chrono::seconds(1), false);
     return answer.value && answer.value->toBool();
 }
 

@@ -14,8 +14,9 @@ using Request = const RemoteRequest &;
 template <typename Ask>
 RemoteMethod query(const char *name, const char *type, Ask ask)
 {
-    return {QString::fromLatin1(name), {}, {}, QString::fromLatin1(type), false,
-            [ask](Request) { return QVariant::fromValue(ask()); }};
+    return {QString::fromLatin1(name), {}, {}, QString::fromLatin1(type), false, [ask](Request) {
+                return QVariant::fromValue(ask());
+            }};
 }
 
 struct Argument
@@ -51,13 +52,13 @@ void addConnection(std::vector<RemoteMethod> &methods, CaravelHelperController &
         command("setApplication", {"o", "frontEnd"}, Mode::Waits, [&helper](Request request) {
             helper.setApplication(request.caller, request.arguments.first().toString());
         }));
+    methods.push_back(command("applicationWillQuit", {}, Mode::Oneway, [&helper](Request request) {
+        helper.applicationWillQuit(request.caller);
+    }));
     methods.push_back(
-        command("applicationWillQuit", {}, Mode::Oneway,
-                [&helper](Request request) { helper.applicationWillQuit(request.caller); }));
-    methods.push_back(command("ejectPSP", sender, Mode::Oneway,
-                              [&helper](Request) { helper.ejectPSP(); }));
-    methods.push_back(command("openCaravel", sender, Mode::Oneway,
-                              [&helper](Request) { helper.openCaravel(); }));
+        command("ejectPSP", sender, Mode::Oneway, [&helper](Request) { helper.ejectPSP(); }));
+    methods.push_back(
+        command("openCaravel", sender, Mode::Oneway, [&helper](Request) { helper.openCaravel(); }));
     methods.push_back(command("syncNow", sender, Mode::Oneway, [&helper](Request request) {
         helper.syncNow(request.arguments.first().toMap());
     }));
@@ -72,8 +73,7 @@ void addState(std::vector<RemoteMethod> &methods, CaravelHelperController &helpe
     methods.push_back(query("pspIsMounted", "b", [&manager] { return manager.pspIsMounted(); }));
     methods.push_back(query("canSync", "b", [&manager] { return manager.canSync(); }));
     methods.push_back(query("isSyncing", "b", [&manager] { return manager.isSyncing(); }));
-    methods.push_back(
-        query("canCancelSync", "b", [&manager] { return manager.canCancelSync(); }));
+    methods.push_back(query("canCancelSync", "b", [&manager] { return manager.canCancelSync(); }));
     methods.push_back(
         query("isIndeterminate", "b", [&manager] { return manager.isIndeterminate(); }));
     methods.push_back(
@@ -96,11 +96,10 @@ void addEstimate(std::vector<RemoteMethod> &methods, CVSyncManager &manager)
     methods.push_back(query("syncBytesEstimate", "s", [&manager] {
         return FileManagerTools::sizeDescriptionForByteCount(manager.syncBytesEstimate());
     }));
-    methods.push_back(
-        command("refreshSyncBytesEstimate", {}, Mode::Oneway, [&manager](Request) {
-            UserDefaults::standard().synchronize();
-            manager.refreshSyncBytesEstimate();
-        }));
+    methods.push_back(command("refreshSyncBytesEstimate", {}, Mode::Oneway, [&manager](Request) {
+        UserDefaults::standard().synchronize();
+        manager.refreshSyncBytesEstimate();
+    }));
 }
 
 void addLists(std::vector<RemoteMethod> &methods, CaravelHelperController &helper)

@@ -9,10 +9,14 @@ namespace {
 QString dayName(qint64 daysFromToday)
 {
     switch (daysFromToday) {
-    case 0: return localized("Today");
-    case 1: return localized("Tomorrow");
-    case -1: return localized("Yesterday");
-    default: return {};
+    case 0:
+        return localized("Today");
+    case 1:
+        return localized("Tomorrow");
+    case -1:
+        return localized("Yesterday");
+    default:
+        return {};
     }
 }
 

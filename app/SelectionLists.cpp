@@ -46,13 +46,13 @@ QVariantList SelectionLists::musicItems() const
     const auto playlists = CVSyncMusic::availableIdentifiers();
     if (!playlists)
         return {};
-    const QStringList selection
-        = CVSyncMusic::selectedIdentifiersForPSP(m_manager.pspVolume()).value_or(QStringList());
+    const QStringList selection =
+        CVSyncMusic::selectedIdentifiersForPSP(m_manager.pspVolume()).value_or(QStringList());
     const QSet<QString> selected(selection.begin(), selection.end());
     QVariantList rows;
     for (const MusicLibrary::Playlist &playlist : *playlists) {
-        if (!playlist.isPartyShuffle && !playlist.isPurchasedMusic && !playlist.isVideos
-            && playlist.name)
+        if (!playlist.isPartyShuffle && !playlist.isPurchasedMusic && !playlist.isVideos &&
+            playlist.name)
             rows.append(row(playlist, selected));
     }
     return rows;

@@ -5,8 +5,8 @@
 
 class CVSyncManager;
 
-/// The lists that the front-end offers for selection, and the selections it sends back. A list is read
-/// anew at each call. Main thread.
+/// The lists that the front-end offers for selection, and the selections it sends back. A list is
+/// read anew at each call. Main thread.
 class SelectionLists
 {
 public:
@@ -16,8 +16,8 @@ public:
     {
     }
 
-    /// Rows of the selectable playlists in library order: "identifier", "name", "icon" (image name),
-    /// "order" (rank of its kind), "size" (entries), and "enabled" = true where selected.
+    /// Rows of the selectable playlists in library order: "identifier", "name", "icon" (image
+    /// name), "order" (rank of its kind), "size" (entries), and "enabled" = true where selected.
     QVariantList musicItems() const;
     void setSelectedMusicIdentifiers(const QStringList &identifiers) const;
 

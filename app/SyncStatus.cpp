@@ -29,9 +29,8 @@ QString size(std::optional<quint64> bytes)
 // One line for the log, keys in a fixed order.
 QString description(const ErrorInfo &error)
 {
-    QString text
-        = QStringLiteral("%1: %2").arg(error.value(QStringLiteral("Error")).toString(),
-                                       error.value(QStringLiteral("Path")).toString());
+    QString text = QStringLiteral("%1: %2").arg(error.value(QStringLiteral("Error")).toString(),
+                                                error.value(QStringLiteral("Path")).toString());
     if (const QString reason = error.value(QStringLiteral("Reason")).toString(); !reason.isEmpty())
         text += QStringLiteral(" (%1)").arg(reason);
     return text;
@@ -89,8 +88,8 @@ void SyncStatus::doAlert(const QString &title, const QString &message, AlertStyl
 
 void SyncStatus::pspDidMount(const QString &)
 {
-    const bool syncedBefore
-        = UserDefaults::standard().dateForKey(QStringLiteral("lastSync")).has_value();
+    const bool syncedBefore =
+        UserDefaults::standard().dateForKey(QStringLiteral("lastSync")).has_value();
     show(filled(localized("%@ Available"), {size(m_services.manager.pspFreeSpace())}),
          syncedBefore ? lastSyncText() : localized("Click \"Sync Now\" to perform a sync."));
     m_services.frontEnd.pspDidMount();
@@ -108,11 +107,12 @@ void SyncStatus::foundUnformattedMemoryStick()
 {
     if (!preference("warnAboutUnformattedMemorySticks"))
         return;
-    doAlert(localized("Unformatted memory stick found!"),
-            localized("A Memory Stick was found, however it is not formatted for use with a "
-                      "PSP.\n\nIf you intend to use this Memory Stick with the PSP and Caravel, you "
-                      "must first format it from the PSP's main menu."),
-            AlertStyle::Warning);
+    doAlert(
+        localized("Unformatted memory stick found!"),
+        localized("A Memory Stick was found, however it is not formatted for use with a "
+                  "PSP.\n\nIf you intend to use this Memory Stick with the PSP and Caravel, you "
+                  "must first format it from the PSP's main menu."),
+        AlertStyle::Warning);
 }
 
 bool SyncStatus::shouldSyncOnMount()
@@ -151,8 +151,8 @@ void SyncStatus::syncWillCleanUp()
 
 void SyncStatus::syncNotEnoughFreeSpace(quint64 bytes)
 {
-    m_services.logger.log(
-        QStringLiteral("Not enough free space to complete sync of size: %@"), size(bytes));
+    m_services.logger.log(QStringLiteral("Not enough free space to complete sync of size: %@"),
+                          size(bytes));
     doAlert(localized("Sync too large!"),
             filled(localized("You are attempting to sync %@, however only %@ of free space is "
                              "available on the Memory Stick currently in your PSP.\n\nPlease "

@@ -20,8 +20,8 @@ public:
     virtual void show(const QString &title, const QString &message, AlertStyle style) = 0;
 };
 
-/// Turns what the sync manager tells into the two status lines, log lines and alerts, and hands it on
-/// to the front-end. Main thread, but for the two questions.
+/// Turns what the sync manager tells into the two status lines, log lines and alerts, and hands it
+/// on to the front-end. Main thread, but for the two questions.
 class SyncStatus : public CVSyncManagerDelegate
 {
 public:

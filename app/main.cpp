@@ -24,13 +24,13 @@ Options parse(int argc, char **argv)
     CLI::App command("Keeps a PSP's Memory Stick up to date with your media.", "caravel-helper");
     std::string folder;
     command
-        .add_option("--volumes-folder", folder,
-                    "Take the folders in DIR for the mounted volumes, in the place of the desktop's")
+        .add_option(
+            "--volumes-folder", folder,
+            "Take the folders in DIR for the mounted volumes, in the place of the desktop's")
         ->type_name("DIR")
         ->envname("CARAVEL_VOLUMES");
-    command.set_version_flag("--version", [] {
-        return "caravel-helper " + Bundle::main().version().toStdString();
-    });
+    command.set_version_flag(
+        "--version", [] { return "caravel-helper " + Bundle::main().version().toStdString(); });
     Options options;
     try {
         command.parse(argc, argv);
@@ -66,8 +66,8 @@ int main(int argc, char **argv)
     const auto volumes = makeVolumes(options.volumesFolder);
     SystemClock clock;
     JournalAlerts alerts;
-    CaravelHelperController controller({*volumes, DistributedNotificationCenter::defaultCenter(),
-                                        clock, alerts, Bundle::main()});
+    CaravelHelperController controller(
+        {*volumes, DistributedNotificationCenter::defaultCenter(), clock, alerts, Bundle::main()});
     const QuitSignals quitSignals([&controller](int) { controller.requestQuit(); });
     QObject::connect(&controller, &CaravelHelperController::finished, &application,
                      &QCoreApplication::quit, Qt::QueuedConnection);

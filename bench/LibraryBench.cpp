@@ -1,4 +1,5 @@
-// Everything of a library of 100,000 tracks, against a bare pass of the XML parser over the same file.
+// Everything of a library of 100,000 tracks, against a bare pass of the XML parser over the same
+// file.
 
 #include "Workbench.h"
 #include "modules/CVSyncMusic.h"
@@ -32,34 +33,39 @@ QByteArray track(int id)
     const QByteArray artist = "Some Artist " + QByteArray::number(id / 40);
     const QByteArray album = "The Album of the Year " + QByteArray::number(id / 12);
     const QByteArray name = "A Song with a Title " + number;
-    return "\t\t<key>" + number + "</key>\n\t\t<dict>\n" + pair("Track ID", "integer", number)
-        + pair("Name", "string", name) + pair("Artist", "string", artist)
-        + pair("Album Artist", "string", artist) + pair("Composer", "string", artist)
-        + pair("Album", "string", album) + pair("Genre", "string", "Alternative &#38; Punk")
-        + pair("Kind", "string", "MPEG audio file") + pair("Size", "integer", "5242880")
-        + pair("Total Time", "integer", "251000") + pair("Disc Number", "integer", "1")
-        + pair("Disc Count", "integer", "1") + pair("Track Number", "integer", QByteArray::number(id % 12 + 1))
-        + pair("Track Count", "integer", "12") + pair("Year", "integer", "2006")
-        + pair("Date Modified", "date", "2006-03-01T12:00:00Z")
-        + pair("Date Added", "date", "2006-03-01T12:00:00Z") + pair("Bit Rate", "integer", "192")
-        + pair("Sample Rate", "integer", "44100") + pair("Play Count", "integer", "7")
-        + pair("Play Date", "integer", "3224412312") + pair("Play Date UTC", "date", "2006-03-05T09:05:12Z")
-        + pair("Persistent ID", "string", "9E5D2F4B7C" + number.rightJustified(6, '0'))
-        + pair("Track Type", "string", "File")
-        + pair("Location", "string",
-               "file://localhost/home/user/Music/iTunes/iTunes%20Music/" + QByteArray(artist).replace(' ', "%20")
-                   + "/" + QByteArray(album).replace(' ', "%20") + "/" + number + "%20Song.mp3")
-        + pair("File Folder Count", "integer", "4") + pair("Library Folder Count", "integer", "1")
-        + "\t\t</dict>\n";
+    return "\t\t<key>" + number + "</key>\n\t\t<dict>\n" + pair("Track ID", "integer", number) +
+           pair("Name", "string", name) + pair("Artist", "string", artist) +
+           pair("Album Artist", "string", artist) + pair("Composer", "string", artist) +
+           pair("Album", "string", album) + pair("Genre", "string", "Alternative &#38; Punk") +
+           pair("Kind", "string", "MPEG audio file") + pair("Size", "integer", "5242880") +
+           pair("Total Time", "integer", "251000") + pair("Disc Number", "integer", "1") +
+           pair("Disc Count", "integer", "1") +
+           pair("Track Number", "integer", QByteArray::number(id % 12 + 1)) +
+           pair("Track Count", "integer", "12") + pair("Year", "integer", "2006") +
+           pair("Date Modified", "date", "2006-03-01T12:00:00Z") +
+           pair("Date Added", "date", "2006-03-01T12:00:00Z") + pair("Bit Rate", "integer", "192") +
+           pair("Sample Rate", "integer", "44100") + pair("Play Count", "integer", "7") +
+           pair("Play Date", "integer", "3224412312") +
+           pair("Play Date UTC", "date", "2006-03-05T09:05:12Z") +
+           pair("Persistent ID", "string", "9E5D2F4B7C" + number.rightJustified(6, '0')) +
+           pair("Track Type", "string", "File") +
+           pair("Location", "string",
+                "file://localhost/home/user/Music/iTunes/iTunes%20Music/" +
+                    QByteArray(artist).replace(' ', "%20") + "/" +
+                    QByteArray(album).replace(' ', "%20") + "/" + number + "%20Song.mp3") +
+           pair("File Folder Count", "integer", "4") +
+           pair("Library Folder Count", "integer", "1") + "\t\t</dict>\n";
 }
 
 void writePlaylist(QFile &file, const QByteArray &name, int first, int count)
 {
-    file.write("\t\t<dict>\n" + pair("Name", "string", name) + pair("Playlist ID", "integer", "9999")
-               + "\t\t\t<key>All Items</key><true/>\n\t\t\t<key>Playlist Items</key>\n\t\t\t<array>\n");
+    file.write(
+        "\t\t<dict>\n" + pair("Name", "string", name) + pair("Playlist ID", "integer", "9999") +
+        "\t\t\t<key>All Items</key><true/>\n\t\t\t<key>Playlist Items</key>\n\t\t\t<array>\n");
     for (int i = 0; i < count; ++i) {
-        file.write("\t\t\t\t<dict>\n\t\t\t\t\t<key>Track ID</key><integer>"
-                   + QByteArray::number((first + i) % trackCount + 1) + "</integer>\n\t\t\t\t</dict>\n");
+        file.write("\t\t\t\t<dict>\n\t\t\t\t\t<key>Track ID</key><integer>" +
+                   QByteArray::number((first + i) % trackCount + 1) +
+                   "</integer>\n\t\t\t\t</dict>\n");
     }
     file.write("\t\t\t</array>\n\t\t</dict>\n");
 }
@@ -85,7 +91,8 @@ struct LibraryHome
 {
     Workbench folder;
     QString library = folder / QStringLiteral("Music/iTunes/iTunes Music Library.xml");
-    UserDefaults defaults{QStringLiteral("org.caravel.Caravel"), folder / QStringLiteral("preferences")};
+    UserDefaults defaults{QStringLiteral("org.caravel.Caravel"),
+                          folder / QStringLiteral("preferences")};
 
     LibraryHome()
     {
@@ -122,8 +129,8 @@ size_t itemsToSync()
 
 void bareExpatPass(const QString &path)
 {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.toUtf8().constData(), "rb"),
-                                                                std::fclose);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(
+        std::fopen(path.toUtf8().constData(), "rb"), std::fclose);
     XML_Parser parser = XML_ParserCreate(nullptr);
     constexpr int chunk = 1 << 20;
     int count = 0;
@@ -142,8 +149,8 @@ void libraryItems(benchmark::State &state)
     for (auto _ : state)
         items = itemsToSync();
     state.counters["items"] = static_cast<double>(items);
-    state.counters["peakMB"]
-        = static_cast<double>(peakMemoryOf([](const QString &) { itemsToSync(); }, {})) / 1e6;
+    state.counters["peakMB"] =
+        static_cast<double>(peakMemoryOf([](const QString &) { itemsToSync(); }, {})) / 1e6;
 }
 
 void libraryExpat(benchmark::State &state)
@@ -154,7 +161,13 @@ void libraryExpat(benchmark::State &state)
     state.counters["fileMB"] = static_cast<double>(QFile(home.library).size()) / 1e6;
 }
 
-BENCHMARK(libraryItems)->Name("library of 100,000 tracks/itemsToSync")->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(libraryExpat)->Name("library of 100,000 tracks/peer: bare expat pass")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(libraryItems)
+    ->Name("library of 100,000 tracks/itemsToSync")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK(libraryExpat)
+    ->Name("library of 100,000 tracks/peer: bare expat pass")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 } // namespace

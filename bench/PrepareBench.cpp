@@ -29,13 +29,15 @@ struct InPlace
         for (int i = 0; i < fileCount; ++i) {
             const QString album = QStringLiteral("Some Album %1").arg(i / perFolder);
             const QString name = QStringLiteral("%1/105. A Song %2.mp3").arg(album).arg(i);
-            for (const QString &top : {QStringLiteral("home/Music/"), QStringLiteral("stick/PSP/MUSIC/")}) {
+            for (const QString &top :
+                 {QStringLiteral("home/Music/"), QStringLiteral("stick/PSP/MUSIC/")}) {
                 QDir().mkpath(folder / (top + album));
                 QFile file(folder / (top + name));
                 if (!file.open(QIODevice::WriteOnly) || file.write("contents") != 8)
                     qFatal("can't write %s", qPrintable(file.fileName()));
             }
-            items.emplace_back(folder / (QStringLiteral("home/Music/") + name), folder / (QStringLiteral("stick/PSP/MUSIC/") + name), name);
+            items.emplace_back(folder / (QStringLiteral("home/Music/") + name),
+                               folder / (QStringLiteral("stick/PSP/MUSIC/") + name), name);
         }
     }
 };
@@ -74,7 +76,13 @@ void bareStatLoop(benchmark::State &state)
     }
 }
 
-BENCHMARK(prepareInPlace)->Name("20,000 files in place/prepare")->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(bareStatLoop)->Name("20,000 files in place/peer: bare loop of the stats")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(prepareInPlace)
+    ->Name("20,000 files in place/prepare")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK(bareStatLoop)
+    ->Name("20,000 files in place/peer: bare loop of the stats")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <malloc.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -48,6 +49,8 @@ quint64 peakMemoryOf(void (*work)(const QString &argument), const QString &argum
         return 0;
     const pid_t child = ::fork();
     if (child == 0) {
+        // What the parent has freed must not be there for the work to take.
+        ::malloc_trim(0);
         resetPeak();
         const quint64 before = peakResidentBytes();
         work(argument);

@@ -1,4 +1,5 @@
-// Each benchmark is named "what/us" or "what/peer: whom"; the table at the end sets them side by side.
+// Each benchmark is named "what/us" or "what/peer: whom"; the table at the end sets them side by
+// side.
 
 #include <QCoreApplication>
 
@@ -27,7 +28,8 @@ public:
     {
         std::printf("\n%-36s %12s %12s %7s\n", "medians", "us (ms)", "peer (ms)", "ratio");
         for (const auto &[what, pair] : m_pairs)
-            std::printf("%-36s %12.1f %12.1f %7.2f\n", what.c_str(), pair.us, pair.peer, pair.us / pair.peer);
+            std::printf("%-36s %12.1f %12.1f %7.2f\n", what.c_str(), pair.us, pair.peer,
+                        pair.us / pair.peer);
     }
 
 private:
@@ -52,7 +54,8 @@ private:
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
-    // A single run says little on a busy machine. Random interleaving sets us and our peers side by side.
+    // A single run says little on a busy machine. Random interleaving sets us and our peers side by
+    // side.
     std::vector<std::string> defaults{argv[0], "--benchmark_repetitions=7",
                                       "--benchmark_enable_random_interleaving=true",
                                       "--benchmark_report_aggregates_only=true"};

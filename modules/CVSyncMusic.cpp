@@ -11,6 +11,8 @@
 #include "util/Preferences.h"
 #include "util/StringTools.h"
 
+#include <utility>
+
 namespace {
 
 QString libraryPath()
@@ -121,10 +123,13 @@ void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items) const
                 continue;
             if (detailed)
                 qCInfo(lcModules) << "Track" << id << "is valid and will be synced";
-            const QString suffix
-                = u'.' + MusicNaming::extensionOnStick(PathComponents::extensionOf(*source));
+            const QString suffix =
+                u'.' + MusicNaming::extensionOnStick(PathComponents::extensionOf(*source));
             const QString relative = naming.relativePath(*track, position++, suffix);
-            items.emplace_back(*source, root + relative + suffix, relative);
+            QString destination;
+            destination.reserve(root.size() + relative.size() + suffix.size());
+            destination.append(root).append(relative).append(suffix);
+            items.emplace_back(*source, std::move(destination), relative);
         }
     }
 }
@@ -136,8 +141,8 @@ void CVSyncMusic::addDropboxItems(std::vector<CVSyncItem> &items) const
         const QStringView extension = PathComponents::extensionOf(entry.path);
         if (entry.isFolder || !MusicNaming::isPlayable(extension, firmware))
             continue;
-        const QString onStick
-            = entry.path.chopped(extension.size()) + MusicNaming::extensionOnStick(extension);
+        const QString onStick =
+            entry.path.chopped(extension.size()) + MusicNaming::extensionOnStick(extension);
         items.emplace_back(dropbox() + u'/' + entry.path, rootSyncFolder() + u'/' + onStick,
                            entry.path);
     }

@@ -6,7 +6,8 @@
 #include <optional>
 #include <vector>
 
-/// Puts the chosen iTunes playlists and the music dropbox into "PSP/MUSIC". The library is only read.
+/// Puts the chosen iTunes playlists and the music dropbox into "PSP/MUSIC". The library is only
+/// read.
 class CVSyncMusic : public CVSyncModule
 {
 public:

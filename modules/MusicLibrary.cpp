@@ -32,8 +32,8 @@ std::int32_t clampedInteger(const PropertyListScalar &value)
 
 } // namespace
 
-// Follows the list's shape with a stack of places; what stands where it doesn't belong opens a place in
-// which everything is passed over.
+// Follows the list's shape with a stack of places; what stands where it doesn't belong opens a
+// place in which everything is passed over.
 class MusicLibrary::Reader : public PropertyListHandler
 {
 public:
@@ -55,9 +55,24 @@ public:
 private:
     enum class In { Nothing, Root, Tracks, Track, Playlists, Playlist, Items, Item, Unknown };
     enum class Field {
-        None, TrackTable, PlaylistList, // of the root
-        Type, Kind, Location, Artist, Album, Name, TrackNumber, DiscNumber, // of a track
-        PlaylistName, Items, Master, Podcasts, PartyShuffle, PurchasedMusic, Videos, // of a playlist
+        None,
+        TrackTable,
+        PlaylistList, // of the root
+        Type,
+        Kind,
+        Location,
+        Artist,
+        Album,
+        Name,
+        TrackNumber,
+        DiscNumber, // of a track
+        PlaylistName,
+        Items,
+        Master,
+        Podcasts,
+        PartyShuffle,
+        PurchasedMusic,
+        Videos,  // of a playlist
         TrackId, // of an item
     };
 
@@ -81,12 +96,19 @@ private:
 bool MusicLibrary::Reader::key(std::string_view name)
 {
     switch (place()) {
-    case In::Track: return trackKey(name);
-    case In::Tracks: return trackTableKey(name);
-    case In::Item: m_field = Field::TrackId; return name == "Track ID";
-    case In::Playlist: return playlistKey(name);
-    case In::Root: return rootKey(name);
-    default: return false;
+    case In::Track:
+        return trackKey(name);
+    case In::Tracks:
+        return trackTableKey(name);
+    case In::Item:
+        m_field = Field::TrackId;
+        return name == "Track ID";
+    case In::Playlist:
+        return playlistKey(name);
+    case In::Root:
+        return rootKey(name);
+    default:
+        return false;
     }
 }
 
@@ -132,9 +154,12 @@ bool MusicLibrary::Reader::trackKey(std::string_view name)
 bool MusicLibrary::Reader::playlistKey(std::string_view name)
 {
     static constexpr std::pair<std::string_view, Field> fields[] = {
-        {"Name", Field::PlaylistName},     {"Playlist Items", Field::Items},
-        {"Master", Field::Master},         {"Podcasts", Field::Podcasts},
-        {"Party Shuffle", Field::PartyShuffle}, {"Purchased Music", Field::PurchasedMusic},
+        {"Name", Field::PlaylistName},
+        {"Playlist Items", Field::Items},
+        {"Master", Field::Master},
+        {"Podcasts", Field::Podcasts},
+        {"Party Shuffle", Field::PartyShuffle},
+        {"Purchased Music", Field::PurchasedMusic},
         {"Videos", Field::Videos},
     };
     for (const auto &[key, field] : fields) {
@@ -173,7 +198,8 @@ void MusicLibrary::Reader::beginDictionary()
         ++m_library.m_playlists.back().size;
         next = In::Item;
         break;
-    default: break;
+    default:
+        break;
     }
     m_places.push_back(next);
 }
@@ -191,13 +217,18 @@ void MusicLibrary::Reader::beginArray()
 void MusicLibrary::Reader::scalar(const PropertyListScalar &value)
 {
     switch (place()) {
-    case In::Track: trackScalar(value); break;
-    case In::Playlist: playlistScalar(value); break;
+    case In::Track:
+        trackScalar(value);
+        break;
+    case In::Playlist:
+        playlistScalar(value);
+        break;
     case In::Item:
         if (value.type == PropertyListType::Integer)
             m_library.m_playlists.back().tracks.push_back(value.toInteger());
         break;
-    default: break;
+    default:
+        break;
     }
 }
 
@@ -213,13 +244,26 @@ void MusicLibrary::Reader::trackScalar(const PropertyListScalar &value)
     if (value.type != PropertyListType::String)
         return;
     switch (m_field) {
-    case Field::Type: track.isFile = value.text == "File"; break;
-    case Field::Kind: track.isLossless = value.text.find("Lossless") != value.text.npos; break;
-    case Field::Location: track.location = keep(value.text); break;
-    case Field::Artist: track.artist = keep(value.text); break;
-    case Field::Album: track.album = keep(value.text); break;
-    case Field::Name: track.name = keep(value.text); break;
-    default: break;
+    case Field::Type:
+        track.isFile = value.text == "File";
+        break;
+    case Field::Kind:
+        track.isLossless = value.text.find("Lossless") != value.text.npos;
+        break;
+    case Field::Location:
+        track.location = keep(value.text);
+        break;
+    case Field::Artist:
+        track.artist = keep(value.text);
+        break;
+    case Field::Album:
+        track.album = keep(value.text);
+        break;
+    case Field::Name:
+        track.name = keep(value.text);
+        break;
+    default:
+        break;
     }
 }
 
@@ -227,17 +271,29 @@ void MusicLibrary::Reader::playlistScalar(const PropertyListScalar &value)
 {
     Playlist &playlist = m_library.m_playlists.back();
     if (m_field == Field::PlaylistName && value.type == PropertyListType::String) {
-        playlist.name = QString::fromUtf8(value.text.data(), static_cast<qsizetype>(value.text.size()));
+        playlist.name =
+            QString::fromUtf8(value.text.data(), static_cast<qsizetype>(value.text.size()));
         return;
     }
     const bool isTrue = value.type == PropertyListType::Boolean && value.text == "true";
     switch (m_field) {
-    case Field::Master: playlist.isMaster = isTrue; break;
-    case Field::Podcasts: playlist.isPodcasts = isTrue; break;
-    case Field::PartyShuffle: playlist.isPartyShuffle = isTrue; break;
-    case Field::PurchasedMusic: playlist.isPurchasedMusic = isTrue; break;
-    case Field::Videos: playlist.isVideos = isTrue; break;
-    default: break;
+    case Field::Master:
+        playlist.isMaster = isTrue;
+        break;
+    case Field::Podcasts:
+        playlist.isPodcasts = isTrue;
+        break;
+    case Field::PartyShuffle:
+        playlist.isPartyShuffle = isTrue;
+        break;
+    case Field::PurchasedMusic:
+        playlist.isPurchasedMusic = isTrue;
+        break;
+    case Field::Videos:
+        playlist.isVideos = isTrue;
+        break;
+    default:
+        break;
     }
 }
 
@@ -256,8 +312,8 @@ std::optional<MusicLibrary> MusicLibrary::read(const QString &path, Part part)
     if (readPropertyList(path, libraryLimit, reader, &error) && !reader.rootIsDictionary())
         error.text = QStringLiteral("the list's root is no dictionary");
     if (error) {
-        qCWarning(lcModules).noquote() << "Can't read the music library" << path << "line"
-                                       << error.line << ":" << error.text;
+        qCWarning(lcModules).noquote()
+            << "Can't read the music library" << path << "line" << error.line << ":" << error.text;
     }
     if (error || !reader.rootIsDictionary())
         return std::nullopt;
@@ -267,7 +323,9 @@ std::optional<MusicLibrary> MusicLibrary::read(const QString &path, Part part)
 
 void MusicLibrary::sortTracks()
 {
-    const auto byId = [](const StoredTrack &a, const StoredTrack &b) { return a.id < b.id; };
+    const auto byId = [](const StoredTrack &a, const StoredTrack &b) {
+        return a.id < b.id;
+    };
     if (!std::is_sorted(m_tracks.begin(), m_tracks.end(), byId))
         std::stable_sort(m_tracks.begin(), m_tracks.end(), byId);
 }
@@ -282,14 +340,13 @@ MusicLibrary::Text MusicLibrary::textAt(Place place) const
 std::optional<MusicLibrary::Track> MusicLibrary::track(std::int64_t id) const
 {
     // Of tracks with one id the last counts, as in a dictionary with one key twice.
-    const auto after = std::upper_bound(m_tracks.begin(), m_tracks.end(), id,
-                                        [](std::int64_t wanted, const StoredTrack &track) {
-                                            return wanted < track.id;
-                                        });
+    const auto after = std::upper_bound(
+        m_tracks.begin(), m_tracks.end(), id,
+        [](std::int64_t wanted, const StoredTrack &track) { return wanted < track.id; });
     if (after == m_tracks.begin() || std::prev(after)->id != id)
         return std::nullopt;
     const StoredTrack &found = *std::prev(after);
-    return Track{found.isFile,          found.isLossless,     found.trackNumber,
-                 found.discNumber,      textAt(found.location), textAt(found.artist),
-                 textAt(found.album),   textAt(found.name)};
+    return Track{found.isFile,        found.isLossless,       found.trackNumber,
+                 found.discNumber,    textAt(found.location), textAt(found.artist),
+                 textAt(found.album), textAt(found.name)};
 }

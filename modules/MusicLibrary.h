@@ -37,15 +37,15 @@ public:
         bool isPartyShuffle = false;
         bool isPurchasedMusic = false;
         bool isVideos = false;
-        qsizetype size = 0;             ///< number of entries, usable or not
+        qsizetype size = 0;               ///< number of entries, usable or not
         std::vector<std::int64_t> tracks; ///< track ids in playlist order
     };
 
     /// Whether a reader needs the tracks or the playlists alone.
     enum class Part { PlaylistsOnly, Everything };
 
-    /// Nothing where there is no library file; nothing, and a line in the system log that says what is
-    /// wrong and where, when the file can't be read. Any thread.
+    /// Nothing where there is no library file; nothing, and a line in the system log that says what
+    /// is wrong and where, when the file can't be read. Any thread.
     static std::optional<MusicLibrary> read(const QString &path, Part part);
 
     MusicLibrary(MusicLibrary &&) noexcept = default;

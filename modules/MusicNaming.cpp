@@ -3,6 +3,8 @@
 #include "util/FileManagerTools.h"
 #include "util/PathComponents.h"
 
+#include <algorithm>
+
 namespace {
 
 QString toQString(std::string_view text)
@@ -11,14 +13,17 @@ QString toQString(std::string_view text)
 }
 
 // Decimal with at least so many digits, as printf's "%0<width>i".
-QString padded(int number, qsizetype width)
+void appendPadded(QString &text, int number, qsizetype width)
 {
-    QString digits = QString::number(number);
-    return digits.size() < width ? digits.rightJustified(width, u'0') : digits;
+    const QString digits = QString::number(number);
+    text.resize(text.size() + std::max<qsizetype>(width - digits.size(), 0), u'0');
+    text += digits;
 }
 
 bool isOneOf(QStringView extension, std::initializer_list<QStringView> known)
 {
+    if (extension.size() != 3) // as all of them have; most that is asked about is one of them
+        return false;
     for (const QStringView candidate : known) {
         if (extension.compare(candidate, Qt::CaseInsensitive) == 0)
             return true;
@@ -31,58 +36,73 @@ bool isOneOf(QStringView extension, std::initializer_list<QStringView> known)
 MusicNaming::MusicNaming(qint64 organizeBy, qint64 sortBy)
     : m_organizeBy(organizeBy)
     , m_sortBy(sortBy)
+    , m_unsorted{QStringLiteral("Unsorted"), QStringLiteral("Unsorted")}
 {
 }
 
 void MusicNaming::beginPlaylist(const QString &name)
 {
-    m_playlist = FileManagerTools::makeFilename(name);
+    m_playlist = nameOf(name).folder;
 }
 
-const QString &MusicNaming::sanitized(const MusicLibrary::Text &text, const QString &absent)
+MusicNaming::Name MusicNaming::nameOf(const QString &text)
+{
+    const QString sanitized = FileManagerTools::makeFilename(text);
+    return {sanitized, PathComponents::safe(sanitized)};
+}
+
+const MusicNaming::Name &MusicNaming::nameOf(const MusicLibrary::Text &text)
 {
     if (!text)
-        return absent;
-    const auto [place, isNew] = m_sanitized.try_emplace(*text);
+        return m_unsorted;
+    const auto [place, isNew] = m_names.try_emplace(*text);
     if (isNew)
-        place->second = FileManagerTools::makeFilename(toQString(*text));
+        place->second = nameOf(toQString(*text));
     return place->second;
 }
 
 QString MusicNaming::folder(const MusicLibrary::Track &track)
 {
-    static const QString unsorted = QStringLiteral("Unsorted");
     switch (m_organizeBy) {
-    case Playlist: return m_playlist;
-    case Artist: return sanitized(track.artist, unsorted);
+    case Playlist:
+        return m_playlist;
+    case Artist:
+        return nameOf(track.artist).folder;
     case ArtistAndAlbum:
-        return sanitized(track.artist, unsorted) + QStringLiteral(" - ")
-            + sanitized(track.album, unsorted);
-    default: return sanitized(track.album, unsorted);
+        return PathComponents::safe(nameOf(track.artist).sanitized + QStringLiteral(" - ") +
+                                    nameOf(track.album).sanitized);
+    default:
+        return nameOf(track.album).folder;
     }
 }
 
-QString MusicNaming::prefix(const MusicLibrary::Track &track, int position) const
+void MusicNaming::appendPrefix(QString &file, const MusicLibrary::Track &track, int position) const
 {
-    switch (m_sortBy) {
-    case Position: return padded(position, 3) + QStringLiteral(". ");
-    case Nothing: return {};
-    default:
-        return QString::number(track.discNumber) + padded(track.trackNumber, 2)
-            + QStringLiteral(". ");
+    if (m_sortBy == Nothing)
+        return;
+    if (m_sortBy == Position) {
+        appendPadded(file, position, 3);
+    } else {
+        appendPadded(file, track.discNumber, 1);
+        appendPadded(file, track.trackNumber, 2);
     }
+    file += QStringLiteral(". ");
 }
 
 QString MusicNaming::relativePath(const MusicLibrary::Track &track, int position,
                                   QStringView suffix)
 {
-    static const QString unsorted = QStringLiteral("Unsorted");
-    QString file = prefix(track, position);
+    QString file;
+    file.reserve(64);
+    appendPrefix(file, track, position);
     if (m_organizeBy == Playlist)
-        file += sanitized(track.artist, unsorted) + QStringLiteral(" - ");
+        file.append(nameOf(track.artist).sanitized).append(QStringLiteral(" - "));
     file += track.name ? FileManagerTools::makeFilename(toQString(*track.name))
                        : QStringLiteral("Untitled");
-    return PathComponents::safe(folder(track)) + u'/' + PathComponents::safe(file, suffix);
+
+    QString path = folder(track);
+    path.reserve(path.size() + 1 + file.size());
+    return path.append(u'/').append(PathComponents::safe(file, suffix));
 }
 
 QString MusicNaming::extensionOnStick(QStringView extension)
@@ -92,6 +112,6 @@ QString MusicNaming::extensionOnStick(QStringView extension)
 
 bool MusicNaming::isPlayable(QStringView extension, qint64 firmwareVersion)
 {
-    return isOneOf(extension, {u"MP3"})
-        || (firmwareVersion >= 1 && isOneOf(extension, {u"M4A", u"AAC", u"WAV", u"MP4"}));
+    return isOneOf(extension, {u"MP3"}) ||
+           (firmwareVersion >= 1 && isOneOf(extension, {u"M4A", u"AAC", u"WAV", u"MP4"}));
 }

@@ -22,8 +22,8 @@ public:
     /// Names from here on are those of this playlist's tracks.
     void beginPlaylist(const QString &name);
 
-    /// "folder/file" of the playlist's track at the position (from 0), which `suffix` (the extension
-    /// with its dot) will follow. Neither component leaves its place or is too long.
+    /// "folder/file" of the playlist's track at the position (from 0), which `suffix` (the
+    /// extension with its dot) will follow. Neither component leaves its place or is too long.
     QString relativePath(const MusicLibrary::Track &track, int position, QStringView suffix);
 
     /// What a file of that extension is called on the stick: "M4A" and "AAC" become "MP4".
@@ -33,13 +33,22 @@ public:
     static bool isPlayable(QStringView extension, qint64 firmwareVersion);
 
 private:
+    // What an artist or an album is called in file names, and as a folder.
+    struct Name
+    {
+        QString sanitized;
+        QString folder;
+    };
+
+    static Name nameOf(const QString &text);
+    const Name &nameOf(const MusicLibrary::Text &text);
     QString folder(const MusicLibrary::Track &track);
-    QString prefix(const MusicLibrary::Track &track, int position) const;
-    const QString &sanitized(const MusicLibrary::Text &text, const QString &absent);
+    void appendPrefix(QString &file, const MusicLibrary::Track &track, int position) const;
 
     const qint64 m_organizeBy;
     const qint64 m_sortBy;
-    QString m_playlist;
+    const Name m_unsorted;
+    QString m_playlist; // as a folder
     // Artists and albums recur with every track of theirs. The keys are texts of the library.
-    std::unordered_map<std::string_view, QString> m_sanitized;
+    std::unordered_map<std::string_view, Name> m_names;
 };

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-/// A program's bundle: a folder with "Contents/Info.plist", "Contents/bin" and "Contents/Resources".
+/// A program's bundle: a folder with "Contents/Info.plist", "Contents/bin" and
+/// "Contents/Resources".
 class Bundle
 {
 public:

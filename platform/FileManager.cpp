@@ -5,6 +5,7 @@
 #include <QRandomGenerator>
 
 #include <fcntl.h>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -163,6 +164,11 @@ qint64 FileManager::read(int descriptor, void *buffer, size_t count)
 qint64 FileManager::write(int descriptor, const void *buffer, size_t count)
 {
     return retryInterrupted([=] { return ::write(descriptor, buffer, count); });
+}
+
+qint64 FileManager::transfer(int from, int to, size_t count)
+{
+    return retryInterrupted([=] { return ::sendfile(to, from, nullptr, count); });
 }
 
 bool FileManager::close(int descriptor)

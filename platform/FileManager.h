@@ -47,7 +47,8 @@ struct FolderEntry
 {
     QString path; ///< relative to the listed folder, in normal form, without a leading slash
     bool isFolder = false; ///< a folder itself; false for a link to one
-    int parent = -1; ///< index of the folder that holds it in the same listing; -1: the listed folder
+    int parent =
+        -1; ///< index of the folder that holds it in the same listing; -1: the listed folder
 };
 
 /// Size and free space of a file system in bytes; free is what an ordinary user can still fill.
@@ -78,14 +79,14 @@ public:
 
     /// Everything below a folder: a folder before its contents, siblings in byte order of names,
     /// links listed but not followed. One directory listing per folder and no stat call where the
-    /// file system tells the kind of its entries. Empty for what is no folder; a folder that can't be
-    /// read counts as empty and is named in the system log, as is an entry that is left out because
-    /// its name is no valid UTF-8 (no QString could lead back to it).
+    /// file system tells the kind of its entries. Empty for what is no folder; a folder that can't
+    /// be read counts as empty and is named in the system log, as is an entry that is left out
+    /// because its name is no valid UTF-8 (no QString could lead back to it).
     virtual std::vector<FolderEntry> subpaths(const QString &folder) const;
 
-    /// Whether two files, or two folder trees entry by entry, hold the same bytes. Links are compared
-    /// by their targets' texts and never followed. Sizes are compared before contents. False when
-    /// anything can't be read.
+    /// Whether two files, or two folder trees entry by entry, hold the same bytes. Links are
+    /// compared by their targets' texts and never followed. Sizes are compared before contents.
+    /// False when anything can't be read.
     virtual bool contentsEqual(const QString &first, const QString &second) const;
 
     /// Makes one folder (0755 less the umask). False when it could not, or something is there.
@@ -99,16 +100,21 @@ public:
     virtual qint64 write(int descriptor, const void *buffer, size_t count);
     virtual bool close(int descriptor);
 
-    /// Writes the buffers of the file system that holds the path to its device (syncfs); flushes every
-    /// file system where that fails.
+    /// Moves up to so many bytes from one open file to another without taking them through memory
+    /// of ours, and advances both. How many; 0 at the source's end; -1 where it can't be done or
+    /// fails, and then read() and write() say why.
+    virtual qint64 transfer(int from, int to, size_t count);
+
+    /// Writes the buffers of the file system that holds the path to its device (syncfs); flushes
+    /// every file system where that fails.
     virtual void flush(const QString &path);
 
-    /// Copies a file or a folder tree; links are copied as links. An existing destination is an error.
-    /// Errors go to the handler (may be null: every error is then passed over) and the copy goes on
-    /// with the next entry: "Couldn't copy" with the source's path, "Couldn't create" and "Couldn't
-    /// write" with the destination's. Pipes, sockets and devices are such errors and never opened; a
-    /// file that can't be copied whole leaves nothing. True when everything was copied. No progress is
-    /// reported.
+    /// Copies a file or a folder tree; links are copied as links. An existing destination is an
+    /// error. Errors go to the handler (may be null: every error is then passed over) and the copy
+    /// goes on with the next entry: "Couldn't copy" with the source's path, "Couldn't create" and
+    /// "Couldn't write" with the destination's. Pipes, sockets and devices are such errors and
+    /// never opened; a file that can't be copied whole leaves nothing. True when everything was
+    /// copied. No progress is reported.
     virtual bool copy(const QString &source, const QString &destination,
                       FileOperationHandler *handler);
 
@@ -121,13 +127,13 @@ public:
     /// copy(). True when nothing is left at the path.
     virtual bool remove(const QString &path, FileOperationHandler *handler);
 
-    /// Removes a folder only as long as it is empty, so that what somebody has just put there stays;
-    /// errors as in copy().
+    /// Removes a folder only as long as it is empty, so that what somebody has just put there
+    /// stays; errors as in copy().
     virtual bool removeEmptyFolder(const QString &path, FileOperationHandler *handler);
 
-    /// Replaces a small file whole: a temporary beside it, flushed, renamed, and the folder flushed.
-    /// On failure the old file stays, no temporary is left and the reason is stored; only when nothing
-    /// but the folder's flush failed, the new file is in place already.
+    /// Replaces a small file whole: a temporary beside it, flushed, renamed, and the folder
+    /// flushed. On failure the old file stays, no temporary is left and the reason is stored; only
+    /// when nothing but the folder's flush failed, the new file is in place already.
     virtual bool writeAtomically(const QString &path, const QByteArray &contents, QString *reason);
 
     /// A whole file, or nothing when it is missing, unreadable, no regular file, or longer than the

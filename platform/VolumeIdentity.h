@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <optional>
 
-/// Tells one mounted file system from whatever else may lie at its path later: the empty mount point
-/// that an unplugged stick leaves behind, or another stick mounted in the same place.
+/// Tells one mounted file system from whatever else may lie at its path later: the empty mount
+/// point that an unplugged stick leaves behind, or another stick mounted in the same place.
 class VolumeIdentity
 {
 public:
@@ -18,7 +18,7 @@ public:
 private:
     std::uint64_t m_device = 0;
     std::uint64_t m_inode = 0;
-    std::uint64_t m_mount = 0;   // mount id where the kernel tells, else 0
+    std::uint64_t m_mount = 0;       // mount id where the kernel tells, else 0
     std::int64_t m_birthSeconds = 0; // of the root folder where the file system keeps it, else 0
     std::uint32_t m_birthNanoseconds = 0;
 };

@@ -15,9 +15,9 @@ public:
     /// Mount paths in a stable order, each in normal form without a trailing slash. Any thread.
     virtual QStringList mountedRemovableMedia() const = 0;
 
-    /// Unmounts and ejects the volume at the path and waits for the outcome; false, with the reason in
-    /// the system log, where it is refused or no such volume is mounted. Any thread; from the main
-    /// thread it does not serve the event loop meanwhile.
+    /// Unmounts and ejects the volume at the path and waits for the outcome; false, with the reason
+    /// in the system log, where it is refused or no such volume is mounted. Any thread; from the
+    /// main thread it does not serve the event loop meanwhile.
     virtual bool unmountAndEject(const QString &path) = 0;
 
 Q_SIGNALS:

@@ -102,8 +102,8 @@ void CVSyncManager::setPSPIsMounted(bool mounted)
         return;
     }
     tell([volume = pspVolume()](CVSyncManagerDelegate &delegate) { delegate.pspDidMount(volume); });
-    if (UserDefaults::standard().boolForKey(QStringLiteral("syncOnMount")) && pspIsMounted()
-        && !isFirstSync() && m_delegate->shouldSyncOnMount())
+    if (UserDefaults::standard().boolForKey(QStringLiteral("syncOnMount")) && pspIsMounted() &&
+        !isFirstSync() && m_delegate->shouldSyncOnMount())
         sync();
 }
 
@@ -124,8 +124,8 @@ bool CVSyncManager::isStillThere() const
 
 bool CVSyncManager::isFirstSync()
 {
-    return pspIsMounted()
-        && !FileManager::defaultManager().exists(StickFiles::caravelFolder(pspVolume()));
+    return pspIsMounted() &&
+           !FileManager::defaultManager().exists(StickFiles::caravelFolder(pspVolume()));
 }
 
 void CVSyncManager::volumeDidMount()

@@ -27,8 +27,8 @@ struct SyncServices
 
 /// Knows whether a PSP is attached, and syncs, estimates and ejects it.
 ///
-/// Main thread, except where a member says otherwise. Runs and estimates work on threads of their own
-/// (platform/MainThread.h's Workers); the manager must outlive them.
+/// Main thread, except where a member says otherwise. Runs and estimates work on threads of their
+/// own (platform/MainThread.h's Workers); the manager must outlive them.
 class CVSyncManager : public QObject
 {
     Q_OBJECT
@@ -72,7 +72,8 @@ public:
 
     /// Starts a run where canSync(), else does nothing.
     void sync();
-    /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any thread.
+    /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any
+    /// thread.
     void cancelSync();
     /// Unmounts and ejects the stick, waiting for the outcome. Main thread or the run's.
     void eject();
@@ -83,8 +84,8 @@ public:
     void refreshSyncBytesEstimate();
     /// Bytes of the current selection as last computed.
     quint64 syncBytesEstimate() const { return m_syncBytesEstimate; }
-    /// The same in per cent of the room a sync can use, cut to a whole number; 0 where nothing is known
-    /// of the stick.
+    /// The same in per cent of the room a sync can use, cut to a whole number; 0 where nothing is
+    /// known of the stick.
     quint32 syncPercentEstimate();
 
 private:

@@ -6,8 +6,8 @@
 
 struct CVSyncItem;
 
-/// What the sync manager tells the application. Unless noted, every call comes on the main thread, the
-/// sending thread waits until it has returned, and calls come in the order of events.
+/// What the sync manager tells the application. Unless noted, every call comes on the main thread,
+/// the sending thread waits until it has returned, and calls come in the order of events.
 class CVSyncManagerDelegate
 {
 public:
@@ -18,8 +18,8 @@ public:
     virtual void pspDidUnmount() = 0;
     /// A scan found a stick that no PSP has formatted, and no PSP; again with every such scan.
     virtual void foundUnformattedMemoryStick() = 0;
-    /// Whether the stick that just mounted is synced by itself. Asked on the manager's calling thread;
-    /// must change nothing.
+    /// Whether the stick that just mounted is synced by itself. Asked on the manager's calling
+    /// thread; must change nothing.
     virtual bool shouldSyncOnMount() = 0;
 
     /// First call of a run. Queued: the run does not wait for it.

@@ -34,8 +34,9 @@ quint32 CVSyncManager::syncPercentEstimate()
     const UserDefaults &defaults = UserDefaults::standard();
     const quint64 free = pspIsMounted() ? pspFreeSpace().value_or(0)
                                         : defaults.unsignedForKey(QStringLiteral("lastFreeSpace"));
-    const double room = static_cast<double>(free)
-        + static_cast<double>(defaults.unsignedForKey(QStringLiteral("lastSyncSize")));
+    const double room =
+        static_cast<double>(free) +
+        static_cast<double>(defaults.unsignedForKey(QStringLiteral("lastSyncSize")));
     if (room <= 0)
         return 0;
     const double percent = static_cast<double>(m_syncBytesEstimate) / room * 100;

@@ -1,4 +1,5 @@
-// The sync run: everything here but sync(), cancelSync() and eject() happens on the run's own thread.
+// The sync run: everything here but sync(), cancelSync() and eject() happens on the run's own
+// thread.
 
 #include "sync/CVSyncManager.h"
 
@@ -12,7 +13,6 @@
 #include "util/Preferences.h"
 
 #include <algorithm>
-
 
 namespace {
 
@@ -191,7 +191,8 @@ void CVSyncManager::recordSizes(SyncRun &run)
 {
     quint64 size = run.estimateTotal;
     if (m_shouldCancelSync) {
-        const quint64 notCopied = m_syncBytesTotal - std::min<quint64>(m_syncBytes, m_syncBytesTotal);
+        const quint64 notCopied =
+            m_syncBytesTotal - std::min<quint64>(m_syncBytes, m_syncBytesTotal);
         size -= std::min(notCopied, size);
     }
     UserDefaults &defaults = UserDefaults::standard();
@@ -211,9 +212,9 @@ void CVSyncManager::recordSizes(SyncRun &run)
 
 void CVSyncManager::ejectAfterRun()
 {
-    if (!m_shouldCancelSync
-        && UserDefaults::standard().boolForKey(QStringLiteral("unmountAfterSync"))
-        && m_delegate->shouldUnmountPSP())
+    if (!m_shouldCancelSync &&
+        UserDefaults::standard().boolForKey(QStringLiteral("unmountAfterSync")) &&
+        m_delegate->shouldUnmountPSP())
         eject();
 }
 
@@ -225,8 +226,8 @@ void CVSyncManager::finishRun()
     tell([completed](CVSyncManagerDelegate &delegate) { delegate.syncDidFinish(completed); });
 }
 
-// Ends the run and takes back a cancel in one step: a cancel that comes later finds no run, and can't
-// hit the next one.
+// Ends the run and takes back a cancel in one step: a cancel that comes later finds no run, and
+// can't hit the next one.
 bool CVSyncManager::endRun()
 {
     const std::scoped_lock lock(m_runMutex);

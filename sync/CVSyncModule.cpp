@@ -88,8 +88,8 @@ std::vector<CVSyncItem> CVSyncModule::fixDuplicateDestinations(std::vector<CVSyn
 CVSyncModule::Measured CVSyncModule::measure(CVSyncItem &item)
 {
     const FileStatus own = files().linkStatus(item.source);
-    const FileStatus target
-        = own.kind == FileStatus::Kind::Link ? files().status(item.source) : own;
+    const FileStatus target =
+        own.kind == FileStatus::Kind::Link ? files().status(item.source) : own;
     if (target.exists())
         item.size = target.size;
     return {target.exists(), target.isFolder(), own.size};
@@ -174,8 +174,8 @@ bool CVSyncModule::isInPlace(const CVSyncItem &item, const Measured &source,
 
 // --- Cleaning up
 
-// On a stick that doesn't tell letter case apart, a file that was found in place may be listed under a
-// name in another case; compared literally it would be taken for a stranger and removed.
+// On a stick that doesn't tell letter case apart, a file that was found in place may be listed
+// under a name in another case; compared literally it would be taken for a stranger and removed.
 QString CVSyncModule::comparable(const QString &path) const
 {
     return m_delegate->pspVolumeTellsCaseApart() ? path : path.toCaseFolded();
@@ -200,8 +200,8 @@ void CVSyncModule::cleanUp(const QString &folder, bool ownOnly)
         return;
     CleanUp pass;
     const QString indexPath = StickFiles::syncIndex(pspVolume(), m_saveName);
-    // An index that can't be read is an empty one: nothing in it is known to be ours. Only where there
-    // is none at all does everything count as ours.
+    // An index that can't be read is an empty one: nothing in it is known to be ours. Only where
+    // there is none at all does everything count as ours.
     pass.ownOnly = ownOnly && files().exists(indexPath);
     if (pass.ownOnly) {
         for (const QString &path : PropertyList::readStringArray(indexPath).value_or(QStringList()))
@@ -231,8 +231,8 @@ bool CVSyncModule::shouldRemove(const CleanUp &pass, size_t entry, const QString
         return pass.childrenLeft[entry] == 0;
     if (!shouldClearUnsyncedFiles() || m_allSyncedFiles.contains(comparable(path)))
         return false;
-    return !pass.ownOnly
-        || pass.ownFiles.contains(comparable(StickFiles::relativeToVolume(path, pspVolume())));
+    return !pass.ownOnly ||
+           pass.ownFiles.contains(comparable(StickFiles::relativeToVolume(path, pspVolume())));
 }
 
 void CVSyncModule::removeDuringCleanUp(CleanUp &pass, size_t entry, const QString &path)
@@ -241,15 +241,15 @@ void CVSyncModule::removeDuringCleanUp(CleanUp &pass, size_t entry, const QStrin
         return;
     const FolderEntry &found = pass.entries[entry];
     if (Preferences::useDetailedLogging()) {
-        const bool unsynced = !found.isFolder && shouldClearUnsyncedFiles()
-            && !m_allSyncedFiles.contains(comparable(path));
+        const bool unsynced = !found.isFolder && shouldClearUnsyncedFiles() &&
+                              !m_allSyncedFiles.contains(comparable(path));
         qCInfo(lcSync).noquote() << QStringLiteral("Removing file %1... %2 %3")
                                         .arg(path)
                                         .arg(found.isFolder ? 1 : 0)
                                         .arg(unsynced ? 1 : 0);
     }
-    const bool removed
-        = found.isFolder ? files().removeEmptyFolder(path, this) : files().remove(path, this);
+    const bool removed =
+        found.isFolder ? files().removeEmptyFolder(path, this) : files().remove(path, this);
     if (removed && found.parent >= 0)
         --pass.childrenLeft[static_cast<size_t>(found.parent)];
 }

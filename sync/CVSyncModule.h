@@ -38,8 +38,8 @@ public:
     /// Everything that the selection wants. Destinations are absolute and in normal form.
     virtual std::vector<CVSyncItem> itemsToSync();
 
-    /// Builds the queue, empty when the preference "sync" + save name is off. With `filter`, what is
-    /// in place already is dropped from it, and what is there in another size is removed.
+    /// Builds the queue, empty when the preference "sync" + save name is off. With `filter`, what
+    /// is in place already is dropped from it, and what is there in another size is removed.
     void prepare(bool filter);
 
     /// Destinations that occur again become "name.1.ext", "name.2.ext" and so on, in item order.
@@ -49,7 +49,8 @@ public:
     quint64 syncQueueSize() const { return m_syncQueueSize; }
     quint64 syncEstimateSize() const { return m_syncEstimateSize; }
 
-    /// Removes what the run does not place from the module's folder, as the preference "ownOnly" says.
+    /// Removes what the run does not place from the module's folder, as the preference "ownOnly"
+    /// says.
     virtual void cleanUp();
     /// The same for any folder on the stick; with `ownOnly` only files of the module's last index.
     void cleanUp(const QString &folder, bool ownOnly);

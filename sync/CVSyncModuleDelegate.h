@@ -15,8 +15,8 @@ public:
     /// Mount path of the stick that the module works for; the same throughout the module's life.
     virtual QString pspVolume() const = 0;
 
-    /// Whether that very stick still lies at its path. A module asks right before it writes or removes
-    /// anything there, and leaves it when the answer is false.
+    /// Whether that very stick still lies at its path. A module asks right before it writes or
+    /// removes anything there, and leaves it when the answer is false.
     virtual bool pspVolumeIsPresent() = 0;
 
     /// Whether the path's letters' case tells names apart on the stick.

@@ -2,6 +2,7 @@
 
 #include "platform/FileManager.h"
 #include "platform/FinderInfo.h"
+#include "platform/Workspace.h"
 
 namespace DeviceIcon {
 
@@ -14,6 +15,7 @@ void set(const QString &volume, const QString &resourceFolder, const QDate &toda
         files.remove(icon, nullptr);
     files.copy(resource, icon, nullptr);
     FinderInfo::setCustomIconFlag(volume);
+    Workspace::noteFileSystemChanged(volume);
 }
 
 } // namespace DeviceIcon

@@ -23,8 +23,8 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
     if (!volume.isEmpty() && defaults.boolForKey(QStringLiteral("useSyncProfiles"))) {
         // A profile that can't be read must not count as "nothing selected": that would clear the
         // stick.
-        if (auto profile = PropertyList::readStringArray(
-                StickFiles::selectionProfile(volume, moduleSaveName)))
+        if (auto profile =
+                PropertyList::readStringArray(StickFiles::selectionProfile(volume, moduleSaveName)))
             return profile;
     }
     return defaults.stringArrayForKey(preferenceKey(moduleSaveName));
@@ -32,12 +32,13 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
 
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume)
 {
-    if (!volume.isEmpty()
-        && FileManager::defaultManager().status(StickFiles::caravelFolder(volume)).isFolder()) {
+    if (!volume.isEmpty() &&
+        FileManager::defaultManager().status(StickFiles::caravelFolder(volume)).isFolder()) {
         const QString profile = StickFiles::selectionProfile(volume, moduleSaveName);
         QString reason;
         if (!PropertyList::writeAtomically(identifiers, profile, &reason))
-            qCWarning(lcSync).noquote() << "Can't store the selection in" << profile << ":" << reason;
+            qCWarning(lcSync).noquote()
+                << "Can't store the selection in" << profile << ":" << reason;
     }
     UserDefaults::standard().setObject(preferenceKey(moduleSaveName), identifiers);
 }

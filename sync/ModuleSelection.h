@@ -5,12 +5,13 @@
 
 #include <optional>
 
-/// What the user selected in one module, kept in the preferences and, per stick, in a profile on it.
+/// What the user selected in one module, kept in the preferences and, per stick, in a profile on
+/// it.
 namespace ModuleSelection {
 
-/// The selection that counts for the volume: the stick's own profile while "useSyncProfiles" is on and
-/// the stick has a usable one, else the preference "enabled" + save name. Nothing where neither is
-/// there. Any thread.
+/// The selection that counts for the volume: the stick's own profile while "useSyncProfiles" is on
+/// and the stick has a usable one, else the preference "enabled" + save name. Nothing where neither
+/// is there. Any thread.
 std::optional<QStringList> read(const QString &moduleSaveName, const QString &volume);
 
 /// Stores the selection in the preferences, and in the volume's profile when the volume has been

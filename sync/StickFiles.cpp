@@ -29,8 +29,8 @@ QString relativeToVolume(const QString &path, const QString &volume)
 
 bool isOnVolume(const QString &path, const QString &volume)
 {
-    return path.startsWith(volume)
-        && (path.size() == volume.size() || path.at(volume.size()) == u'/');
+    return path.startsWith(volume) &&
+           (path.size() == volume.size() || path.at(volume.size()) == u'/');
 }
 
 } // namespace StickFiles

@@ -17,8 +17,8 @@ QString syncIndex(const QString &volume, const QString &moduleSaveName);
 /// List of the identifiers selected for this stick.
 QString selectionProfile(const QString &volume, const QString &moduleSaveName);
 
-/// The path with the volume's mount path cut off, beginning with a slash; a path that doesn't lie on
-/// the volume comes back whole.
+/// The path with the volume's mount path cut off, beginning with a slash; a path that doesn't lie
+/// on the volume comes back whole.
 QString relativeToVolume(const QString &path, const QString &volume);
 
 /// Whether the path is the volume's root or lies below it.

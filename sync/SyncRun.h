@@ -11,9 +11,9 @@
 class CVSyncManager;
 class CVSyncModule;
 
-/// What one run or estimate works on, fixed at its start: the volume, which file system that was, and
-/// the modules. It lives on the thread of the run and is its modules' delegate, so that a stick that
-/// comes or goes meanwhile never changes where they write.
+/// What one run or estimate works on, fixed at its start: the volume, which file system that was,
+/// and the modules. It lives on the thread of the run and is its modules' delegate, so that a stick
+/// that comes or goes meanwhile never changes where they write.
 class SyncRun : public CVSyncModuleDelegate
 {
 public:

@@ -57,15 +57,37 @@ private:
     void copyChunks()
     {
         for (;;) {
-            const qint64 count = m_files.read(m_from, buffer.data(), buffer.size());
-            if (count < 0)
-                report(QStringLiteral("Couldn't read"), m_source, errno);
-            if (count <= 0)
-                return;
-            writeChunk(static_cast<size_t>(count));
-            if (m_handler.fileManagerCopiedBytes(static_cast<quint64>(count), m_destination))
+            const size_t count = copyChunk();
+            if (count == 0 ||
+                m_handler.fileManagerCopiedBytes(static_cast<quint64>(count), m_destination))
                 return;
         }
+    }
+
+    /// Copies the source's next chunk and returns its size, 0 at the source's end.
+    size_t copyChunk()
+    {
+        size_t done = 0;
+        while (m_canTransfer && done < chunkSize) {
+            const qint64 count = m_files.transfer(m_from, m_to, chunkSize - done);
+            if (count == 0)
+                return done;
+            m_canTransfer = count > 0;
+            done += static_cast<size_t>(std::max<qint64>(count, 0));
+        }
+        return m_canTransfer ? done : done + copyThroughBuffer(chunkSize - done);
+    }
+
+    /// What the system can't transfer by itself; it also tells which side it is that fails.
+    size_t copyThroughBuffer(size_t size)
+    {
+        const qint64 count = m_files.read(m_from, buffer.data(), size);
+        if (count < 0)
+            report(QStringLiteral("Couldn't read"), m_source, errno);
+        if (count <= 0)
+            return 0;
+        writeChunk(static_cast<size_t>(count));
+        return static_cast<size_t>(count);
     }
 
     void writeChunk(size_t size)
@@ -103,6 +125,7 @@ private:
     FileOperationHandler &m_handler;
     int m_from = -1;
     int m_to = -1;
+    bool m_canTransfer = true;
     bool m_writeErrorReported = false;
 };
 

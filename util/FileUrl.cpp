@@ -1,5 +1,6 @@
 #include "util/FileUrl.h"
 
+#include <algorithm>
 #include <string>
 
 namespace FileUrl {
@@ -35,15 +36,17 @@ std::string percentDecoded(std::string_view text)
 {
     std::string decoded;
     decoded.reserve(text.size());
-    for (size_t i = 0; i < text.size(); ++i) {
-        const int high = text[i] == '%' && i + 2 < text.size() ? hexDigit(text[i + 1]) : -1;
-        const int low = high >= 0 ? hexDigit(text[i + 2]) : -1;
-        if (low >= 0) {
+    while (!text.empty()) {
+        const size_t escape = std::min(text.find('%'), text.size());
+        decoded.append(text.substr(0, escape));
+        text.remove_prefix(escape);
+        const int high = text.size() > 2 ? hexDigit(text[1]) : -1;
+        const int low = high >= 0 ? hexDigit(text[2]) : -1;
+        if (low >= 0)
             decoded += static_cast<char>(high * 16 + low);
-            i += 2;
-        } else {
-            decoded += text[i];
-        }
+        else
+            decoded.append(text.substr(0, 1));
+        text.remove_prefix(std::min<size_t>(low >= 0 ? 3 : 1, text.size()));
     }
     return decoded;
 }

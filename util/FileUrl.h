@@ -8,9 +8,9 @@
 /// URLs of files on this computer, as libraries of other programs store them.
 namespace FileUrl {
 
-/// The absolute path that a "file:" URL (UTF-8, percent-encoded; any host) names, without a trailing
-/// slash. Nothing for another scheme, a relative path, or a path that no file can have. Escapes that
-/// are none stay as they stand.
+/// The absolute path that a "file:" URL (UTF-8, percent-encoded; any host) names, without a
+/// trailing slash. Nothing for another scheme, a relative path, or a path that no file can have.
+/// Escapes that are none stay as they stand.
 std::optional<QString> path(std::string_view url);
 
 } // namespace FileUrl

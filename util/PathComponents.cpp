@@ -17,8 +17,8 @@ qsizetype utf8Length(QStringView text)
     return bytes;
 }
 
-// At most so many bytes of the name, whole characters with their combining marks; what a cut leaves at
-// the end must not be a blank or a dot, which FAT file systems drop.
+// At most so many bytes of the name, whole characters with their combining marks; what a cut leaves
+// at the end must not be a blank or a dot, which FAT file systems drop.
 QString cut(const QString &name, qsizetype bytes)
 {
     QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, name);
@@ -63,8 +63,8 @@ QString numbered(const QString &path, int number)
     QString suffix = u'.' + QString::number(number);
     if (!extension.isEmpty())
         suffix.append(u'.').append(extension);
-    const qsizetype stemEnd
-        = extension.isEmpty() ? path.size() : path.size() - extension.size() - 1;
+    const qsizetype stemEnd =
+        extension.isEmpty() ? path.size() : path.size() - extension.size() - 1;
     const qsizetype nameStart = path.lastIndexOf(u'/') + 1;
     return path.left(nameStart) + safe(path.mid(nameStart, stemEnd - nameStart), suffix) + suffix;
 }

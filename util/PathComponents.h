@@ -13,12 +13,13 @@ inline constexpr qsizetype maximumBytes = 255;
 /// it is the component's first character, or where nothing follows it.
 QStringView extensionOf(QStringView path);
 
-/// A name made safe as one component that `suffix` (an extension with its dot, or empty) will follow:
+/// A name made safe as one component that `suffix` (an extension with its dot, or empty) will
+/// follow:
 /// "", "." and ".." become "_", and a name too long for both is cut at a character boundary.
 QString safe(const QString &name, QStringView suffix = {});
 
-/// The path with its number before the extension, as "Song.2.mp3"; a name without an extension gets it
-/// at its end. The component stays within the longest length.
+/// The path with its number before the extension, as "Song.2.mp3"; a name without an extension gets
+/// it at its end. The component stays within the longest length.
 QString numbered(const QString &path, int number);
 
 } // namespace PathComponents

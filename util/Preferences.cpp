@@ -8,7 +8,8 @@ namespace Preferences {
 const std::vector<Key> &keys()
 {
     static const std::vector<Key> table = {
-        // Generation of the PSP's system software: below 1 it plays MP3 and shows JPEG only, and knows
+        // Generation of the PSP's system software: below 1 it plays MP3 and shows JPEG only, and
+        // knows
         // neither bookmarks nor the contacts page.
         {QStringLiteral("firmwareVersion"), 1},
         {QStringLiteral("CaravelFolder"), QStringLiteral("~/Documents")},
@@ -17,7 +18,8 @@ const std::vector<Key> &keys()
         {QStringLiteral("startOnLogin"), true},
         {QStringLiteral("openOnMount"), false},
         {QStringLiteral("syncOnMount"), true},
-        // On: clean-up removes every file in a module's folder that the run does not place. Off: only
+        // On: clean-up removes every file in a module's folder that the run does not place. Off:
+        // only
         // those that the module's last index lists.
         {QStringLiteral("ownOnly"), true},
         {QStringLiteral("unmountAfterSync"), false},

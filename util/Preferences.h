@@ -5,8 +5,8 @@
 
 #include <vector>
 
-/// The keys of the shared preferences domain that have a default, and those defaults. Stored numbers
-/// are frozen: other versions of the system read them.
+/// The keys of the shared preferences domain that have a default, and those defaults. Stored
+/// numbers are frozen: other versions of the system read them.
 namespace Preferences {
 
 struct Key

@@ -10,8 +10,8 @@ public:
     virtual void logChanged(const QString &line) = 0;
 };
 
-/// The log that the user sees: a growing text of lines "Nov 16 05:03:23 PM : message", kept in memory
-/// until it is cleared. Written on the main thread.
+/// The log that the user sees: a growing text of lines "Nov 16 05:03:23 PM : message", kept in
+/// memory until it is cleared. Written on the main thread.
 class QMLogger
 {
 public:
@@ -21,8 +21,8 @@ public:
 
     QString log() const { return m_log; }
 
-    /// Appends the message, verbatim, as one line and tells the delegate. With detailed logging on the
-    /// message also goes to the system log.
+    /// Appends the message, verbatim, as one line and tells the delegate. With detailed logging on
+    /// the message also goes to the system log.
     void log(const QString &message);
 
     /// The same with the first "%@" of the format replaced by the value.

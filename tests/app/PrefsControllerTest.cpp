@@ -30,13 +30,15 @@ TEST_F(PrefsControllerTest, InstallsEveryDefaultWithoutWritingIt)
 {
     EXPECT_EQ(Preferences::keys().size(), 32U);
     EXPECT_EQ(defaults.unsignedForKey(QStringLiteral("lastFreeSpace")), 490943283U);
-    EXPECT_EQ(defaults.stringForKey(QStringLiteral("CaravelFolder")), QStringLiteral("~/Documents"));
+    EXPECT_EQ(defaults.stringForKey(QStringLiteral("CaravelFolder")),
+              QStringLiteral("~/Documents"));
     EXPECT_TRUE(defaults.boolForKey(QStringLiteral("startOnLogin")));
     EXPECT_FALSE(defaults.dateForKey(QStringLiteral("lastSync")));
     EXPECT_FALSE(defaults.stringArrayForKey(QStringLiteral("enabledMusic")));
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(readFile(folder / QStringLiteral("shared.plist")), QByteArray());
-    EXPECT_EQ(Preferences::documentsFolder(), qEnvironmentVariable("HOME") + QStringLiteral("/Documents/Caravel"));
+    EXPECT_EQ(Preferences::documentsFolder(),
+              qEnvironmentVariable("HOME") + QStringLiteral("/Documents/Caravel"));
 }
 
 TEST_F(PrefsControllerTest, RelaysChangesBothWays)
@@ -45,7 +47,8 @@ TEST_F(PrefsControllerTest, RelaysChangesBothWays)
     defaults.setObject(QStringLiteral("organizeMusicBy"), 3);
     ASSERT_TRUE(waitFor([&] { return notifications.posted.contains(announcement); }));
     UserDefaults frontEnd(QStringLiteral("shared"), folder.path());
-    EXPECT_EQ(frontEnd.integerForKey(QStringLiteral("organizeMusicBy")), 3) << "written before it was announced";
+    EXPECT_EQ(frontEnd.integerForKey(QStringLiteral("organizeMusicBy")), 3)
+        << "written before it was announced";
 
     PrefsController::beginObserving(notifications);
     frontEnd.setObject(QStringLiteral("sortMusicBy"), 1);

@@ -22,22 +22,27 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
     library.addPlaylist(QStringLiteral("Smart"), {1, 99}, "<key>Smart Info</key><data>AAAA</data>");
     library.addPlaylist(QStringLiteral("AC/DC: Live?"), {1});
     library.addRawPlaylist("<key>Playlist Items</key><array/>");
-    writeFile(harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")), library.contents());
-    lists.setSelectedMusicIdentifiers({QStringLiteral("Smart"), QStringLiteral("AC/DC: Live?"), QStringLiteral("Films")});
+    writeFile(harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
+              library.contents());
+    lists.setSelectedMusicIdentifiers(
+        {QStringLiteral("Smart"), QStringLiteral("AC/DC: Live?"), QStringLiteral("Films")});
 
     QStringList rows;
     for (const QVariant &item : lists.musicItems()) {
         const QVariantMap row = item.toMap();
         EXPECT_EQ(row.value(QStringLiteral("name")), row.value(QStringLiteral("identifier")));
         rows.append(QStringLiteral("%1 %2 %3 %4 %5")
-                        .arg(row.value(QStringLiteral("name")).toString(), row.value(QStringLiteral("icon")).toString())
+                        .arg(row.value(QStringLiteral("name")).toString(),
+                             row.value(QStringLiteral("icon")).toString())
                         .arg(row.value(QStringLiteral("order")).toInt())
                         .arg(row.value(QStringLiteral("size")).toInt())
-                        .arg(row.contains(QStringLiteral("enabled")) ? QStringLiteral("enabled") : QStringLiteral("-")));
+                        .arg(row.contains(QStringLiteral("enabled")) ? QStringLiteral("enabled")
+                                                                     : QStringLiteral("-")));
     }
     EXPECT_EQ(rows, (QStringList{QStringLiteral("Library iTunesLibrary 0 3 -"),
                                  QStringLiteral("Talk iTunesPodcasts 1 0 -"),
                                  QStringLiteral("Smart iTunesSmartPlaylist 2 2 enabled"),
                                  QStringLiteral("AC/DC: Live? iTunesPlaylist 3 1 enabled")}));
-    EXPECT_TRUE(treeOf(harness.home(QStringLiteral("Documents"))).contains(QStringLiteral("Caravel/Dropboxes/Music/")));
+    EXPECT_TRUE(treeOf(harness.home(QStringLiteral("Documents")))
+                    .contains(QStringLiteral("Caravel/Dropboxes/Music/")));
 }

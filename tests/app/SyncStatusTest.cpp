@@ -25,20 +25,24 @@ class SyncStatusTest : public testing::Test
 {
 protected:
     TemporaryFolder sources;
-    ListModule::Wishes wishes{[this] {
-                                  std::vector<CVSyncItem> items;
-                                  for (const QString &name : {QStringLiteral("one"), QStringLiteral("two")})
-                                      items.emplace_back(sources / name, harness.stick(QStringLiteral("PSP/MUSIC/") + name), name);
-                                  return items;
-                              },
-                              QStringLiteral("/PSP/MUSIC")};
+    ListModule::Wishes wishes{
+        [this] {
+            std::vector<CVSyncItem> items;
+            for (const QString &name : {QStringLiteral("one"), QStringLiteral("two")})
+                items.emplace_back(sources / name,
+                                   harness.stick(QStringLiteral("PSP/MUSIC/") + name), name);
+            return items;
+        },
+        QStringLiteral("/PSP/MUSIC")};
     FailingFileManager files;
     SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
     QMLogger logger;
     FrontEnd frontEnd;
     AlertList alerts;
     int opened = 0;
-    SyncStatus status{{harness.manager, logger, frontEnd, alerts, harness.clock, [this] { ++opened; }}};
+    SyncStatus status{{harness.manager, logger, frontEnd, alerts, harness.clock, [this] {
+                           ++opened;
+                       }}};
 
     void SetUp() override
     {
@@ -107,17 +111,11 @@ TEST_F(SyncStatusTest, LogsEveryTextWhenAskedTo)
     harness.defaults.setObject(QStringLiteral("useDetailedLogging"), true);
     const SystemLogCapture quiet;
     run();
-    EXPECT_EQ(messages(), list({"Preparing to Sync...",
-                                "One moment, Caravel is gathering information...",
-                                "Cleaning Up...",
-                                "Caravel is removing unneeded files...",
-                                "Starting Sync...",
-                                "Caravel is copying selected files...",
-                                "Syncing Test...",
-                                "one",
-                                "two",
-                                "Sync Successful",
-                                "Last Sync: Today 03:09 PM"}));
+    EXPECT_EQ(messages(),
+              list({"Preparing to Sync...", "One moment, Caravel is gathering information...",
+                    "Cleaning Up...", "Caravel is removing unneeded files...", "Starting Sync...",
+                    "Caravel is copying selected files...", "Syncing Test...", "one", "two",
+                    "Sync Successful", "Last Sync: Today 03:09 PM"}));
 }
 
 TEST_F(SyncStatusTest, SaysWhyARunEnded)
@@ -126,10 +124,13 @@ TEST_F(SyncStatusTest, SaysWhyARunEnded)
     files.freeBytes = 10;
     run();
     EXPECT_EQ(alerts.titles, list({"Sync too large!"}));
-    EXPECT_TRUE(alerts.message.contains(QStringLiteral("sync 16 b, however only 10 b of free space")));
-    EXPECT_EQ(messages(), list({"Not enough free space to complete sync of size: 16 b", "Sync was cancelled."}));
+    EXPECT_TRUE(
+        alerts.message.contains(QStringLiteral("sync 16 b, however only 10 b of free space")));
+    EXPECT_EQ(messages(), list({"Not enough free space to complete sync of size: 16 b",
+                                "Sync was cancelled."}));
     EXPECT_EQ(status.statusText(), QStringLiteral("Sync Cancelled"));
-    EXPECT_EQ(status.statusSubText(), QStringLiteral("You must re-sync to ensure the PSP is up to date."));
+    EXPECT_EQ(status.statusSubText(),
+              QStringLiteral("You must re-sync to ensure the PSP is up to date."));
 }
 
 TEST_F(SyncStatusTest, TellsAFullStickFromOtherErrors)
@@ -139,16 +140,20 @@ TEST_F(SyncStatusTest, TellsAFullStickFromOtherErrors)
     files.readOnlyBelow = harness.stick(QStringLiteral("PSP"));
     run();
     ASSERT_EQ(messages().size(), 3);
-    EXPECT_TRUE(messages()[0].startsWith(QStringLiteral("Unexpected error: Couldn't create: ") + harness.stick()));
+    EXPECT_TRUE(messages()[0].startsWith(QStringLiteral("Unexpected error: Couldn't create: ") +
+                                         harness.stick()));
     EXPECT_EQ(messages()[2], QStringLiteral("Sync was completed successfully."));
     EXPECT_TRUE(alerts.titles.isEmpty());
 
     files.readOnlyBelow.clear();
     files.writableBytes = 4;
-    files.onFull = [this] { files.freeBytes = 0; };
+    files.onFull = [this] {
+        files.freeBytes = 0;
+    };
     logger.clear();
     run();
-    EXPECT_EQ(messages().mid(1), list({"Memory stick filled while syncing!", "Sync was cancelled."}));
+    EXPECT_EQ(messages().mid(1),
+              list({"Memory stick filled while syncing!", "Sync was cancelled."}));
     EXPECT_EQ(alerts.titles, list({"Memory stick full!"})) << "once, however many files fail";
 
     status.syncError({{QStringLiteral("Error"), QStringLiteral("Couldn't remove")}});

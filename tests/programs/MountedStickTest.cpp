@@ -15,8 +15,8 @@ bool succeeds(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    return process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit
-        && process.exitCode() == 0;
+    return process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
 }
 
 /// A file system in an image, mounted under /media while the object lives.
@@ -30,8 +30,10 @@ public:
     {
         writeFile(m_image, {});
         QFile::resize(m_image, qint64(kilobytes) * 1024);
-        m_formatted = succeeds(QStringLiteral("mkfs.ext4"),
-                               QStringList{QStringLiteral("-q"), QStringLiteral("-m"), QStringLiteral("0")} + options + QStringList{m_image});
+        m_formatted =
+            succeeds(QStringLiteral("mkfs.ext4"),
+                     QStringList{QStringLiteral("-q"), QStringLiteral("-m"), QStringLiteral("0")} +
+                         options + QStringList{m_image});
     }
     ~MountedImage()
     {
@@ -45,8 +47,9 @@ public:
 
     bool mount() const
     {
-        return m_formatted && QDir().mkpath(m_mountPoint)
-            && succeeds(QStringLiteral("mount"), {QStringLiteral("-o"), QStringLiteral("loop"), m_image, m_mountPoint});
+        return m_formatted && QDir().mkpath(m_mountPoint) &&
+               succeeds(QStringLiteral("mount"),
+                        {QStringLiteral("-o"), QStringLiteral("loop"), m_image, m_mountPoint});
     }
     bool unmount() const { return succeeds(QStringLiteral("umount"), {m_mountPoint}); }
     QString path(const QString &relative) const { return m_mountPoint + u'/' + relative; }
@@ -74,11 +77,16 @@ protected:
     }
     bool statusHas(const char *text)
     {
-        return programs.caravel({QStringLiteral("status")}).output.contains(QString::fromLatin1(text));
+        return programs.caravel({QStringLiteral("status")})
+            .output.contains(QString::fromLatin1(text));
     }
     void selectRoadTrip()
     {
-        EXPECT_EQ(programs.caravel({QStringLiteral("select"), QStringLiteral("music"), QStringLiteral("Road Trip")}).status, 0);
+        EXPECT_EQ(programs
+                      .caravel({QStringLiteral("select"), QStringLiteral("music"),
+                                QStringLiteral("Road Trip")})
+                      .status,
+                  0);
     }
 };
 
@@ -94,10 +102,13 @@ TEST_F(MountedStickTest, IsNoticedSyncedAndEjected)
     programs.startHelper(true);
     EXPECT_TRUE(statusHas("No PSP Connected"));
     ASSERT_TRUE(stick.mount());
-    ASSERT_TRUE(waitFor([&] { return statusHas("Available"); })) << qPrintable(programs.helperOutput());
+    ASSERT_TRUE(waitFor([&] { return statusHas("Available"); }))
+        << qPrintable(programs.helperOutput());
     selectRoadTrip();
-    EXPECT_EQ(programs.caravel({QStringLiteral("sync")}).status, 0) << qPrintable(programs.helperOutput());
-    EXPECT_EQ(readFile(stick.path(QStringLiteral("PSP/MUSIC/Record/000. One.mp3"))).size(), 2 << 20);
+    EXPECT_EQ(programs.caravel({QStringLiteral("sync")}).status, 0)
+        << qPrintable(programs.helperOutput());
+    EXPECT_EQ(readFile(stick.path(QStringLiteral("PSP/MUSIC/Record/000. One.mp3"))).size(),
+              2 << 20);
 
     ASSERT_TRUE(stick.unmount());
     ASSERT_TRUE(waitFor([&] { return statusHas("No PSP Connected"); }));
@@ -115,8 +126,9 @@ TEST_F(MountedStickTest, SaysSoWhenItIsTooSmallOrFills)
 {
     // Files smaller than a block take a whole one: the sum of their sizes fits, they don't.
     const MountedImage stick(images / QStringLiteral("small.img"), 1024,
-                             {QStringLiteral("-b"), QStringLiteral("1024"), QStringLiteral("-N"), QStringLiteral("1600"),
-                              QStringLiteral("-O"), QStringLiteral("^has_journal")});
+                             {QStringLiteral("-b"), QStringLiteral("1024"), QStringLiteral("-N"),
+                              QStringLiteral("1600"), QStringLiteral("-O"),
+                              QStringLiteral("^has_journal")});
     if (!format(stick))
         GTEST_SKIP() << "skipped: this machine lets us mount no image";
     for (int i = 0; i < 800; ++i)
@@ -128,13 +140,15 @@ TEST_F(MountedStickTest, SaysSoWhenItIsTooSmallOrFills)
     selectRoadTrip();
     EXPECT_EQ(programs.caravel({QStringLiteral("sync")}).status, 1);
     const QString log = programs.log();
-    EXPECT_EQ(log.count(QStringLiteral("Memory stick filled while syncing!")), 1) << qPrintable(log);
+    EXPECT_EQ(log.count(QStringLiteral("Memory stick filled while syncing!")), 1)
+        << qPrintable(log);
     EXPECT_TRUE(log.contains(QStringLiteral("Sync was cancelled.")));
 
     programs.addTrack(QStringLiteral("Large"), QByteArray(2 << 20, 'l'));
     programs.writeLibrary();
     EXPECT_EQ(programs.caravel({QStringLiteral("sync")}).status, 1);
-    EXPECT_TRUE(programs.log().contains(QStringLiteral("Not enough free space to complete sync of size: 2.0 MB")));
+    EXPECT_TRUE(programs.log().contains(
+        QStringLiteral("Not enough free space to complete sync of size: 2.0 MB")));
     EXPECT_TRUE(programs.helperLives());
     EXPECT_EQ(programs.stopHelper(), 0);
 }

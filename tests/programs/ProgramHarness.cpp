@@ -49,8 +49,10 @@ void ProgramHarness::startHelper(bool onMounts)
     m_helper.setProcessEnvironment(environment());
     m_helper.start(QStringLiteral(CARAVEL_HELPER),
                    onMounts ? QStringList()
-                            : QStringList{QStringLiteral("--volumes-folder"), m_folder / QStringLiteral("volumes")});
-    ASSERT_TRUE(waitFor([&] { return helper.isAvailable() || m_helper.state() == QProcess::NotRunning; }));
+                            : QStringList{QStringLiteral("--volumes-folder"),
+                                          m_folder / QStringLiteral("volumes")});
+    ASSERT_TRUE(
+        waitFor([&] { return helper.isAvailable() || m_helper.state() == QProcess::NotRunning; }));
     ASSERT_TRUE(helperLives()) << qPrintable(helperOutput());
 }
 
@@ -110,7 +112,8 @@ void ProgramHarness::addTrack(const QString &name, const QByteArray &contents)
     const QString path = home(QStringLiteral("Music/%1.mp3").arg(id));
     writeFile(path, contents);
     m_library.addFile(id, path,
-                      MusicLibraryFile::string("Name", name) + MusicLibraryFile::string("Album", QStringLiteral("Record")));
+                      MusicLibraryFile::string("Name", name) +
+                          MusicLibraryFile::string("Album", QStringLiteral("Record")));
     m_tracks.append(id);
 }
 

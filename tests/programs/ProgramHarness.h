@@ -33,7 +33,10 @@ public:
     /// Starts `caravel` and leaves it running.
     std::unique_ptr<QProcess> start(const QStringList &arguments);
 
-    QString home(const QString &relative) const { return m_folder / (QStringLiteral("home/") + relative); }
+    QString home(const QString &relative) const
+    {
+        return m_folder / (QStringLiteral("home/") + relative);
+    }
     QString stick(const QString &relative = {}) const;
     /// A stick as a PSP formats it, in the folder of volumes.
     void insertStick() const;

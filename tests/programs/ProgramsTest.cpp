@@ -29,11 +29,18 @@ protected:
     {
         const auto outcome = programs.caravel(arguments);
         EXPECT_EQ(outcome.status, expected)
-            << qPrintable(arguments.join(u' ')) << ":\n" << qPrintable(outcome.output) << qPrintable(programs.helperOutput());
+            << qPrintable(arguments.join(u' ')) << ":\n"
+            << qPrintable(outcome.output) << qPrintable(programs.helperOutput());
     }
-    void selectRoadTrip() { run({QStringLiteral("select"), QStringLiteral("music"), QStringLiteral("Road Trip")}); }
+    void selectRoadTrip()
+    {
+        run({QStringLiteral("select"), QStringLiteral("music"), QStringLiteral("Road Trip")});
+    }
     QStringList music() const { return treeOf(programs.stick(QStringLiteral("PSP/MUSIC"))); }
-    bool statusHas(const QString &text) { return programs.caravel({QStringLiteral("status")}).output.contains(text); }
+    bool statusHas(const QString &text)
+    {
+        return programs.caravel({QStringLiteral("status")}).output.contains(text);
+    }
 
     const QStringList synced{QStringLiteral("Record/"), QStringLiteral("Record/000. One.mp3"),
                              QStringLiteral("Record/000. Two.mp3")};
@@ -83,7 +90,8 @@ TEST_F(ProgramsTest, OutliveFrontEndsThatDie)
     selectRoadTrip();
     const auto hung = programs.start({QStringLiteral("watch")});
     const auto killed = programs.start({QStringLiteral("watch")});
-    ASSERT_TRUE(waitFor([&] { return hung->bytesAvailable() > 0 && killed->bytesAvailable() > 0; }));
+    ASSERT_TRUE(
+        waitFor([&] { return hung->bytesAvailable() > 0 && killed->bytesAvailable() > 0; }));
     // One never answers any more while the helper calls it, the other goes without a word.
     ::kill(static_cast<pid_t>(killed->processId()), SIGSTOP);
     run({QStringLiteral("sync"), QStringLiteral("--no-wait")});
@@ -114,21 +122,28 @@ TEST_F(ProgramsTest, CancelAndQuitInTheMiddle)
     run({QStringLiteral("sync"), QStringLiteral("--no-wait")});
     ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("gathering information")); }));
     EXPECT_EQ(programs.stopHelper(), 0) << qPrintable(programs.helperOutput());
-    EXPECT_TRUE(PropertyList::readStringArray(programs.stick(QStringLiteral(".caravel/MusicSyncIndex.plist"))));
+    EXPECT_TRUE(PropertyList::readStringArray(
+        programs.stick(QStringLiteral(".caravel/MusicSyncIndex.plist"))));
 }
 
 TEST_F(ProgramsTest, StartOverGarbage)
 {
-    const QString preferences = programs.home(QStringLiteral("Library/Preferences/org.caravel.Caravel.plist"));
+    const QString preferences =
+        programs.home(QStringLiteral("Library/Preferences/org.caravel.Caravel.plist"));
     writeFile(preferences, "garbage");
-    writeFile(programs.home(QStringLiteral("Library/Application Support/Caravel/CONVERT.MP4")), "left over");
+    writeFile(programs.home(QStringLiteral("Library/Application Support/Caravel/CONVERT.MP4")),
+              "left over");
     writeFile(programs.home(QStringLiteral("Library/Application Support/Caravel/other")), "stays");
     programs.startHelper();
     run({QStringLiteral("prefs"), QStringLiteral("organizeMusicBy"), QStringLiteral("3")});
     EXPECT_EQ(readFile(preferences + QStringLiteral(".unreadable")), "garbage");
-    EXPECT_EQ(treeOf(programs.home(QStringLiteral("Library/Application Support/Caravel"))), QStringList{QStringLiteral("other")});
+    EXPECT_EQ(treeOf(programs.home(QStringLiteral("Library/Application Support/Caravel"))),
+              QStringList{QStringLiteral("other")});
     for (const char *name : {"Music", "Photos", "Movies"})
-        EXPECT_TRUE(QDir(programs.home(QStringLiteral("Documents/Caravel/Dropboxes/%1").arg(QLatin1String(name)))).exists());
+        EXPECT_TRUE(
+            QDir(programs.home(
+                     QStringLiteral("Documents/Caravel/Dropboxes/%1").arg(QLatin1String(name))))
+                .exists());
     EXPECT_TRUE(programs.log().contains(QStringLiteral("Initializing Caravel build ")));
     EXPECT_EQ(programs.stopHelper(), 0);
 }

@@ -12,10 +12,10 @@
 class FailingFileManager : public FileManager
 {
 public:
-    std::optional<quint64> freeBytes;      ///< what volumes say is free
-    std::optional<qint64> writableBytes;   ///< so many more, then ENOSPC
-    std::function<void()> onFull;          ///< at the first write that finds no room
-    QString readOnlyBelow;                 ///< nothing below can be made or removed
+    std::optional<quint64> freeBytes;    ///< what volumes say is free
+    std::optional<qint64> writableBytes; ///< so many more, then ENOSPC
+    std::function<void()> onFull;        ///< at the first write that finds no room
+    QString readOnlyBelow;               ///< nothing below can be made or removed
     mutable std::atomic<int> statusCalls = 0;
     mutable std::atomic<int> listings = 0;
 
@@ -42,6 +42,7 @@ public:
     {
         return isReadOnly(path) ? -1 : FileManager::createForWriting(path);
     }
+    qint64 transfer(int, int, size_t) override { return -1; }
     qint64 write(int descriptor, const void *buffer, size_t count) override
     {
         if (writableBytes) {

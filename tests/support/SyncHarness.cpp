@@ -187,7 +187,8 @@ bool SyncHarness::run()
 void SyncHarness::finishRun()
 {
     ASSERT_TRUE(waitFor([this] {
-        return !delegate.events.isEmpty() && !delegate.events.filter(QStringLiteral("syncDidFinish")).isEmpty();
+        return !delegate.events.isEmpty() &&
+               !delegate.events.filter(QStringLiteral("syncDidFinish")).isEmpty();
     }));
     settle();
 }
@@ -199,11 +200,13 @@ void SyncHarness::settle()
 
 QStringList SyncHarness::index(const QString &saveName) const
 {
-    return PropertyList::readStringArray(stick(QStringLiteral(".caravel/%1SyncIndex.plist").arg(saveName)))
+    return PropertyList::readStringArray(
+               stick(QStringLiteral(".caravel/%1SyncIndex.plist").arg(saveName)))
         .value_or(QStringList{QStringLiteral("no index")});
 }
 
 quint64 SyncHarness::lastSyncSizeOnStick() const
 {
-    return NumberArchive::decode(readFile(stick(QStringLiteral(".caravel/LastSyncSize")))).value_or(0);
+    return NumberArchive::decode(readFile(stick(QStringLiteral(".caravel/LastSyncSize"))))
+        .value_or(0);
 }

@@ -96,16 +96,16 @@ private:
     void note(QStringView event, const QString &argument = {});
 };
 
-/// A home, a stick, and a manager between them: make something, run, look. The home is $HOME and its
-/// store is UserDefaults::standard() as long as the harness lives.
+/// A home, a stick, and a manager between them: make something, run, look. The home is $HOME and
+/// its store is UserDefaults::standard() as long as the harness lives.
 class SyncHarness
 {
 public:
     explicit SyncHarness(ModuleFactory modules = {});
     ~SyncHarness();
 
-    /// Mounts the stick (formatted for a PSP, and synced before unless told otherwise) without letting
-    /// the mount start a sync.
+    /// Mounts the stick (formatted for a PSP, and synced before unless told otherwise) without
+    /// letting the mount start a sync.
     void mountStick(bool syncedBefore = true);
     /// Runs a sync to its end and returns whether it completed.
     bool run();
@@ -113,7 +113,10 @@ public:
     /// Waits until no run or estimate lives any more.
     void settle();
 
-    QString home(const QString &relative) const { return folder / (QStringLiteral("home/") + relative); }
+    QString home(const QString &relative) const
+    {
+        return folder / (QStringLiteral("home/") + relative);
+    }
     QString stick(const QString &relative = {}) const;
     QStringList index(const QString &saveName) const;
     /// The archived number of the stick's "LastSyncSize"; 0 where there is none.

@@ -23,15 +23,16 @@ private:
 void writeFile(const QString &path, const QByteArray &contents);
 QByteArray readFile(const QString &path);
 
-/// Serves the main thread's event loop until the condition holds; false when it never did. The limit is
-/// a safety net against a hanging test, not a measure of speed.
+/// Serves the main thread's event loop until the condition holds; false when it never did. The
+/// limit is a safety net against a hanging test, not a measure of speed.
 bool waitFor(const std::function<bool()> &condition,
              std::chrono::milliseconds limit = std::chrono::seconds(60));
 
 /// Paths of everything below a folder, relative and sorted, folders with a trailing slash.
 QStringList treeOf(const QString &folder);
 
-/// Collects what is written to the system log (qWarning and the like, as plain lines) while it lives.
+/// Collects what is written to the system log (qWarning and the like, as plain lines) while it
+/// lives.
 class SystemLogCapture
 {
 public:

@@ -59,7 +59,9 @@ TEST(Detection, TakesTheFirstStickAndReportsEachMountOnce)
 {
     SyncHarness harness;
     for (const char *name : {"A", "B", "C"})
-        writeFile(harness.folder / QStringLiteral("volumes/%1/MEMSTICK.IND").arg(QLatin1String(name)), {});
+        writeFile(harness.folder /
+                      QStringLiteral("volumes/%1/MEMSTICK.IND").arg(QLatin1String(name)),
+                  {});
     const QString unformatted = harness.folder / QStringLiteral("volumes/A");
     const QString first = harness.folder / QStringLiteral("volumes/B");
     const QString second = harness.folder / QStringLiteral("volumes/C");
@@ -116,7 +118,8 @@ TEST(Detection, ReadsTheStickItsSizes)
         if (c.archive)
             writeFile(lastSyncSizePath(harness), *c.archive);
         harness.mountStick();
-        EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastSyncSize")), c.expected) << c.what;
+        EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastSyncSize")), c.expected)
+            << c.what;
         EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastFreeSpace")),
                   harness.manager.pspFreeSpace());
     }
@@ -139,7 +142,8 @@ TEST(SyncOnMount, AsksOnlyForSticksThatWereSyncedBefore)
             harness.delegate.answerSyncOnMount = wanted;
             harness.defaults.setObject(QStringLiteral("syncOnMount"), true);
             harness.volumes.mount(harness.stick());
-            const bool asked = harness.delegate.events.contains(QStringLiteral("shouldSyncOnMount"));
+            const bool asked =
+                harness.delegate.events.contains(QStringLiteral("shouldSyncOnMount"));
             EXPECT_EQ(asked, syncedBefore);
             EXPECT_EQ(harness.manager.isSyncing(), syncedBefore && wanted);
             harness.settle();
@@ -153,8 +157,9 @@ TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
     writeFile(sources / QStringLiteral("a"), QByteArray(400, 'a'));
     const ListModule::Wishes wishes{
         [&] {
-            return std::vector<CVSyncItem>{{sources / QStringLiteral("a"), QStringLiteral("/x/a"), {}},
-                                           {sources / QStringLiteral("gone"), QStringLiteral("/x/b"), {}}};
+            return std::vector<CVSyncItem>{
+                {sources / QStringLiteral("a"), QStringLiteral("/x/a"), {}},
+                {sources / QStringLiteral("gone"), QStringLiteral("/x/b"), {}}};
         },
         QStringLiteral("/x")};
     const auto make = ListModule::maker(QStringLiteral("Music"), wishes);
@@ -205,7 +210,9 @@ TEST(Selection, LiesInThePreferencesAndOnSyncedSticks)
     EXPECT_EQ(PropertyList::readStringArray(profile), QStringList{QStringLiteral("One")});
     ModuleSelection::store({QStringLiteral("Two")}, saveName, {});
 
-    const auto read = [&] { return ModuleSelection::read(saveName, harness.stick()).value_or(QStringList()); };
+    const auto read = [&] {
+        return ModuleSelection::read(saveName, harness.stick()).value_or(QStringList());
+    };
     EXPECT_THAT(read(), ElementsAre(QStringLiteral("Two")));
     harness.defaults.setObject(QStringLiteral("useSyncProfiles"), true);
     EXPECT_THAT(read(), ElementsAre(QStringLiteral("One")));

@@ -91,7 +91,8 @@ TEST_F(CVSyncModuleTest, CopiesWhatIsMissingOrOfAnotherSize)
     put(QStringLiteral("stranger"));
     ASSERT_TRUE(harness.run());
     EXPECT_EQ(onStick(), words("changed gone new/ new/one same"));
-    EXPECT_EQ(readFile(musicFolder() + QStringLiteral("/same")), "abcd") << "equal sizes count as synced";
+    EXPECT_EQ(readFile(musicFolder() + QStringLiteral("/same")), "abcd")
+        << "equal sizes count as synced";
     EXPECT_EQ(readFile(musicFolder() + QStringLiteral("/changed")), "12345");
     EXPECT_EQ(harness.index(QStringLiteral("Music")),
               words("/PSP/MUSIC/same /PSP/MUSIC/changed /PSP/MUSIC/new/one"));
@@ -107,7 +108,8 @@ TEST_F(CVSyncModuleTest, ComparesFoldersByContentAndNeverFollowsLinks)
     put(QStringLiteral("Save/file"), "54321");
     // A link planted on the stick must not lead the copy to the file behind it.
     writeFile(harness.home(QStringLiteral("precious")), "precious");
-    QFile::link(harness.home(QStringLiteral("precious")), musicFolder() + QStringLiteral("/planted"));
+    QFile::link(harness.home(QStringLiteral("precious")),
+                musicFolder() + QStringLiteral("/planted"));
     ASSERT_TRUE(harness.run());
     EXPECT_EQ(readFile(musicFolder() + QStringLiteral("/Save/file")), "12345");
     EXPECT_EQ(readFile(musicFolder() + QStringLiteral("/linked")), "123456789");

@@ -46,7 +46,8 @@ protected:
     {
         std::vector<CVSyncItem> wanted;
         for (const QString &name : {QStringLiteral("big"), QStringLiteral("small")})
-            wanted.emplace_back(sources / name, harness.stick(QStringLiteral("PSP/MUSIC/") + name), name);
+            wanted.emplace_back(sources / name, harness.stick(QStringLiteral("PSP/MUSIC/") + name),
+                                name);
         return wanted;
     }
 
@@ -55,7 +56,8 @@ protected:
     /// Does something at the first event of that name.
     void when(const QString &event, std::function<void()> act)
     {
-        harness.delegate.onEvent = [event, act = std::move(act), done = false](const QString &now) mutable {
+        harness.delegate.onEvent = [event, act = std::move(act),
+                                    done = false](const QString &now) mutable {
             if (now.startsWith(event) && !std::exchange(done, true))
                 act();
         };
@@ -87,7 +89,8 @@ TEST_F(SyncRunTest, TellsEveryStepInOrder)
     EXPECT_EQ(onStick(), lines("big\nsmall"));
     EXPECT_EQ(harness.index(QStringLiteral("Music")), lines("/PSP/MUSIC/big\n/PSP/MUSIC/small"));
     EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(2 * chunk + 105));
-    EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastSyncSize")), quint64(2 * chunk + 105));
+    EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastSyncSize")),
+              quint64(2 * chunk + 105));
     EXPECT_EQ(harness.defaults.dateForKey(QStringLiteral("lastSync")), harness.clock.current);
     EXPECT_EQ(harness.manager.syncBytesTotal(), 1U);
     EXPECT_EQ(harness.manager.syncBytes(), 0U);
@@ -107,9 +110,10 @@ TEST_F(SyncRunTest, StopsWhereTheStickHasNoRoom)
     // As many bytes free as are needed count as too few.
     files.freeBytes = 2 * chunk + 105;
     EXPECT_FALSE(harness.run());
-    EXPECT_EQ(harness.delegate.events, lines("syncWillStart\nsyncWillCleanUp\n"
-                                             "syncNotEnoughFreeSpace 2097257\nsyncWillCancel\n"
-                                             "syncDidStart\nfinalizeDidStart\nsyncDidFinish false"));
+    EXPECT_EQ(harness.delegate.events,
+              lines("syncWillStart\nsyncWillCleanUp\n"
+                    "syncNotEnoughFreeSpace 2097257\nsyncWillCancel\n"
+                    "syncDidStart\nfinalizeDidStart\nsyncDidFinish false"));
     EXPECT_TRUE(onStick().isEmpty()) << "the clean-up has happened, nothing was copied";
     EXPECT_EQ(harness.lastSyncSizeOnStick(), 0U);
     EXPECT_FALSE(harness.defaults.dateForKey(QStringLiteral("lastSync")));
@@ -159,7 +163,8 @@ TEST_F(SyncRunTest, EndsOnceAfterACancelAnywhere)
         EXPECT_FALSE(harness.manager.shouldCancelSync()) << c.at;
         EXPECT_EQ(harness.manager.syncBytesTotal(), 1U) << c.at;
         if (QLatin1String(c.at) == QLatin1String("syncDidCopyBytes")) {
-            EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(chunk)) << "what was not copied is left out";
+            EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(chunk))
+                << "what was not copied is left out";
         }
         harness.delegate.onEvent = nullptr;
         EXPECT_TRUE(harness.run()) << "the run after a cancel at " << c.at;
@@ -188,7 +193,8 @@ TEST_F(SyncRunTest, IsCancelledByNotificationAndByAnnouncedUnmount)
          [this] { Q_EMIT harness.volumes.willUnmount(harness.folder / QStringLiteral("other")); });
     EXPECT_TRUE(harness.run());
     writeFile(sources / QStringLiteral("small"), "changed");
-    when(QStringLiteral("syncDidStart"), [this] { Q_EMIT harness.volumes.willUnmount(harness.stick()); });
+    when(QStringLiteral("syncDidStart"),
+         [this] { Q_EMIT harness.volumes.willUnmount(harness.stick()); });
     EXPECT_FALSE(harness.run());
 }
 
@@ -202,12 +208,14 @@ TEST_F(SyncRunTest, EjectsAfterwardsWhereItMay)
     harness.delegate.answerUnmount = true;
     harness.volumes.canEject = false;
     EXPECT_TRUE(harness.run());
-    EXPECT_EQ(harness.delegate.steps().mid(4), lines("finalizeDidStart\nshouldUnmountPSP\npspWillUnmount\n"
-                                                     "pspUnmountFailed\nsyncDidFinish true"));
+    EXPECT_EQ(harness.delegate.steps().mid(4),
+              lines("finalizeDidStart\nshouldUnmountPSP\npspWillUnmount\n"
+                    "pspUnmountFailed\nsyncDidFinish true"));
     harness.volumes.canEject = true;
     EXPECT_TRUE(harness.run()) << "the announcement of its own eject cancels nothing";
-    EXPECT_EQ(harness.delegate.steps().mid(4), lines("finalizeDidStart\nshouldUnmountPSP\npspWillUnmount\n"
-                                                     "pspDidUnmount\nsyncDidFinish true"));
+    EXPECT_EQ(harness.delegate.steps().mid(4),
+              lines("finalizeDidStart\nshouldUnmountPSP\npspWillUnmount\n"
+                    "pspDidUnmount\nsyncDidFinish true"));
     EXPECT_FALSE(harness.manager.canSync());
 }
 
@@ -236,8 +244,10 @@ TEST_F(SyncRunTest, WritesNothingWhereTheStickWas)
                 harness.volumes.unmount(harness.stick());
         });
         EXPECT_FALSE(harness.run()) << c.at;
-        EXPECT_EQ(harness.delegate.events.filter(QStringLiteral("syncDidFinish")).size(), 1) << c.at;
-        EXPECT_TRUE(treeOf(harness.stick()).isEmpty()) << c.at << qPrintable(treeOf(harness.stick()).join(u' '));
+        EXPECT_EQ(harness.delegate.events.filter(QStringLiteral("syncDidFinish")).size(), 1)
+            << c.at;
+        EXPECT_TRUE(treeOf(harness.stick()).isEmpty())
+            << c.at << qPrintable(treeOf(harness.stick()).join(u' '));
         EXPECT_TRUE(log.contains(QStringLiteral("is gone"))) << c.at;
         harness.delegate.onEvent = nullptr;
         QDir(harness.stick()).removeRecursively();
@@ -262,7 +272,8 @@ TEST_F(SyncRunTest, LeavesAStickAloneThatTookThePlaceOfItsOwn)
         Q_EMIT harness.volumes.didUnmount(harness.stick());
     });
     EXPECT_FALSE(harness.run());
-    EXPECT_EQ(treeOf(harness.stick()), lines("MEMSTICK.IND\nPSP/\nPSP/MUSIC/\nPSP/MUSIC/somebody else's"));
+    EXPECT_EQ(treeOf(harness.stick()),
+              lines("MEMSTICK.IND\nPSP/\nPSP/MUSIC/\nPSP/MUSIC/somebody else's"));
     EXPECT_TRUE(harness.manager.pspIsMounted()) << "the new stick is there to be synced";
 }
 
@@ -275,7 +286,8 @@ TEST_F(SyncRunTest, ReportsAReadOnlyStickAndGoesOn)
         EXPECT_TRUE(error.value(QStringLiteral("Path")).toString().startsWith(harness.stick()));
         EXPECT_FALSE(error.value(QStringLiteral("Reason")).toString().isEmpty());
     }
-    EXPECT_EQ(harness.delegate.errors.back().value(QStringLiteral("Error")), QStringLiteral("Couldn't create"));
+    EXPECT_EQ(harness.delegate.errors.back().value(QStringLiteral("Error")),
+              QStringLiteral("Couldn't create"));
     EXPECT_EQ(onStick(), lines("stale"));
 }
 
@@ -285,7 +297,8 @@ TEST_F(SyncRunTest, ReportsAStickThatFillsAndPutsTheFileRightNextTime)
     when(QStringLiteral("syncError"), [this] { harness.manager.cancelSync(); });
     EXPECT_FALSE(harness.run());
     ASSERT_EQ(harness.delegate.errors.size(), 1U);
-    EXPECT_EQ(harness.delegate.errors[0].value(QStringLiteral("Error")), QStringLiteral("Couldn't write"));
+    EXPECT_EQ(harness.delegate.errors[0].value(QStringLiteral("Error")),
+              QStringLiteral("Couldn't write"));
     harness.delegate.onEvent = nullptr;
     files.writableBytes.reset();
     EXPECT_TRUE(harness.run());

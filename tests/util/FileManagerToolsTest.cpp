@@ -26,6 +26,12 @@ public:
     FaultyFiles(const FaultyFiles &) = delete;
     FaultyFiles &operator=(const FaultyFiles &) = delete;
 
+    qint64 transfer(int from, int to, size_t count) override
+    {
+        // What is to fail goes through read() and write().
+        const bool faulty = readsLeft >= 0 || writesLeft >= 0 || largestWrite < count;
+        return faulty ? -1 : FileManager::transfer(from, to, count);
+    }
     qint64 read(int descriptor, void *buffer, size_t count) override
     {
         return fails(readsLeft, EIO) ? -1 : FileManager::read(descriptor, buffer, count);

@@ -1,6 +1,6 @@
+#include "util/QMLogger.h"
 #include "platform/UserDefaults.h"
 #include "support/TestSupport.h"
-#include "util/QMLogger.h"
 
 #include <QRegularExpression>
 
