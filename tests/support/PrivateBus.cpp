@@ -1,28 +1,63 @@
 #include "support/PrivateBus.h"
 
+#include <QByteArray>
+
 #include <csignal>
-#include <sys/prctl.h>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+/// Starts the daemon with its output in the pipe; -1 where it can't be started.
+pid_t spawnDaemon(int output)
+{
+    const char *const arguments[] = {"setpriv",    "--pdeathsig",     "TERM",
+                                     "dbus-daemon", "--session",       "--nofork",
+                                     "--nopidfile", "--print-address", nullptr};
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    // It complains about limits that it may not raise.
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    pid_t daemon = -1;
+    const int error = ::posix_spawnp(&daemon, arguments[0], &actions, nullptr,
+                                     const_cast<char *const *>(arguments), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    return error == 0 ? daemon : -1;
+}
+
+/// Up to the end of the line or of the output.
+QByteArray firstLine(int input)
+{
+    QByteArray line;
+    char character = 0;
+    while (::read(input, &character, 1) == 1 && character != '\n')
+        line.append(character);
+    return line;
+}
+
+} // namespace
 
 PrivateBus::PrivateBus()
 {
-    m_daemon.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
-    m_daemon.setStandardErrorFile(QProcess::nullDevice()); // limits that it may not raise
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                    QStringLiteral("--nopidfile"), QStringLiteral("--print-address")});
-    QByteArray address = "unix:path=/nonexistent/bus";
-    while (m_daemon.state() != QProcess::NotRunning) {
-        if (m_daemon.canReadLine()) {
-            address = m_daemon.readLine().trimmed();
-            break;
-        }
-        m_daemon.waitForReadyRead(30000);
+    QByteArray address;
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) == 0) {
+        m_daemon = spawnDaemon(ends[1]);
+        ::close(ends[1]);
+        address = firstLine(ends[0]);
+        ::close(ends[0]);
     }
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    qputenv("DBUS_SESSION_BUS_ADDRESS",
+            address.isEmpty() ? QByteArray("unix:path=/nonexistent/bus") : address);
 }
 
 PrivateBus::~PrivateBus()
 {
-    m_daemon.terminate();
-    m_daemon.waitForFinished();
+    if (m_daemon > 0) {
+        ::kill(m_daemon, SIGTERM);
+        ::waitpid(m_daemon, nullptr, 0);
+    }
 }
