@@ -83,7 +83,8 @@ void CaravelHelperController::initialize()
                                     FrontEndProtocol::methods(*this));
     const QString name = QStringLiteral("CaravelHelper ") + m_services.bundle.version();
     if (!m_helperConnection.registerName(name))
-        qCWarning(lcApp).noquote() << "Another process has the connection name" << name;
+        qCWarning(lcApp).noquote() << "Another process has the connection name" << name
+                                   << "; this one is reached when that one leaves";
     m_status.setInitialTexts();
 }
 
@@ -183,6 +184,7 @@ void CaravelHelperController::requestQuit()
 
 void CaravelHelperController::quit()
 {
+    m_manager.close();
     m_manager.cancelSync();
     const bool finishedAll = Workers::serveUntilFinished(quitPatience);
     m_helperConnection.invalidate();

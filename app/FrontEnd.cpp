@@ -16,7 +16,7 @@ void FrontEnd::connectTo(const QString &address, const QString &objectPath)
     connect(m_remote.get(), &RemoteObject::vanished, this, &FrontEnd::vanished);
     // One that died since it called is not told of any more.
     if (!m_remote->isAvailable())
-        QMetaObject::invokeMethod(this, &FrontEnd::vanished, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(m_remote.get(), &RemoteObject::vanished, Qt::QueuedConnection);
 }
 
 void FrontEnd::disconnect()

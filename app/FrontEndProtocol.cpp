@@ -92,7 +92,7 @@ void addState(std::vector<RemoteMethod> &methods, CaravelHelperController &helpe
 void addEstimate(std::vector<RemoteMethod> &methods, CVSyncManager &manager)
 {
     methods.push_back(
-        query("syncPercentEstimate", "", [&manager] { return manager.syncPercentEstimate(); }));
+        query("syncPercentEstimate", "u", [&manager] { return manager.syncPercentEstimate(); }));
     methods.push_back(query("syncBytesEstimate", "s", [&manager] {
         return FileManagerTools::sizeDescriptionForByteCount(manager.syncBytesEstimate());
     }));

@@ -1,5 +1,6 @@
 #include "app/SelectionLists.h"
 
+#include "app/Log.h"
 #include "modules/CVSyncMusic.h"
 #include "sync/CVSyncManager.h"
 
@@ -60,5 +61,9 @@ QVariantList SelectionLists::musicItems() const
 
 void SelectionLists::setSelectedMusicIdentifiers(const QStringList &identifiers) const
 {
+    if (identifiers.contains(QString())) {
+        qCWarning(lcApp) << "A music selection with an empty name was refused";
+        return;
+    }
     CVSyncMusic::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
 }

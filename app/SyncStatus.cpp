@@ -140,6 +140,7 @@ void SyncStatus::pspUnmountFailed()
 
 void SyncStatus::syncWillStart()
 {
+    m_saidFilled = false;
     show(localized("Preparing to Sync..."),
          localized("One moment, Caravel is gathering information..."));
 }
@@ -215,10 +216,10 @@ void SyncStatus::syncError(const ErrorInfo &error)
 
 void SyncStatus::memoryStickFilled()
 {
-    // Files that follow fail the same way before the run has stopped; the user is told once.
-    if (!m_services.manager.canCancelSync())
-        return;
     m_services.manager.cancelSync();
+    // Files that follow fail the same way before the run has stopped; the user is told once.
+    if (std::exchange(m_saidFilled, true))
+        return;
     m_services.logger.log(QStringLiteral("Memory stick filled while syncing!"));
     doAlert(localized("Memory stick full!"),
             localized("The Memory Stick currently inside your PSP has been filled. You must "

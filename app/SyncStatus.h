@@ -45,7 +45,6 @@ public:
     void setInitialTexts();
 
     /// While set, a stick is neither synced on mount nor ejected after a run. Any thread.
-    bool isInteractive() const { return m_isInteractive; }
     void setIsInteractive(bool interactive) { m_isInteractive = interactive; }
 
     /// Through the front-end where one is connected, else by ourselves.
@@ -81,5 +80,6 @@ private:
     const Services m_services;
     QString m_statusText;
     QString m_statusSubText;
+    bool m_saidFilled = false; // in the active run
     std::atomic<bool> m_isInteractive = false;
 };

@@ -86,7 +86,10 @@ void SyncFollower::checkStarted()
 void SyncFollower::finished(bool completed)
 {
     // Asked here, after the call that announced the end: the helper has set its last texts by then.
-    conclude(helper().state(), completed);
+    const HelperState state = helper().state();
+    // An earlier sync's end, told just when this one was asked for, is none of this one.
+    if (!state.syncing)
+        conclude(state, completed);
 }
 
 void SyncFollower::conclude(const HelperState &state, bool completed)

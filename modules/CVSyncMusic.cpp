@@ -31,15 +31,16 @@ qint64 firmwareVersion()
     return UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion"));
 }
 
-// The file that the stick can play for this track; nothing where there is none.
-std::optional<QString> playableFile(const MusicLibrary::Track &track, qint64 firmware)
+bool isPlayable(const MusicLibrary::Track &track, qint64 firmware)
 {
     if (!track.isFile || track.isLossless || !track.location)
-        return std::nullopt;
-    auto path = FileUrl::path(*track.location);
-    if (!path || !MusicNaming::isPlayable(PathComponents::extensionOf(*path), firmware))
-        return std::nullopt;
-    return path;
+        return false;
+    const auto dot = track.location->rfind('.');
+    if (dot == std::string_view::npos || track.location->size() - dot > 5)
+        return false;
+    const std::string_view extension = track.location->substr(dot + 1);
+    return MusicNaming::isPlayable(
+        QString::fromUtf8(extension.data(), static_cast<qsizetype>(extension.size())), firmware);
 }
 
 } // namespace
@@ -118,14 +119,18 @@ void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items) const
         int position = 0;
         for (const std::int64_t id : playlist.tracks) {
             const auto track = library->track(id);
-            const auto source = track ? playableFile(*track, firmware) : std::nullopt;
-            if (!source)
+            if (!track || !isPlayable(*track, firmware))
                 continue;
             if (detailed)
                 qCInfo(lcModules) << "Track" << id << "is valid and will be synced";
+            const int place = position++;
+            // What lies elsewhere has its number all the same, but there is nothing to copy.
+            const auto source = FileUrl::path(*track->location);
+            if (!source)
+                continue;
             const QString suffix =
                 u'.' + MusicNaming::extensionOnStick(PathComponents::extensionOf(*source));
-            const QString relative = naming.relativePath(*track, position++, suffix);
+            const QString relative = naming.relativePath(*track, place, suffix);
             QString destination;
             destination.reserve(root.size() + relative.size() + suffix.size());
             destination.append(root).append(relative).append(suffix);

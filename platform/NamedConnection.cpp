@@ -216,12 +216,12 @@ bool NamedConnection::registerName(const QString &connectionName)
     if (!bus)
         return false;
     const QString name = busName(connectionName);
-    const auto answer = bus->registerService(name, QDBusConnectionInterface::DontQueueService,
+    const auto answer = bus->registerService(name, QDBusConnectionInterface::QueueService,
                                              QDBusConnectionInterface::DontAllowReplacement);
-    if (answer.value() != QDBusConnectionInterface::ServiceRegistered)
+    if (answer.value() == QDBusConnectionInterface::ServiceNotRegistered)
         return false;
     d->names.append(name);
-    return true;
+    return answer.value() == QDBusConnectionInterface::ServiceRegistered;
 }
 
 void NamedConnection::invalidate()

@@ -56,8 +56,8 @@ public:
     bool exportObject(const QString &objectPath, const QString &interfaceName,
                       std::vector<RemoteMethod> methods);
 
-    /// Claims the name; false (and the process goes on without it) when another has it. Calls may
-    /// come at once: export first what they are for.
+    /// Claims the name. False when another process has it: this one goes on without it, and gets it
+    /// when the other leaves.
     bool registerName(const QString &connectionName);
 
     /// Gives the name back and serves nothing any more. May be called by a method being served.

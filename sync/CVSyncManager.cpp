@@ -57,6 +57,11 @@ QString CVSyncManager::pspName() const
 
 void CVSyncManager::detectPSP()
 {
+    // A run may find its stick gone while the main thread hears of the same: one scan at a time.
+    if (!isMainThread()) {
+        performOnMainThread([this] { detectPSP(); }, CallMode::Wait);
+        return;
+    }
     bool foundUnformatted = false;
     for (const QString &volume : m_services.volumes.mountedRemovableMedia()) {
         const FileManager &files = FileManager::defaultManager();
@@ -136,7 +141,14 @@ void CVSyncManager::volumeDidMount()
 
 void CVSyncManager::volumeWillUnmount(const QString &path)
 {
-    if (path == pspVolume() && !m_pspIsUnmounting)
+    if (m_pspIsUnmounting)
+        return;
+    bool isOurs = false;
+    {
+        const std::scoped_lock lock(m_volumeMutex);
+        isOurs = path == m_pspVolume || path == m_runVolume;
+    }
+    if (isOurs)
         cancelSync();
 }
 

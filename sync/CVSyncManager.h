@@ -70,6 +70,9 @@ public:
     quint64 syncBytesTotal() const { return m_syncBytesTotal; }
     quint64 syncBytes() const { return m_syncBytes; }
 
+    /// From now on no run and no estimate starts; for a process that is about to end.
+    void close();
+
     /// Starts a run where canSync(), else does nothing.
     void sync();
     /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any
@@ -102,6 +105,7 @@ private:
 
     // The run, on its own thread
     void _sync();
+    void setRunVolume(const QString &volume);
     void startRun(SyncRun &run);
     void pauseBeforeRun();
     void createModules(SyncRun &run);
@@ -111,7 +115,8 @@ private:
     void syncModules(SyncRun &run);
     void finalizeModules(SyncRun &run);
     void recordSizes(SyncRun &run);
-    void ejectAfterRun();
+    void ejectAfterRun(SyncRun &run);
+    void eject(const QString &volume);
     void finishRun();
     bool endRun();
     void setIcon(SyncRun &run);
@@ -132,9 +137,11 @@ private:
     // Under m_volumeMutex, which is held for a copy only
     mutable std::mutex m_volumeMutex;
     QString m_pspVolume;
+    QString m_runVolume; // of the active run; empty while there is none
     std::optional<VolumeIdentity> m_identity;
 
-    std::mutex m_runMutex; // makes the steps into and out of a run, and into a cancel, one each
+    bool m_isClosed = false; // under m_runMutex
+    std::mutex m_runMutex;   // makes the steps into and out of a run, and into a cancel, one each
 
     // Written by one party at a time, read by any
     std::atomic<bool> m_pspIsMounted = false;

@@ -5,6 +5,9 @@
 
 void CVSyncManager::refreshSyncBytesEstimate()
 {
+    const std::scoped_lock lock(m_runMutex);
+    if (m_isClosed)
+        return;
     Workers::start([this] { _refreshSyncBytesEstimate(); });
 }
 

@@ -32,11 +32,23 @@ void CVSyncManager::sync()
         return;
     {
         const std::scoped_lock lock(m_runMutex);
-        if (m_isSyncing)
+        if (m_isSyncing || m_isClosed)
             return;
         m_isSyncing = true;
     }
     Workers::start([this] { _sync(); });
+}
+
+void CVSyncManager::close()
+{
+    const std::scoped_lock lock(m_runMutex);
+    m_isClosed = true;
+}
+
+void CVSyncManager::setRunVolume(const QString &volume)
+{
+    const std::scoped_lock lock(m_volumeMutex);
+    m_runVolume = volume;
 }
 
 bool CVSyncManager::canSync()
@@ -64,6 +76,7 @@ void CVSyncManager::cancelSync()
 void CVSyncManager::_sync()
 {
     SyncRun run(*this, pspVolume());
+    setRunVolume(run.pspVolume());
     startRun(run);
     pauseBeforeRun();
     createModules(run);
@@ -73,7 +86,7 @@ void CVSyncManager::_sync()
     syncModules(run);
     finalizeModules(run);
     recordSizes(run);
-    ejectAfterRun();
+    ejectAfterRun(run);
     finishRun();
 }
 
@@ -210,16 +223,17 @@ void CVSyncManager::recordSizes(SyncRun &run)
     m_syncBytes = 0;
 }
 
-void CVSyncManager::ejectAfterRun()
+void CVSyncManager::ejectAfterRun(SyncRun &run)
 {
     if (!m_shouldCancelSync &&
         UserDefaults::standard().boolForKey(QStringLiteral("unmountAfterSync")) &&
         m_delegate->shouldUnmountPSP())
-        eject();
+        eject(run.pspVolume());
 }
 
 void CVSyncManager::finishRun()
 {
+    setRunVolume({});
     const bool completed = endRun();
     if (completed)
         UserDefaults::standard().setObject(QStringLiteral("lastSync"), m_services.clock.now());
@@ -238,10 +252,15 @@ bool CVSyncManager::endRun()
 
 void CVSyncManager::eject()
 {
+    eject(pspVolume());
+}
+
+void CVSyncManager::eject(const QString &volume)
+{
     m_isIndeterminate = true;
     m_pspIsUnmounting = true;
     tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
-    const bool ejected = m_services.volumes.unmountAndEject(pspVolume());
+    const bool ejected = m_services.volumes.unmountAndEject(volume);
     m_pspIsUnmounting = false;
     m_isIndeterminate = false;
     if (!ejected)

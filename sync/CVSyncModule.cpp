@@ -126,6 +126,7 @@ void CVSyncModule::collectSyncedFiles()
 
 void CVSyncModule::filterQueue()
 {
+    m_logsInDetail = Preferences::useDetailedLogging();
     size_t kept = 0;
     for (size_t i = 0; i < m_syncQueue.size(); ++i) {
         if (!shouldCopy(m_syncQueue[i], m_measured[i]))
@@ -142,12 +143,14 @@ void CVSyncModule::filterQueue()
 
 bool CVSyncModule::shouldCopy(const CVSyncItem &item, const Measured &source)
 {
-    const bool detailed = Preferences::useDetailedLogging();
+    const bool detailed = m_logsInDetail;
     if (!source.exists) {
         if (detailed)
             qCInfo(lcSync).noquote() << "Dequeueing" << item.source << "(file does not exist)";
         return false;
     }
+    if (!isReachedWithoutLinks(item.destination))
+        return false;
     const FileStatus destination = files().linkStatus(item.destination);
     if (!destination.exists())
         return true;
@@ -170,6 +173,27 @@ bool CVSyncModule::isInPlace(const CVSyncItem &item, const Measured &source,
     if (destination.isFolder())
         return source.isFolder && files().contentsEqual(item.destination, item.source);
     return !source.isFolder && destination.size == source.ownSize;
+}
+
+// A link among the folders leads off the stick: what lies behind it is the user's own, to be
+// neither removed nor overwritten.
+bool CVSyncModule::isReachedWithoutLinks(const QString &path)
+{
+    const QString folder = folderOf(path);
+    const QString volume = pspVolume();
+    if (!StickFiles::isOnVolume(folder, volume) || folder.size() == volume.size())
+        return true;
+    if (const auto known = m_reachedFolders.constFind(folder); known != m_reachedFolders.constEnd())
+        return *known;
+    const bool isLink = files().linkStatus(folder).kind == FileStatus::Kind::Link;
+    if (isLink) {
+        fileManagerShouldProceedAfterError(
+            {{QStringLiteral("Error"), QStringLiteral("Won't follow a link off the stick")},
+             {QStringLiteral("Path"), folder}});
+    }
+    const bool reached = !isLink && isReachedWithoutLinks(folder);
+    m_reachedFolders.insert(folder, reached);
+    return reached;
 }
 
 // --- Cleaning up
@@ -197,6 +221,8 @@ void CVSyncModule::cleanUp()
 void CVSyncModule::cleanUp(const QString &folder, bool ownOnly)
 {
     if (folder == u"/" || folder == u"/Volumes" || !StickFiles::isOnVolume(folder, pspVolume()))
+        return;
+    if (!isReachedWithoutLinks(folder + QStringLiteral("/.")))
         return;
     CleanUp pass;
     const QString indexPath = StickFiles::syncIndex(pspVolume(), m_saveName);
@@ -248,8 +274,9 @@ void CVSyncModule::removeDuringCleanUp(CleanUp &pass, size_t entry, const QStrin
                                         .arg(found.isFolder ? 1 : 0)
                                         .arg(unsynced ? 1 : 0);
     }
+    const bool isEmptied = found.isFolder && pass.childrenLeft[entry] == 0;
     const bool removed =
-        found.isFolder ? files().removeEmptyFolder(path, this) : files().remove(path, this);
+        isEmptied ? files().removeEmptyFolder(path, this) : files().remove(path, this);
     if (removed && found.parent >= 0)
         --pass.childrenLeft[static_cast<size_t>(found.parent)];
 }

@@ -4,6 +4,7 @@
 #include "sync/CVSyncItem.h"
 #include "sync/CVSyncModuleDelegate.h"
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -66,12 +67,8 @@ public:
     bool fileManagerShouldProceedAfterError(const ErrorInfo &error) override;
 
 protected:
-    CVSyncModuleDelegate &delegate() const { return *m_delegate; }
     QString pspVolume() const { return m_delegate->pspVolume(); }
-    const QStringList &identifiers() const { return m_identifiers; }
     bool isSelected(const QString &identifier) const { return m_selected.contains(identifier); }
-    const std::vector<CVSyncItem> &syncQueue() const { return m_syncQueue; }
-    const QStringList &syncIndex() const { return m_syncIndex; }
 
 private:
     // What one look at an item's source told, kept so that no question asks the disk again.
@@ -91,6 +88,7 @@ private:
     bool shouldCopy(const CVSyncItem &item, const Measured &source);
     bool isInPlace(const CVSyncItem &item, const Measured &source,
                    const FileStatus &destination) const;
+    bool isReachedWithoutLinks(const QString &path);
     bool shouldRemove(const CleanUp &pass, size_t entry, const QString &path) const;
     void removeDuringCleanUp(CleanUp &pass, size_t entry, const QString &path);
     void collectSyncedFiles();
@@ -103,9 +101,11 @@ private:
     const QSet<QString> m_selected;
 
     std::vector<CVSyncItem> m_syncQueue;
-    std::vector<Measured> m_measured; // one per item of the queue
-    QSet<QString> m_allSyncedFiles;   // as comparable() gives them
-    QStringList m_syncIndex;          // volume-relative
+    std::vector<Measured> m_measured;      // one per item of the queue
+    QSet<QString> m_allSyncedFiles;        // as comparable() gives them
+    QStringList m_syncIndex;               // volume-relative
+    QHash<QString, bool> m_reachedFolders; // on the stick: whether no link leads there
+    bool m_logsInDetail = false;
     quint64 m_syncQueueSize = 0;
     quint64 m_syncEstimateSize = 0;
 };

@@ -11,7 +11,7 @@ void set(const QString &volume, const QString &resourceFolder, const QDate &toda
     FileManager &files = FileManager::defaultManager();
     const QString icon = volume + QStringLiteral("/.VolumeIcon.icns");
     const QString resource = QStringLiteral("%1/PSP%2.icns").arg(resourceFolder).arg(today.month());
-    if (files.exists(icon))
+    if (files.linkStatus(icon).exists())
         files.remove(icon, nullptr);
     files.copy(resource, icon, nullptr);
     FinderInfo::setCustomIconFlag(volume);

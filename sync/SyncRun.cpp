@@ -2,7 +2,8 @@
 
 #include "sync/CVSyncManager.h"
 #include "sync/Log.h"
-#include "sync/StickFiles.h"
+
+#include <QDir>
 
 #include <utility>
 
@@ -56,7 +57,8 @@ void SyncRun::syncModuleError(const ErrorInfo &error)
 
 void SyncRun::learnHowNamesCompare()
 {
-    const auto lower = VolumeIdentity::of(StickFiles::caravelFolder(m_volume));
-    const auto upper = VolumeIdentity::of(m_volume + QStringLiteral("/.CARAVEL"));
-    m_tellsCaseApart = !lower || lower != upper;
+    const QString otherCase = QStringLiteral(".CARAVEL");
+    const QDir root(m_volume);
+    m_tellsCaseApart = !root.exists(otherCase) ||
+                       root.entryList(QDir::AllEntries | QDir::Hidden).contains(otherCase);
 }

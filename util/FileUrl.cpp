@@ -1,6 +1,5 @@
 #include "util/FileUrl.h"
 
-#include <algorithm>
 #include <string>
 
 namespace FileUrl {
@@ -25,29 +24,28 @@ int hexDigit(char c)
 {
     if (c >= '0' && c <= '9')
         return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
+    const char lower = static_cast<char>(c | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
+// A library holds a hundred thousand of these: one pass, one allocation.
 std::string percentDecoded(std::string_view text)
 {
-    std::string decoded;
-    decoded.reserve(text.size());
-    while (!text.empty()) {
-        const size_t escape = std::min(text.find('%'), text.size());
-        decoded.append(text.substr(0, escape));
-        text.remove_prefix(escape);
-        const int high = text.size() > 2 ? hexDigit(text[1]) : -1;
-        const int low = high >= 0 ? hexDigit(text[2]) : -1;
-        if (low >= 0)
-            decoded += static_cast<char>(high * 16 + low);
-        else
-            decoded.append(text.substr(0, 1));
-        text.remove_prefix(std::min<size_t>(low >= 0 ? 3 : 1, text.size()));
+    std::string decoded(text.size(), '\0');
+    char *out = decoded.data();
+    const char *const end = text.data() + text.size();
+    for (const char *in = text.data(); in != end; ++in, ++out) {
+        *out = *in;
+        if (*in != '%' || end - in < 3)
+            continue;
+        const int high = hexDigit(in[1]);
+        const int low = hexDigit(in[2]);
+        if (high >= 0 && low >= 0) {
+            *out = static_cast<char>(high * 16 + low);
+            in += 2;
+        }
     }
+    decoded.resize(static_cast<size_t>(out - decoded.data()));
     return decoded;
 }
 
@@ -62,7 +60,8 @@ std::optional<QString> path(std::string_view url)
         const size_t slash = url.find('/', 2);
         url.remove_prefix(slash == url.npos ? url.size() : slash);
     }
-    url = url.substr(0, url.find_first_of("?#"));
+    url = url.substr(0, url.find('?'));
+    url = url.substr(0, url.find('#'));
     std::string decoded = percentDecoded(url);
     while (decoded.size() > 1 && decoded.back() == '/')
         decoded.pop_back();

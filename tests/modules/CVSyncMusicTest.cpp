@@ -122,8 +122,8 @@ TEST_F(CVSyncMusicTest, NumbersWhatIsPlayableInEachSelectedPlaylist)
     set("sortMusicBy", 0);
     const QString name = QStringLiteral("Road Trip/%1. Unsorted - Untitled.%2");
     EXPECT_EQ(places(), (QStringList{name.arg(QStringLiteral("000"), QStringLiteral("mp3")),
-                                     name.arg(QStringLiteral("001"), QStringLiteral("MP4")),
-                                     name.arg(QStringLiteral("002"), QStringLiteral("wav")),
+                                     name.arg(QStringLiteral("002"), QStringLiteral("MP4")),
+                                     name.arg(QStringLiteral("004"), QStringLiteral("wav")),
                                      name.arg(QStringLiteral("000"), QStringLiteral("wav"))}));
     set("firmwareVersion", 0);
     EXPECT_EQ(places(), QStringList{name.arg(QStringLiteral("000"), QStringLiteral("mp3"))});

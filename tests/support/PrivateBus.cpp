@@ -13,7 +13,7 @@ namespace {
 /// Starts the daemon with its output in the pipe; -1 where it can't be started.
 pid_t spawnDaemon(int output)
 {
-    const char *const arguments[] = {"setpriv",    "--pdeathsig",     "TERM",
+    const char *const arguments[] = {"setpriv",     "--pdeathsig",     "TERM",
                                      "dbus-daemon", "--session",       "--nofork",
                                      "--nopidfile", "--print-address", nullptr};
     posix_spawn_file_actions_t actions;

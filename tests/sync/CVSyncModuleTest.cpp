@@ -117,6 +117,29 @@ TEST_F(CVSyncModuleTest, ComparesFoldersByContentAndNeverFollowsLinks)
     EXPECT_EQ(readFile(musicFolder() + QStringLiteral("/planted")), "planted");
 }
 
+TEST_F(CVSyncModuleTest, LeavesAloneWhatLinksOnTheStickLeadTo)
+{
+    const QString mine = harness.home(QStringLiteral("Music"));
+    writeFile(mine + QStringLiteral("/album/mine.mp3"), "mine");
+    writeFile(mine + QStringLiteral("/album/unwanted.mp3"), "mine too");
+    want(QStringLiteral("album/mine.mp3"), "other");
+    // The whole folder, then one album in it.
+    for (const QString &link : {musicFolder(), musicFolder() + QStringLiteral("/album")}) {
+        QDir(musicFolder()).removeRecursively();
+        QDir().mkpath(link.left(link.lastIndexOf(u'/')));
+        ASSERT_TRUE(
+            QFile::link(link == musicFolder() ? mine : mine + QStringLiteral("/album"), link));
+        harness.delegate.errors.clear();
+        wishes.clears = link == musicFolder();
+        EXPECT_TRUE(harness.run());
+        EXPECT_EQ(readFile(mine + QStringLiteral("/album/mine.mp3")), "mine");
+        EXPECT_EQ(readFile(mine + QStringLiteral("/album/unwanted.mp3")), "mine too");
+        ASSERT_FALSE(harness.delegate.errors.empty());
+        EXPECT_EQ(harness.delegate.errors[0].value(QStringLiteral("Path")), link);
+        QFile::remove(link);
+    }
+}
+
 TEST_F(CVSyncModuleTest, CleansItsFolderByTheRules)
 {
     struct Case
@@ -191,6 +214,6 @@ TEST_F(CVSyncModuleTest, AsksTheDiskLittleWhenEverythingIsInPlace)
     FileManager::setDefaultManager(&files);
     EXPECT_TRUE(harness.run());
     FileManager::setDefaultManager(nullptr);
-    EXPECT_LE(files.statusCalls, 2 * folders * perFolder + 20);
+    EXPECT_LE(files.statusCalls, 2 * folders * perFolder + folders + 20);
     EXPECT_EQ(files.listings, 1);
 }
