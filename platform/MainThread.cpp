@@ -25,7 +25,7 @@ namespace {
 /// Waking a sleeping thread takes far longer than most calls do (100 µs and more on virtual
 /// machines), and calls come in bursts. So the main thread stays awake for a moment after each, and
 /// a waiting caller for as long as the main thread may take to wake.
-constexpr auto burstGap = std::chrono::microseconds(50);
+constexpr auto burstGap = std::chrono::microseconds(200);
 constexpr auto wakeTime = std::chrono::microseconds(250);
 
 template <typename Condition>
