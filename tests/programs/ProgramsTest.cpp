@@ -88,11 +88,11 @@ TEST_F(ProgramsTest, OutliveFrontEndsThatDie)
     programs.insertStick();
     ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("Available")); }));
     selectRoadTrip();
-    const auto hung = programs.start({QStringLiteral("watch")});
+    const auto other = programs.start({QStringLiteral("watch")});
     const auto killed = programs.start({QStringLiteral("watch")});
     ASSERT_TRUE(
-        waitFor([&] { return hung->bytesAvailable() > 0 && killed->bytesAvailable() > 0; }));
-    // One never answers any more while the helper calls it, the other goes without a word.
+        waitFor([&] { return other->bytesAvailable() > 0 && killed->bytesAvailable() > 0; }));
+    // It stops listening while the helper calls it, and then goes without a word.
     ::kill(static_cast<pid_t>(killed->processId()), SIGSTOP);
     run({QStringLiteral("sync"), QStringLiteral("--no-wait")});
     ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("gathering information")); }));
@@ -100,8 +100,8 @@ TEST_F(ProgramsTest, OutliveFrontEndsThatDie)
     ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("Sync Successful")); }));
     EXPECT_EQ(music(), synced);
     EXPECT_TRUE(programs.helperLives());
-    hung->kill();
-    hung->waitForFinished();
+    other->kill();
+    other->waitForFinished();
     EXPECT_EQ(programs.stopHelper(), 0);
 }
 
