@@ -21,4 +21,6 @@ elseif(CARAVEL_SANITIZE STREQUAL "thread")
     target_compile_options(caravel_strict INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
     target_link_options(caravel_strict INTERFACE -fsanitize=thread)
 endif()
+# A program loads only the libraries that it calls: the command line none of the desktop's.
+target_link_options(caravel_strict INTERFACE -Wl,--as-needed)
 target_link_libraries(caravel_strict INTERFACE Threads::Threads)

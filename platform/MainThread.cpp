@@ -14,6 +14,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <cstdlib>
 #include <deque>
 #include <memory>
 #include <mutex>
@@ -109,6 +110,12 @@ public:
         }
     }
 
+    void serveWaiting()
+    {
+        for (int count = m_waiting.load(std::memory_order_acquire); count > 0; --count)
+            serveOne();
+    }
+
 private:
     /// A burst of calls is served in one go, but never so long that timers and requests starve.
     void serveBurst()
@@ -177,6 +184,11 @@ void runWorker(std::function<void()> work)
 
 Q_COREAPP_STARTUP_FUNCTION(attachCallQueue)
 
+void serveWaitingCalls()
+{
+    callQueue().serveWaiting();
+}
+
 bool isMainThread()
 {
     return callQueue().isMainThread();
@@ -197,8 +209,17 @@ void performOnMainThread(std::function<void()> work, CallMode mode)
     completion->wait();
 }
 
+// The toolkit ends the program by itself when its display goes away: no destructor may then run
+// under a worker.
+static void leaveUnderWorkers()
+{
+    if (Workers::live() > 0)
+        std::_Exit(EXIT_FAILURE);
+}
+
 void Workers::start(std::function<void()> work)
 {
+    [[maybe_unused]] static const int registered = std::atexit(leaveUnderWorkers);
     ++liveWorkers;
     try {
         std::thread(runWorker, std::move(work)).detach();

@@ -16,10 +16,15 @@ enum class CallMode { Wait, DontWait };
 /// application is gone is held until the process has ended.
 void performOnMainThread(std::function<void()> work, CallMode mode);
 
+/// Carries out the calls that wait right now. Main thread, from the event loop: for who serves
+/// requests of other processes, of which the loop would take any number before the next call.
+void serveWaitingCalls();
+
 /// Whether the calling thread is the main thread.
 bool isMainThread();
 
-/// Threads of our own: each is detached and counted.
+/// Threads of our own: each is detached and counted. A process that exits while one lives ends at
+/// once, with a failure's status and without running destructors.
 namespace Workers {
 
 /// Runs `work` on a new detached thread. Any thread.

@@ -2,6 +2,7 @@
 
 #include "platform/BusValues.h"
 #include "platform/Log.h"
+#include "platform/MainThread.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -127,6 +128,7 @@ bool ServedObject::answerOther(const QDBusMessage &message, const QDBusConnectio
 
 bool ServedObject::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
 {
+    serveWaitingCalls();
     if (message.type() != QDBusMessage::MethodCallMessage ||
         isStandardInterface(message.interface()))
         return false;
@@ -151,6 +153,24 @@ bool ServedObject::handleMessage(const QDBusMessage &message, const QDBusConnect
                                 : QVariantList{BusValues::toBus(result, called->out)});
     return true;
 }
+
+// Hears the one message that a connection sends itself.
+class LossObserver : public QObject
+{
+    Q_OBJECT
+public:
+    LossObserver(QObject *context, std::function<void()> lost)
+        : QObject(context)
+        , m_lost(std::move(lost))
+    {
+    }
+
+public Q_SLOTS:
+    void disconnected() { m_lost(); }
+
+private:
+    const std::function<void()> m_lost;
+};
 
 } // namespace
 
@@ -188,6 +208,14 @@ QString NamedConnection::busName(const QString &connectionName)
 bool NamedConnection::busAvailable()
 {
     return QDBusConnection::sessionBus().isConnected();
+}
+
+void NamedConnection::observeLoss(QObject *context, std::function<void()> lost)
+{
+    QDBusConnection::sessionBus().connect(
+        QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
+        new LossObserver(context, std::move(lost)), SLOT(disconnected()));
 }
 
 void NamedConnection::flush()
@@ -234,3 +262,5 @@ void NamedConnection::invalidate()
         d->bus.unregisterObject(object->path());
     }
 }
+
+#include "NamedConnection.moc"

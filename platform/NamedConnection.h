@@ -48,6 +48,9 @@ public:
     /// Whether there is a session bus at all.
     static bool busAvailable();
 
+    /// Calls `lost` once when the session bus goes away, as long as `context` lives.
+    static void observeLoss(QObject *context, std::function<void()> lost);
+
     /// Waits (at most 1 s) until all that this process has sent so far is with the bus. A process
     /// that is about to exit calls it, since messages still in the process are lost with it.
     static void flush();

@@ -6,7 +6,10 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
+
+#include <limits>
 
 class RemoteObject::Private
 {
@@ -59,6 +62,21 @@ void RemoteObject::send(const QString &method, const QVariantList &arguments)
     if (!d->m_bus.send(call))
         qCWarning(lcPlatform, "can't send %ls to %ls: %ls", qUtf16Printable(method),
                   qUtf16Printable(d->m_service), qUtf16Printable(d->m_bus.lastError().message()));
+}
+
+void RemoteObject::send(const QString &method, const QVariantList &arguments, QObject *context,
+                        std::function<void()> failed)
+{
+    QDBusMessage call = d->message(method, arguments);
+    call.setAutoStartService(false);
+    constexpr int noLimit = std::numeric_limits<int>::max();
+    auto *watcher = new QDBusPendingCallWatcher(d->m_bus.asyncCall(call, noLimit), context);
+    connect(watcher, &QDBusPendingCallWatcher::finished, context,
+            [watcher, failed = std::move(failed)] {
+                if (watcher->isError())
+                    failed();
+                watcher->deleteLater();
+            });
 }
 
 RemoteObject::Answer RemoteObject::call(const QString &method, const QVariantList &arguments,

@@ -36,6 +36,11 @@ public:
     /// QVariantList of QVariantMap "aa{sv}", ObjectPath "o".
     void send(const QString &method, const QVariantList &arguments = {});
 
+    /// The same for a call that must not get lost: `failed` is called once, as long as `context`
+    /// lives, when the object refuses it, isn't there, or goes without having answered.
+    void send(const QString &method, const QVariantList &arguments, QObject *context,
+              std::function<void()> failed);
+
     struct Answer
     {
         std::optional<QVariant> value; ///< nothing: the call failed; an invalid variant: no result

@@ -501,20 +501,29 @@ std::optional<QVariantMap> UserDefaults::persistentDomain(const QString &name) c
     return values;
 }
 
-bool UserDefaults::setPersistentDomain(const QVariantMap &values, const QString &name)
+bool UserDefaults::editPersistentDomain(const QString &name,
+                                        const std::function<bool(QVariantMap &)> &edit)
 {
-    QString reason = QStringLiteral("can't create the folder");
-    bool done = false;
-    if (QDir().mkpath(m_folder)) {
-        const DomainLock lock(lockPath(name));
-        if (lock.isHeld())
-            done = PropertyList::writeAtomically(values, filePath(name), &reason);
-        else
-            reason = Posix::reason(errno);
-    }
-    if (!done)
-        qCWarning(lcPlatform).noquote() << "can't write" << filePath(name) << "-" << reason;
-    return done;
+    const QString path = filePath(name);
+    const auto failed = [&path](const QString &reason) {
+        qCWarning(lcPlatform).noquote() << "can't edit" << path << "-" << reason;
+        return false;
+    };
+    if (!QDir().mkpath(m_folder))
+        return failed(QStringLiteral("can't create the folder"));
+    const DomainLock lock(lockPath(name));
+    if (!lock.isHeld())
+        return failed(Posix::reason(errno));
+    PropertyListError error;
+    const std::optional<QVariantMap> before = readDictionary(path, &error);
+    if (error)
+        return failed(error.in(path));
+    QVariantMap values = before.value_or(QVariantMap());
+    if (!edit(values))
+        return false;
+    QString reason;
+    return before == values || PropertyList::writeAtomically(values, path, &reason) ||
+           failed(reason);
 }
 
 std::optional<UserDefaults::Stamp> UserDefaults::stampOf(const QString &path)

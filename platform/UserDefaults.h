@@ -6,6 +6,7 @@
 #include <QVariantMap>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -67,8 +68,12 @@ public:
     /// (an unreadable one is named in the system log and left alone).
     std::optional<QVariantMap> persistentDomain(const QString &name) const;
 
-    /// Replaces another domain's file whole, atomically. False where it could not.
-    bool setPersistentDomain(const QVariantMap &values, const QString &name);
+    /// Has another domain's values edited and replaces its file whole, atomically, with no other
+    /// process of ours in between; a missing domain is edited as an empty one. Nothing is written
+    /// where the edit leaves what the file has. A domain that can't be read is named in the system
+    /// log and left alone, as one is that `edit` answers false for. False where the file does not
+    /// hold the edited values afterwards.
+    bool editPersistentDomain(const QString &name, const std::function<bool(QVariantMap &)> &edit);
 
 Q_SIGNALS:
     /// A value was set in this process. Main thread, after setObject() has returned; several

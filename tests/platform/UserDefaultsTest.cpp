@@ -19,6 +19,14 @@ const QString domain = QStringLiteral("org.example.Test");
 const QString key = QStringLiteral("key");
 const QString other = QStringLiteral("other");
 
+std::function<bool(QVariantMap &)> set(const QVariantMap &values)
+{
+    return [values](QVariantMap &edited) {
+        edited = values;
+        return true;
+    };
+}
+
 class UserDefaultsFile : public testing::Test
 {
 protected:
@@ -235,7 +243,7 @@ TEST_F(UserDefaultsFile, FailedWritesAreKeptAndSaidOnce)
     EXPECT_FALSE(store.synchronize());
     EXPECT_FALSE(store.synchronize());
     EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join(u'\n'));
-    EXPECT_FALSE(store.setPersistentDomain({{key, 1}}, QStringLiteral("x")));
+    EXPECT_FALSE(store.editPersistentDomain(QStringLiteral("x"), set({{key, 1}})));
     QFile::remove(home / QStringLiteral("Library"));
     EXPECT_TRUE(store.synchronize());
     EXPECT_EQ(fileContents(), (QVariantMap{{key, 1LL}}));
@@ -291,15 +299,21 @@ TEST_F(UserDefaultsFile, OtherDomainsAreReadAndReplacedWhole)
     const QString login = QStringLiteral("loginwindow");
     EXPECT_FALSE(store.persistentDomain(login));
     const QVariantMap values{{key, QVariantList{QVariantMap{{other, QByteArray("x")}}}}};
-    EXPECT_TRUE(store.setPersistentDomain(values, login));
+    EXPECT_TRUE(store.editPersistentDomain(login, set(values)));
     EXPECT_EQ(store.persistentDomain(login), values);
-    EXPECT_TRUE(store.setPersistentDomain({}, login));
+    EXPECT_FALSE(store.editPersistentDomain(login, [](QVariantMap &edited) {
+        edited.clear();
+        return false;
+    }));
+    EXPECT_EQ(store.persistentDomain(login), values);
+    EXPECT_TRUE(store.editPersistentDomain(login, set({})));
     EXPECT_EQ(store.persistentDomain(login), QVariantMap());
     SystemLogCapture log;
     const QString broken = folder + QStringLiteral("/broken.plist");
     writeFile(broken, "\nnonsense");
     EXPECT_FALSE(store.persistentDomain(QStringLiteral("broken")));
     EXPECT_TRUE(log.contains(broken + QStringLiteral(":2: ")));
+    EXPECT_FALSE(store.editPersistentDomain(QStringLiteral("broken"), set(values)));
     EXPECT_EQ(readFile(broken), "\nnonsense");
 }
 

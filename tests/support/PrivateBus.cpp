@@ -56,8 +56,15 @@ PrivateBus::PrivateBus()
 
 PrivateBus::~PrivateBus()
 {
+    stop();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", m_addressBefore);
+}
+
+void PrivateBus::stop()
+{
     if (m_daemon > 0) {
         ::kill(m_daemon, SIGTERM);
         ::waitpid(m_daemon, nullptr, 0);
     }
+    m_daemon = -1;
 }

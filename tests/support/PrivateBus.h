@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QByteArray>
+
 #include <sys/types.h>
 
 /// A session bus of the test program's own, in DBUS_SESSION_BUS_ADDRESS as long as the object
-/// lives; it ends with the program, however that ends. Where no bus daemon can be started the
-/// variable names a place where nothing listens.
+/// lives (one that is made later lies over it); it ends with the program, however that ends. Where
+/// no bus daemon can be started the variable names a place where nothing listens.
 ///
 /// Started without QProcess: its way to fork shares memory with the child and leaves the thread
 /// sanitizer's records of the main thread in disorder.
@@ -16,6 +18,10 @@ public:
     PrivateBus(const PrivateBus &) = delete;
     PrivateBus &operator=(const PrivateBus &) = delete;
 
+    /// Ends the daemon; its clients lose the bus.
+    void stop();
+
 private:
+    const QByteArray m_addressBefore = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     pid_t m_daemon = -1;
 };
