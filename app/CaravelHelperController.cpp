@@ -23,6 +23,9 @@ namespace {
 // How long a quitting helper waits for its run to write what it must.
 constexpr auto quitPatience = std::chrono::seconds(5);
 
+// How long a value that a front-end has just set may take to reach the store's file.
+constexpr auto storeDelay = std::chrono::milliseconds(250);
+
 QString helperDidStartNotification()
 {
     return QStringLiteral("CVHelperDidStartNotification");
@@ -45,11 +48,15 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
     , m_manager({m_services.volumes, m_services.notifications, m_services.clock,
                  m_services.bundle.resourcePath()},
                 modules())
-    , m_status({m_manager, m_logger, m_frontEnd, m_services.alerts, m_services.clock,
+    , m_menu(m_manager, menuActions())
+    , m_icon(m_services.statusBar, m_manager)
+    , m_status({m_manager, m_logger, m_frontEnd, m_menu, m_icon, m_services.alerts,
+                m_services.sounds, m_services.clock,
                 [this] {
                     openCaravel();
                 }})
     , m_lists(m_manager)
+    , m_loginItems(m_services.bundle, frontEndPath())
 {
     m_logger.setDelegate(this);
     m_manager.setDelegate(&m_status);
@@ -57,6 +64,24 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
 }
 
 CaravelHelperController::~CaravelHelperController() = default;
+
+StatusMenu::Actions CaravelHelperController::menuActions()
+{
+    StatusMenu::Actions actions;
+    actions.syncNow = [this](const QString &title) {
+        syncNow({{QStringLiteral("title"), title}});
+    };
+    actions.ejectPSP = [this] {
+        ejectPSP();
+    };
+    actions.openCaravel = [this] {
+        openCaravel();
+    };
+    actions.quit = [this] {
+        requestQuit();
+    };
+    return actions;
+}
 
 void CaravelHelperController::start()
 {
@@ -86,17 +111,33 @@ void CaravelHelperController::initialize()
         qCWarning(lcApp).noquote() << "Another process has the connection name" << name
                                    << "; this one is reached when that one leaves";
     m_status.setInitialTexts();
+    m_percentConverted = localized("Conversion in progress...");
 }
 
 void CaravelHelperController::setUp()
 {
+    logDetail(QStringLiteral("Setting up status item..."));
     m_status.setStatusText(localized("No PSP Connected"));
     createFolders();
     FileManager &files = FileManager::defaultManager();
     const QString leftover = Preferences::supportFolder() + QStringLiteral("/CONVERT.MP4");
     if (files.linkStatus(leftover).exists())
         files.remove(leftover, nullptr);
+    changeStartOnLogin();
     m_manager.detectPSP();
+}
+
+void CaravelHelperController::changeStartOnLogin()
+{
+    m_services.clock.sleep(storeDelay);
+    UserDefaults::standard().synchronize();
+    const bool startOnLogin = UserDefaults::standard().boolForKey(QStringLiteral("startOnLogin"));
+    m_menu.update();
+    if (startOnLogin)
+        m_icon.show(m_menu.menu());
+    else
+        m_icon.remove();
+    m_loginItems.setStartOnLogin(startOnLogin);
 }
 
 void CaravelHelperController::createFolders()
@@ -144,8 +185,13 @@ void CaravelHelperController::frontEndIsGone()
 void CaravelHelperController::openCaravel()
 {
     logDetail(QStringLiteral("Launching Caravel front-end..."));
-    Workspace::openFile(StringTools::standardizingPath(m_services.bundle.resourcePath() +
-                                                       QStringLiteral("/../../../../..")));
+    Workspace::openFile(frontEndPath());
+}
+
+QString CaravelHelperController::frontEndPath() const
+{
+    return StringTools::standardizingPath(m_services.bundle.resourcePath() +
+                                          QStringLiteral("/../../../../.."));
 }
 
 void CaravelHelperController::syncNow(const QVariantMap &sender)
@@ -170,15 +216,23 @@ void CaravelHelperController::ejectPSP()
 void CaravelHelperController::helperDidStart()
 {
     logDetail(QStringLiteral("Another helper has started, I am quitting!"));
-    requestQuit();
+    m_icon.remove();
+    // Even under an open front-end: two helpers would both sync a stick that mounts.
+    terminate();
 }
 
 void CaravelHelperController::requestQuit()
 {
-    if (m_isQuitting || m_frontEnd.isOpen())
+    if (!m_frontEnd.isOpen())
+        terminate();
+}
+
+void CaravelHelperController::terminate()
+{
+    if (std::exchange(m_isQuitting, true))
         return;
-    m_isQuitting = true;
     logDetail(QStringLiteral("Helper quitting..."));
+    m_icon.disable();
     quit();
 }
 

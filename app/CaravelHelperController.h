@@ -1,7 +1,10 @@
 #pragma once
 
 #include "app/FrontEnd.h"
+#include "app/LoginItems.h"
 #include "app/SelectionLists.h"
+#include "app/StatusIcon.h"
+#include "app/StatusMenu.h"
 #include "app/SyncStatus.h"
 #include "platform/Bundle.h"
 #include "platform/NamedConnection.h"
@@ -25,32 +28,44 @@ public:
         Volumes &volumes;
         DistributedNotificationCenter &notifications;
         Clock &clock;
-        AlertPresenter &alerts;
+        StatusBar &statusBar;
+        Alerts &alerts;
+        Sounds &sounds;
         Bundle bundle; ///< the helper's own
     };
     explicit CaravelHelperController(Services services, QObject *parent = nullptr);
     ~CaravelHelperController() override;
 
-    /// Brings the helper up: log, announcement, manager, connection, texts, folders, detection.
+    /// Brings the helper up: log, announcement, manager, connection, texts, folders, status item
+    /// and login items, detection.
     void start();
 
     QMLogger &logger() { return m_logger; }
     CVSyncManager &syncManager() { return m_manager; }
     SyncStatus &status() { return m_status; }
     SelectionLists &lists() { return m_lists; }
+    /// How far a conversion is, as a text for the user.
+    QString percentConverted() const { return m_percentConverted; }
 
     void setApplication(const QString &address, const QString &objectPath);
     /// A front-end says that it quits; the helper goes too unless it starts at login.
     void applicationWillQuit(const QString &address);
 
+    /// Launches the front-end, or brings it forward where it sees to that itself.
     void openCaravel();
     /// Starts a sync, or cancels the running one for a sender titled "Cancel Sync".
     void syncNow(const QVariantMap &sender);
     void ejectPSP();
 
+    /// Brings the status item and the login items in line with "startOnLogin", as the store on the
+    /// disk has it; holds the caller a quarter of a second.
+    void changeStartOnLogin();
+
     /// The platform's request to quit: passed over while the front-end is open, else the helper
     /// goes.
     void requestQuit();
+    /// Goes without asking the front-end.
+    void terminate();
 
     void logChanged(const QString &line) override;
 
@@ -66,13 +81,19 @@ private:
     void frontEndIsGone();
     void logDetail(const QString &message);
     void quit();
+    QString frontEndPath() const;
+    StatusMenu::Actions menuActions();
 
     const Services m_services;
     QMLogger m_logger;
     CVSyncManager m_manager;
     FrontEnd m_frontEnd;
+    StatusMenu m_menu;
+    StatusIcon m_icon;
     SyncStatus m_status;
     SelectionLists m_lists;
+    const LoginItems m_loginItems;
     NamedConnection m_helperConnection;
+    QString m_percentConverted;
     bool m_isQuitting = false;
 };

@@ -46,9 +46,11 @@ void FrontEnd::send(const QString &method, const QVariantList &arguments) const
         m_remote->send(method, arguments);
 }
 
-void FrontEnd::doAlert(const QString &title, const QString &message, AlertStyle style) const
+void FrontEnd::doAlert(const QString &title, const QString &message, AlertStyle style)
 {
-    send(QStringLiteral("doAlert"), {title, message, static_cast<int>(style)});
+    if (m_remote)
+        m_remote->send(QStringLiteral("doAlert"), {title, message, static_cast<int>(style)}, this,
+                       [=, this] { Q_EMIT notShown(title, message, style); });
 }
 
 void FrontEnd::updateUserInterface() const

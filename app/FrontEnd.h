@@ -1,14 +1,13 @@
 #pragma once
 
+#include "platform/Alerts.h"
+
 #include <QObject>
 #include <QString>
 
 #include <memory>
 
 class RemoteObject;
-
-/// How an alert presses; numbers as the protocol carries them.
-enum class AlertStyle { Warning = 0, Informational = 1, Critical = 2 };
 
 /// The connected front-end's object. While none is connected every call is passed over. Calls don't
 /// wait for the front-end (but isOpen()), and reach it in order. Main thread.
@@ -29,7 +28,9 @@ public:
     /// Whether the front-end says that it is open; false where it doesn't say within a second.
     bool isOpen() const;
 
-    void doAlert(const QString &title, const QString &message, AlertStyle style) const;
+    /// An alert that the front-end can't take, or that it goes over without an answer, is handed
+    /// back with notShown().
+    void doAlert(const QString &title, const QString &message, AlertStyle style);
     void updateUserInterface() const;
     void updateSyncBytes() const;
     void updateSyncBytesEstimate() const;
@@ -41,6 +42,7 @@ public:
 Q_SIGNALS:
     /// The connected front-end's process has left without a word.
     void vanished();
+    void notShown(const QString &title, const QString &message, AlertStyle style);
 
 private:
     void send(const QString &method, const QVariantList &arguments = {}) const;

@@ -1,6 +1,7 @@
 #include "app/FrontEndProtocol.h"
 
 #include "app/CaravelHelperController.h"
+#include "app/Log.h"
 #include "platform/UserDefaults.h"
 #include "util/FileManagerTools.h"
 
@@ -10,123 +11,192 @@ namespace {
 
 using Request = const RemoteRequest &;
 
-// A question without arguments.
-template <typename Ask>
-RemoteMethod query(const char *name, const char *type, Ask ask)
-{
-    return {QString::fromLatin1(name), {}, {}, QString::fromLatin1(type), false, [ask](Request) {
-                return QVariant::fromValue(ask());
-            }};
-}
-
 struct Argument
 {
-    const char *type = nullptr;
-    const char *name = nullptr;
+    const char *type;
+    const char *name;
+};
+using Arguments = std::initializer_list<Argument>;
+
+constexpr Argument sender{"a{sv}", "sender"};
+constexpr Argument identifiers{"as", "identifiers"};
+constexpr Argument identifier{"s", "identifier"};
+constexpr Argument movie{"a{sv}", "movie"};
+
+/// The methods in the order in which they are added.
+class Table
+{
+public:
+    /// A question without arguments.
+    template <typename Ask>
+    void query(const char *name, const char *type, Ask ask)
+    {
+        add(name, {}, type, [ask](Request) { return QVariant::fromValue(ask()); });
+    }
+
+    /// A command that the caller waits for.
+    template <typename Perform>
+    void command(const char *name, Arguments arguments, Perform perform)
+    {
+        add(name, arguments, "", [perform](Request request) {
+            perform(request);
+            return QVariant();
+        });
+    }
+
+    /// A command that the caller does not wait for.
+    template <typename Perform>
+    void oneway(const char *name, Arguments arguments, Perform perform)
+    {
+        command(name, arguments, perform);
+        m_methods.back().oneway = true;
+    }
+
+    void add(const char *name, Arguments arguments, const char *out,
+             std::function<QVariant(Request)> call);
+
+    std::vector<RemoteMethod> take() { return std::move(m_methods); }
+
+private:
+    std::vector<RemoteMethod> m_methods;
 };
 
-enum class Mode { Waits, Oneway };
-
-// A command with at most one argument.
-template <typename Perform>
-RemoteMethod command(const char *name, Argument argument, Mode mode, Perform perform)
+void Table::add(const char *name, Arguments arguments, const char *out,
+                std::function<QVariant(Request)> call)
 {
     RemoteMethod method;
     method.name = QString::fromLatin1(name);
-    if (argument.type) {
-        method.in = {QString::fromLatin1(argument.type)};
-        method.inNames = {QString::fromLatin1(argument.name)};
+    for (const Argument &argument : arguments) {
+        method.in.append(QString::fromLatin1(argument.type));
+        method.inNames.append(QString::fromLatin1(argument.name));
     }
-    method.oneway = mode == Mode::Oneway;
-    method.call = [perform](Request request) {
-        perform(request);
-        return QVariant();
-    };
-    return method;
+    method.out = QString::fromLatin1(out);
+    method.call = std::move(call);
+    m_methods.push_back(std::move(method));
 }
 
-void addConnection(std::vector<RemoteMethod> &methods, CaravelHelperController &helper)
+QString text(Request request)
 {
-    constexpr Argument sender{"a{sv}", "sender"};
-    methods.push_back(
-        command("setApplication", {"o", "frontEnd"}, Mode::Waits, [&helper](Request request) {
-            helper.setApplication(request.caller, request.arguments.first().toString());
-        }));
-    methods.push_back(command("applicationWillQuit", {}, Mode::Oneway, [&helper](Request request) {
-        helper.applicationWillQuit(request.caller);
-    }));
-    methods.push_back(
-        command("ejectPSP", sender, Mode::Oneway, [&helper](Request) { helper.ejectPSP(); }));
-    methods.push_back(
-        command("openCaravel", sender, Mode::Oneway, [&helper](Request) { helper.openCaravel(); }));
-    methods.push_back(command("syncNow", sender, Mode::Oneway, [&helper](Request request) {
-        helper.syncNow(request.arguments.first().toMap());
-    }));
+    return request.arguments.first().toString();
 }
 
-void addState(std::vector<RemoteMethod> &methods, CaravelHelperController &helper)
+void addConnection(Table &table, CaravelHelperController &helper)
+{
+    table.command("setApplication", {{"o", "frontEnd"}}, [&helper](Request request) {
+        helper.setApplication(request.caller, text(request));
+    });
+    table.oneway("applicationWillQuit", {},
+                 [&helper](Request request) { helper.applicationWillQuit(request.caller); });
+    table.oneway("ejectPSP", {sender}, [&helper](Request) { helper.ejectPSP(); });
+    table.oneway("openCaravel", {sender}, [&helper](Request) { helper.openCaravel(); });
+    table.oneway("syncNow", {sender},
+                 [&helper](Request request) { helper.syncNow(request.arguments.first().toMap()); });
+}
+
+void addState(Table &table, CaravelHelperController &helper)
 {
     CVSyncManager &manager = helper.syncManager();
     SyncStatus &status = helper.status();
-    methods.push_back(query("log", "s", [&helper] { return helper.logger().log(); }));
-    methods.push_back(query("isFirstSync", "b", [&manager] { return manager.isFirstSync(); }));
-    methods.push_back(query("pspIsMounted", "b", [&manager] { return manager.pspIsMounted(); }));
-    methods.push_back(query("canSync", "b", [&manager] { return manager.canSync(); }));
-    methods.push_back(query("isSyncing", "b", [&manager] { return manager.isSyncing(); }));
-    methods.push_back(query("canCancelSync", "b", [&manager] { return manager.canCancelSync(); }));
-    methods.push_back(
-        query("isIndeterminate", "b", [&manager] { return manager.isIndeterminate(); }));
-    methods.push_back(
-        query("syncBytesTotal", "t", [&manager] { return manager.syncBytesTotal(); }));
-    methods.push_back(query("syncBytes", "t", [&manager] { return manager.syncBytes(); }));
-    methods.push_back(query("statusText", "s", [&status] { return status.statusText(); }));
-    methods.push_back(query("statusSubText", "s", [&status] { return status.statusSubText(); }));
-    methods.push_back(
-        command("setIsInteractive", {"b", "interactive"}, Mode::Waits, [&status](Request request) {
-            status.setIsInteractive(request.arguments.first().toBool());
-        }));
-    methods.push_back(
-        command("clearLog", {}, Mode::Waits, [&helper](Request) { helper.logger().clear(); }));
+    table.query("log", "s", [&helper] { return helper.logger().log(); });
+    table.query("isFirstSync", "b", [&manager] { return manager.isFirstSync(); });
+    table.query("pspIsMounted", "b", [&manager] { return manager.pspIsMounted(); });
+    table.query("canSync", "b", [&manager] { return manager.canSync(); });
+    table.query("isSyncing", "b", [&manager] { return manager.isSyncing(); });
+    table.query("canCancelSync", "b", [&manager] { return manager.canCancelSync(); });
+    table.query("isIndeterminate", "b", [&manager] { return manager.isIndeterminate(); });
+    table.query("syncBytesTotal", "t", [&manager] { return manager.syncBytesTotal(); });
+    table.query("syncBytes", "t", [&manager] { return manager.syncBytes(); });
+    table.query("statusText", "s", [&status] { return status.statusText(); });
+    table.query("statusSubText", "s", [&status] { return status.statusSubText(); });
+    table.command("setIsInteractive", {{"b", "interactive"}}, [&status](Request request) {
+        status.setIsInteractive(request.arguments.first().toBool());
+    });
+    table.query("percentConverted", "s", [&helper] { return helper.percentConverted(); });
+    table.oneway("changeStartOnLogin", {}, [&helper](Request) { helper.changeStartOnLogin(); });
+    table.command("clearLog", {}, [&helper](Request) { helper.logger().clear(); });
 }
 
-void addEstimate(std::vector<RemoteMethod> &methods, CVSyncManager &manager)
+void addEstimate(Table &table, CVSyncManager &manager)
 {
-    methods.push_back(
-        query("syncPercentEstimate", "u", [&manager] { return manager.syncPercentEstimate(); }));
-    methods.push_back(query("syncBytesEstimate", "s", [&manager] {
+    table.query("syncPercentEstimate", "u", [&manager] { return manager.syncPercentEstimate(); });
+    table.query("syncBytesEstimate", "s", [&manager] {
         return FileManagerTools::sizeDescriptionForByteCount(manager.syncBytesEstimate());
-    }));
-    methods.push_back(command("refreshSyncBytesEstimate", {}, Mode::Oneway, [&manager](Request) {
+    });
+    table.oneway("refreshSyncBytesEstimate", {}, [&manager](Request) {
         UserDefaults::standard().synchronize();
         manager.refreshSyncBytesEstimate();
-    }));
+    });
 }
 
-void addLists(std::vector<RemoteMethod> &methods, CaravelHelperController &helper)
+void addSelection(Table &table, const char *name, SelectionLists &lists,
+                  void (SelectionLists::*select)(const QStringList &) const)
 {
-    SelectionLists &lists = helper.lists();
-    methods.push_back(query("musicItems", "aa{sv}", [&lists] { return lists.musicItems(); }));
-    methods.push_back(command("setSelectedMusicIdentifiers", {"as", "identifiers"}, Mode::Oneway,
-                              [&lists](Request request) {
-                                  lists.setSelectedMusicIdentifiers(
-                                      request.arguments.first().toStringList());
-                              }));
+    table.oneway(name, {identifiers}, [&lists, select](Request request) {
+        (lists.*select)(request.arguments.first().toStringList());
+    });
+}
+
+// What belongs to media that this helper has no module for.
+QVariantList noRows()
+{
+    return {};
+}
+
+void passOver(Request request)
+{
+    qCWarning(lcApp).noquote() << "Passed over, there is no module for it: a request by"
+                               << request.caller;
+}
+
+void addLists(Table &table, SelectionLists &lists)
+{
+    table.query("musicItems", "aa{sv}", [&lists] { return lists.musicItems(); });
+    addSelection(table, "setSelectedMusicIdentifiers", lists,
+                 &SelectionLists::setSelectedMusicIdentifiers);
+    table.query("photosItems", "aa{sv}", noRows);
+    addSelection(table, "setSelectedPhotosIdentifiers", lists,
+                 &SelectionLists::setSelectedPhotosIdentifiers);
+    table.query("bookmarksItems", "aa{sv}", noRows);
+    addSelection(table, "setSelectedBookmarksIdentifiers", lists,
+                 &SelectionLists::setSelectedBookmarksIdentifiers);
+}
+
+void addMovies(Table &table, SelectionLists &lists)
+{
+    table.query("moviesItems", "aa{sv}", noRows);
+    addSelection(table, "setSelectedMoviesIdentifiers", lists,
+                 &SelectionLists::setSelectedMoviesIdentifiers);
+    table.query("isConvertingMovie", "b", [] { return false; });
+    table.command("addMoviesFromArray", {{"as", "paths"}}, passOver);
+    table.command("removeMovieItem", {movie}, passOver);
+    table.command("renameMovieItem", {movie, {"s", "newName"}}, passOver);
+}
+
+void addBackups(Table &table, CaravelHelperController &helper)
+{
+    table.query("backupItems", "aa{sv}", noRows);
+    addSelection(table, "setSelectedBackupIdentifiers", helper.lists(),
+                 &SelectionLists::setSelectedBackupIdentifiers);
+    table.oneway("logChanged", {{"s", "line"}},
+                 [&helper](Request request) { helper.logChanged(text(request)); });
+    table.add("backupSubItemsForIdentifier", {identifier}, "aa{sv}",
+              [](Request) { return noRows(); });
+    table.command("restoreBackupWithIdentifier", {identifier}, passOver);
+    table.command("deleteBackupWithIdentifier", {identifier}, passOver);
 }
 
 } // namespace
 
 std::vector<RemoteMethod> methods(CaravelHelperController &controller)
 {
-    std::vector<RemoteMethod> methods;
-    addConnection(methods, controller);
-    addState(methods, controller);
-    addEstimate(methods, controller.syncManager());
-    addLists(methods, controller);
-    methods.push_back(
-        command("logChanged", {"s", "line"}, Mode::Oneway, [&controller](Request request) {
-            controller.logChanged(request.arguments.first().toString());
-        }));
-    return methods;
+    Table table;
+    addConnection(table, controller);
+    addState(table, controller);
+    addEstimate(table, controller.syncManager());
+    addLists(table, controller.lists());
+    addMovies(table, controller.lists());
+    addBackups(table, controller);
+    return table.take();
 }
 
 } // namespace FrontEndProtocol

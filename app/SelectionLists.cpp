@@ -3,8 +3,11 @@
 #include "app/Log.h"
 #include "modules/CVSyncMusic.h"
 #include "sync/CVSyncManager.h"
+#include "sync/ModuleSelection.h"
 
 #include <QSet>
+
+#include <algorithm>
 
 namespace {
 
@@ -40,6 +43,26 @@ QVariantMap row(const MusicLibrary::Playlist &playlist, const QSet<QString> &sel
     return row;
 }
 
+// What comes over the bus may name anything.
+bool isName(const QString &identifier)
+{
+    return !identifier.isEmpty();
+}
+
+bool isRelativePath(const QString &identifier)
+{
+    const QStringList components = identifier.split(u'/');
+    return std::none_of(components.begin(), components.end(), [](const QString &each) {
+        return each.isEmpty() || each == u"." || each == u"..";
+    });
+}
+
+// A movie that waits for its conversion goes by the path of its source.
+bool isMovie(const QString &identifier)
+{
+    return isRelativePath(identifier.startsWith(u'/') ? identifier.mid(1) : identifier);
+}
+
 } // namespace
 
 QVariantList SelectionLists::musicItems() const
@@ -59,11 +82,39 @@ QVariantList SelectionLists::musicItems() const
     return rows;
 }
 
-void SelectionLists::setSelectedMusicIdentifiers(const QStringList &identifiers) const
+void SelectionLists::setSelected(const QString &moduleSaveName, const QStringList &identifiers,
+                                 bool (*isGood)(const QString &)) const
 {
-    if (identifiers.contains(QString())) {
-        qCWarning(lcApp) << "A music selection with an empty name was refused";
+    const auto bad = std::find_if_not(identifiers.begin(), identifiers.end(), isGood);
+    if (bad != identifiers.end()) {
+        qCWarning(lcApp).noquote().nospace() << "A selection was refused for its identifier \""
+                                             << *bad << "\" (" << moduleSaveName << ')';
         return;
     }
-    CVSyncMusic::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
+    ModuleSelection::store(identifiers, moduleSaveName, m_manager.pspVolume());
+}
+
+void SelectionLists::setSelectedMusicIdentifiers(const QStringList &identifiers) const
+{
+    setSelected(CVSyncMusic::saveName(), identifiers, isName);
+}
+
+void SelectionLists::setSelectedPhotosIdentifiers(const QStringList &identifiers) const
+{
+    setSelected(QStringLiteral("Photos"), identifiers, isName);
+}
+
+void SelectionLists::setSelectedBookmarksIdentifiers(const QStringList &identifiers) const
+{
+    setSelected(QStringLiteral("Bookmarks"), identifiers, isName);
+}
+
+void SelectionLists::setSelectedMoviesIdentifiers(const QStringList &identifiers) const
+{
+    setSelected(QStringLiteral("Movies"), identifiers, isMovie);
+}
+
+void SelectionLists::setSelectedBackupIdentifiers(const QStringList &identifiers) const
+{
+    setSelected(QStringLiteral("Backup"), identifiers, isRelativePath);
 }

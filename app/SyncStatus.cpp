@@ -2,8 +2,11 @@
 
 #include "app/Log.h"
 #include "app/RelativeDate.h"
+#include "app/StatusIcon.h"
+#include "app/StatusMenu.h"
 #include "platform/Clock.h"
 #include "platform/Localized.h"
+#include "platform/Sounds.h"
 #include "platform/UserDefaults.h"
 #include "sync/CVSyncItem.h"
 #include "sync/CVSyncManager.h"
@@ -41,6 +44,10 @@ QString description(const ErrorInfo &error)
 SyncStatus::SyncStatus(Services services)
     : m_services(std::move(services))
 {
+    QObject::connect(&m_services.frontEnd, &FrontEnd::notShown, &m_services.frontEnd,
+                     [this](const QString &title, const QString &message, AlertStyle style) {
+                         m_services.alerts.show(title, message, style);
+                     });
 }
 
 void SyncStatus::setInitialTexts()
@@ -52,6 +59,7 @@ void SyncStatus::setInitialTexts()
 void SyncStatus::setStatusText(const QString &text)
 {
     m_statusText = text;
+    m_services.menu.setStatusText(text);
     if (Preferences::useDetailedLogging())
         m_services.logger.log(text);
 }
@@ -67,6 +75,12 @@ void SyncStatus::show(const QString &text, const QString &subText)
 {
     setStatusText(text);
     setStatusSubText(subText);
+    notifyUserInterface();
+}
+
+void SyncStatus::notifyUserInterface()
+{
+    m_services.menu.update();
     m_services.frontEnd.updateUserInterface();
 }
 
@@ -88,6 +102,7 @@ void SyncStatus::doAlert(const QString &title, const QString &message, AlertStyl
 
 void SyncStatus::pspDidMount(const QString &)
 {
+    m_services.icon.pspDidMount();
     const bool syncedBefore =
         UserDefaults::standard().dateForKey(QStringLiteral("lastSync")).has_value();
     show(filled(localized("%@ Available"), {size(m_services.manager.pspFreeSpace())}),
@@ -99,6 +114,7 @@ void SyncStatus::pspDidMount(const QString &)
 
 void SyncStatus::pspDidUnmount()
 {
+    m_services.icon.pspDidUnmount();
     show(localized("No PSP Connected"), localized("Connect a PSP to perform a sync."));
     m_services.frontEnd.pspDidUnmount();
 }
@@ -141,6 +157,7 @@ void SyncStatus::pspUnmountFailed()
 void SyncStatus::syncWillStart()
 {
     m_saidFilled = false;
+    m_services.icon.startSyncAnimation();
     show(localized("Preparing to Sync..."),
          localized("One moment, Caravel is gathering information..."));
 }
@@ -170,7 +187,7 @@ void SyncStatus::syncDidStart()
 void SyncStatus::syncWillProcessModule(const QString &moduleName)
 {
     setStatusText(filled(localized("Syncing %@..."), {moduleName}));
-    m_services.frontEnd.updateUserInterface();
+    notifyUserInterface();
 }
 
 void SyncStatus::syncWillProcessItem(const CVSyncItem &item)
@@ -229,6 +246,7 @@ void SyncStatus::memoryStickFilled()
 
 void SyncStatus::syncDidFinish(bool completed)
 {
+    m_services.icon.stopSyncAnimation();
     m_services.frontEnd.updateSyncBytes();
     m_services.frontEnd.syncDidFinish(completed);
     const bool brief = !Preferences::useDetailedLogging();
@@ -237,6 +255,8 @@ void SyncStatus::syncDidFinish(bool completed)
             m_services.logger.log(QStringLiteral("Sync was completed successfully."));
         setStatusText(localized("Sync Successful"));
         setStatusSubText(lastSyncText());
+        if (preference("playSyncCompletionSound"))
+            m_services.sounds.play(QStringLiteral("SyncCompleted"));
     } else {
         if (brief)
             m_services.logger.log(localized("Sync was cancelled."));
@@ -245,7 +265,7 @@ void SyncStatus::syncDidFinish(bool completed)
     }
     UserDefaults::standard().synchronize();
     m_services.manager.refreshSyncBytesEstimate();
-    m_services.frontEnd.updateUserInterface();
+    notifyUserInterface();
 }
 
 void SyncStatus::newSyncBytesEstimate(quint64 bytes)

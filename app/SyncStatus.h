@@ -11,17 +11,13 @@
 class Clock;
 class CVSyncManager;
 class QMLogger;
+class Sounds;
+class StatusIcon;
+class StatusMenu;
 
-/// Shows an alert where no front-end does. Main thread; must not wait for the user.
-class AlertPresenter
-{
-public:
-    virtual ~AlertPresenter() = default;
-    virtual void show(const QString &title, const QString &message, AlertStyle style) = 0;
-};
-
-/// Turns what the sync manager tells into the two status lines, log lines and alerts, and hands it
-/// on to the front-end. Main thread, but for the two questions.
+/// Turns what the sync manager tells into the two status lines, the status item's image and menu,
+/// log lines, alerts and sounds, and hands it on to the front-end. Main thread, but for the two
+/// questions.
 class SyncStatus : public CVSyncManagerDelegate
 {
 public:
@@ -31,7 +27,10 @@ public:
         CVSyncManager &manager;
         QMLogger &logger;
         FrontEnd &frontEnd;
-        AlertPresenter &alerts;
+        StatusMenu &menu;
+        StatusIcon &icon;
+        Alerts &alerts;
+        Sounds &sounds;
         const Clock &clock;
         std::function<void()> openFrontEnd;
     };
@@ -41,13 +40,13 @@ public:
     QString statusSubText() const { return m_statusSubText; }
     void setStatusText(const QString &text);
     void setStatusSubText(const QString &text);
-    /// The texts before anything is known; not logged.
+    /// The texts before anything is known; neither logged nor in the menu.
     void setInitialTexts();
 
     /// While set, a stick is neither synced on mount nor ejected after a run. Any thread.
     void setIsInteractive(bool interactive) { m_isInteractive = interactive; }
 
-    /// Through the front-end where one is connected, else by ourselves.
+    /// Through the front-end where one is connected and takes it, else by ourselves.
     void doAlert(const QString &title, const QString &message, AlertStyle style);
 
     void pspDidMount(const QString &volume) override;
@@ -74,6 +73,7 @@ public:
 
 private:
     void show(const QString &text, const QString &subText);
+    void notifyUserInterface();
     QString lastSyncText() const;
     void memoryStickFilled();
 

@@ -1,13 +1,14 @@
 #include "app/CaravelHelperController.h"
 #include "app/Log.h"
 #include "platform/Clock.h"
+#include "platform/DesktopApplication.h"
 #include "platform/DistributedNotificationCenter.h"
+#include "platform/Localized.h"
 #include "platform/QuitSignals.h"
+#include "platform/Sounds.h"
 #include "platform/Volumes.h"
 
 #include <CLI/CLI.hpp>
-
-#include <QCoreApplication>
 
 #include <string>
 
@@ -41,36 +42,35 @@ Options parse(int argc, char **argv)
     return options;
 }
 
-// Alerts that no front-end shows go to the journal.
-class JournalAlerts : public AlertPresenter
-{
-public:
-    void show(const QString &title, const QString &message, AlertStyle) override
-    {
-        qCWarning(lcApp).noquote() << title << message;
-    }
-};
-
 } // namespace
 
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
     const Options options = parse(argc, argv);
     if (options.exitStatus >= 0)
         return options.exitStatus;
+    const auto application = makeDesktopApplication(argc, argv);
     if (!NamedConnection::busAvailable()) {
         qCCritical(lcApp) << "caravel-helper: there is no session bus";
         return 1;
     }
+    const Bundle bundle = Bundle::main();
+    installTranslations(bundle.resourcePath() + QStringLiteral("/translations"));
     const auto volumes = makeVolumes(options.volumesFolder);
+    const auto statusBar = makeStatusBar(bundle.resourcePath());
+    const auto alerts = makeAlerts();
+    const auto sounds = makeSounds(bundle.resourcePath());
     SystemClock clock;
-    JournalAlerts alerts;
-    CaravelHelperController controller(
-        {*volumes, DistributedNotificationCenter::defaultCenter(), clock, alerts, Bundle::main()});
+    CaravelHelperController controller({*volumes, DistributedNotificationCenter::defaultCenter(),
+                                        clock, *statusBar, *alerts, *sounds, bundle});
     const QuitSignals quitSignals([&controller](int) { controller.requestQuit(); });
-    QObject::connect(&controller, &CaravelHelperController::finished, &application,
-                     &QCoreApplication::quit, Qt::QueuedConnection);
+    NamedConnection::observeLoss(&controller, [&controller] {
+        qCWarning(lcApp) << "The session bus has gone away";
+        controller.terminate();
+    });
+    QObject::connect(
+        &controller, &CaravelHelperController::finished, application.get(),
+        [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     QMetaObject::invokeMethod(&controller, &CaravelHelperController::start, Qt::QueuedConnection);
     return QCoreApplication::exec();
 }

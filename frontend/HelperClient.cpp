@@ -2,6 +2,7 @@
 
 #include "frontend/Output.h"
 #include "platform/Bundle.h"
+#include "platform/Localized.h"
 #include "platform/NamedConnection.h"
 
 #include <QDir>
@@ -120,6 +121,12 @@ HelperState HelperClient::state()
         .syncBytes = askCount(QStringLiteral("syncBytes")),
         .syncBytesTotal = askCount(QStringLiteral("syncBytesTotal")),
     };
+}
+
+bool HelperClient::isText(const QString &text, const char *english)
+{
+    const Bundle helper(helperBundle());
+    return isLocalizedForm(text, english, helper.resourcePath() + QStringLiteral("/translations"));
 }
 
 void HelperClient::tell(const QString &method, const QVariantList &arguments)

@@ -45,6 +45,9 @@ public:
     quint64 askCount(const QString &method) { return ask(method).toULongLong(); }
     HelperState state();
 
+    /// Whether a text of the helper's is that English one, whatever language the helper speaks.
+    static bool isText(const QString &text, const char *english);
+
     /// Sends a oneway call.
     void tell(const QString &method, const QVariantList &arguments = {});
 

@@ -3,7 +3,6 @@
 #include "frontend/FrontEndObject.h"
 #include "frontend/Output.h"
 #include "frontend/ProgressDisplay.h"
-#include "platform/Localized.h"
 
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -83,7 +82,7 @@ ExitStatus waitForEject(HelperClient &helper)
             break;
         if (!state.mounted)
             return Done;
-        if (state.statusText == localized("Eject Failed") || deadline.hasExpired()) {
+        if (HelperClient::isText(state.statusText, "Eject Failed") || deadline.hasExpired()) {
             Output::error(state.statusText + u'\n' + state.statusSubText);
             return Refused;
         }

@@ -4,7 +4,6 @@
 #include "frontend/Output.h"
 #include "frontend/ProgressDisplay.h"
 #include "platform/DistributedNotificationCenter.h"
-#include "platform/Localized.h"
 
 using namespace std::chrono_literals;
 
@@ -70,7 +69,7 @@ void SyncFollower::stateRead(const HelperState &state)
     // one's place it never is, and the texts tell.
     constexpr int patience = 3;
     if (m_started && ++m_readingsSinceEnd >= patience)
-        conclude(state, state.statusText == localized("Sync Successful"));
+        conclude(state, HelperClient::isText(state.statusText, "Sync Successful"));
 }
 
 void SyncFollower::checkStarted()

@@ -3,6 +3,7 @@
 #include "frontend/PrefsCommand.h"
 #include "frontend/StatusCommands.h"
 #include "frontend/SyncCommand.h"
+#include "frontend/TerminalWindow.h"
 #include "frontend/WatchCommand.h"
 #include "platform/Bundle.h"
 
@@ -182,6 +183,8 @@ int CommandLine::run(int argc, char **argv)
     }
     if (m_chosen)
         return m_chosen();
+    if (TerminalWindow::isNeeded() && TerminalWindow::openWatch())
+        return Done;
     Output::printError(QString::fromStdString(m_app.help()));
     return BadUsage;
 }

@@ -8,22 +8,23 @@ usage() {
 Usage: install-dependencies.sh [--lint]
 Installs the missing ones of the Debian packages that this project needs (as root or through sudo).
 
-  --lint   also clang-format, clang-tidy and git
+  --lint   also what scripts/lint.sh runs: clang-format, clang-tidy, git and the checkers of desktop
+           files and man pages
 EOF
 }
 
 packages=(
     # Building
-    g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev libexpat1-dev libplist-dev
-    libcli11-dev librsvg2-bin python3
+    g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools
+    libglib2.0-dev libexpat1-dev libplist-dev libcli11-dev librsvg2-bin python3
     # Tests and benchmarks
-    libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs mount util-linux
+    libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs mount util-linux xvfb
     # The demo's sound files, and the helper at run time
     ffmpeg
 )
 while (($#)); do
     case $1 in
-    --lint) packages+=(clang-format clang-tidy git) ;;
+    --lint) packages+=(clang-format clang-tidy git desktop-file-utils appstream groff-base) ;;
     -h | --help) usage; exit 0 ;;
     *) usage >&2; exit 2 ;;
     esac

@@ -1,15 +1,18 @@
 #!/usr/bin/env bash
-# Checks the formatting of the sources, the scripts, and what clang-tidy has to say.
+# Checks the formatting of the sources, the scripts, the translations, what the desktop is given, and
+# what clang-tidy has to say.
 set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: lint.sh [--format | --scripts | --tidy [FILE...]]
-Without an option all three, one after the other.
+Usage: lint.sh [--format | --scripts | --translations | --desktop | --tidy [FILE...]]
+Without an option all of them, one after the other.
 
-  --format    clang-format's check of every C++ file
-  --scripts   the shell scripts' and Python scripts' syntax, and shellcheck where it is installed
-  --tidy      clang-tidy, over the given sources or all of them (minutes)
+  --format         clang-format's check of every C++ file
+  --scripts        the shell scripts' and Python scripts' syntax, and shellcheck where it is installed
+  --translations   the catalogues: each has every text that the sources look up, and no other
+  --desktop        the desktop entry, the metadata for software catalogues, and the man pages
+  --tidy           clang-tidy, over the given sources or all of them (minutes)
 EOF
 }
 
@@ -57,6 +60,44 @@ check_scripts() {
     echo "Scripts: $((${#shell[@]} + ${#python[@]})) files are in order"
 }
 
+# Runs a checker that may say nothing at all.
+silently() {
+    local said
+    if ! said=$("$@" 2>&1) || [[ -n $said ]]; then
+        printf '%s\n' "lint.sh: $* complains:" "$said" >&2
+        return 1
+    fi
+}
+
+# As the build makes it: the build number is filled in.
+check_metainfo() {
+    local build file
+    build=$(sed -n 's/^set(CARAVEL_BUILD \([0-9]*\))$/\1/p' CMakeLists.txt)
+    file=$1/$(basename "$2" .in)
+    sed "s/@CARAVEL_BUILD@/${build:?not found in CMakeLists.txt}/" "$2" >"$file"
+    appstreamcli validate --no-net "$file"
+}
+
+check_desktop() {
+    local files file
+    scratch=$(mktemp -d)
+    trap 'rm -rf -- "$scratch"' EXIT
+    mapfile -t files < <(sources 'resources/desktop/*.desktop' 'resources/desktop/*.metainfo.xml.in' \
+        'docs/man/*.1')
+    if ((${#files[@]} == 0)); then
+        echo "lint.sh: git lists no files for the desktop here" >&2
+        return 1
+    fi
+    for file in "${files[@]}"; do
+        case $file in
+        *.desktop) silently desktop-file-validate "$file" ;;
+        *.in) check_metainfo "$scratch" "$file" ;;
+        *) silently groff -man -Tutf8 -ww -z "$file" ;;
+        esac
+    done
+    echo "Desktop: ${#files[@]} files are in order"
+}
+
 check_tidy() {
     local files=("$@")
     if ((${#files[@]} == 0)); then
@@ -79,11 +120,15 @@ case $what in
 -h | --help) usage; exit 0 ;;
 --format) check_format ;;
 --scripts) check_scripts ;;
+--translations) resources/tools/check_translations.py ;;
+--desktop) scripts/install-dependencies.sh --lint; check_desktop ;;
 --tidy) scripts/install-dependencies.sh --lint; check_tidy "$@" ;;
 all)
     scripts/install-dependencies.sh --lint
     check_format
     check_scripts
+    resources/tools/check_translations.py
+    check_desktop
     check_tidy
     ;;
 *) usage >&2; exit 2 ;;

@@ -1,26 +1,19 @@
 #include "app/FrontEndProtocol.h"
 
+#include "FakeDesktop.h"
 #include "app/CaravelHelperController.h"
 #include "support/SyncHarness.h"
 
 #include <gtest/gtest.h>
 
-namespace {
-
-class NoAlerts : public AlertPresenter
-{
-public:
-    void show(const QString &, const QString &, AlertStyle) override {}
-};
-
-} // namespace
-
 TEST(FrontEndProtocol, MethodsHaveTheTypesThatFrontEndsKnow)
 {
     SyncHarness harness;
-    NoAlerts alerts;
+    FakeStatusBar statusBar;
+    FakeAlerts alerts;
+    FakeSounds sounds;
     CaravelHelperController controller({harness.volumes, harness.notifications, harness.clock,
-                                        alerts, Bundle(harness.folder.path())});
+                                        statusBar, alerts, sounds, Bundle(harness.folder.path())});
     QStringList found;
     for (const RemoteMethod &method : FrontEndProtocol::methods(controller)) {
         found.append(method.name + (method.oneway ? QStringLiteral("*(") : QStringLiteral("(")) +
@@ -31,8 +24,14 @@ TEST(FrontEndProtocol, MethodsHaveTheTypesThatFrontEndsKnow)
         "setApplication(o) applicationWillQuit*() ejectPSP*(a{sv}) openCaravel*(a{sv}) "
         "syncNow*(a{sv}) log()s isFirstSync()b pspIsMounted()b canSync()b isSyncing()b "
         "canCancelSync()b isIndeterminate()b syncBytesTotal()t syncBytes()t statusText()s "
-        "statusSubText()s setIsInteractive(b) clearLog() syncPercentEstimate()u "
+        "statusSubText()s setIsInteractive(b) percentConverted()s changeStartOnLogin*() clearLog() "
+        "syncPercentEstimate()u "
         "syncBytesEstimate()s refreshSyncBytesEstimate*() musicItems()aa{sv} "
-        "setSelectedMusicIdentifiers*(as) logChanged*(s)");
+        "setSelectedMusicIdentifiers*(as) photosItems()aa{sv} setSelectedPhotosIdentifiers*(as) "
+        "bookmarksItems()aa{sv} setSelectedBookmarksIdentifiers*(as) moviesItems()aa{sv} "
+        "setSelectedMoviesIdentifiers*(as) isConvertingMovie()b addMoviesFromArray(as) "
+        "removeMovieItem(a{sv}) renameMovieItem(a{sv},s) backupItems()aa{sv} "
+        "setSelectedBackupIdentifiers*(as) logChanged*(s) backupSubItemsForIdentifier(s)aa{sv} "
+        "restoreBackupWithIdentifier(s) deleteBackupWithIdentifier(s)");
     EXPECT_EQ(found, expected.split(u' '));
 }

@@ -1,5 +1,9 @@
 #include "app/SyncStatus.h"
 
+#include "FakeDesktop.h"
+#include "app/StatusIcon.h"
+#include "app/StatusMenu.h"
+
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
@@ -8,18 +12,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
-class AlertList : public AlertPresenter
-{
-public:
-    QStringList titles;
-    QString message;
-    void show(const QString &title, const QString &text, AlertStyle) override
-    {
-        titles.append(title);
-        message = text;
-    }
-};
 
 class SyncStatusTest : public testing::Test
 {
@@ -38,11 +30,16 @@ protected:
     SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
     QMLogger logger;
     FrontEnd frontEnd;
-    AlertList alerts;
+    FakeStatusBar statusBar;
+    FakeAlerts alerts;
+    FakeSounds sounds;
     int opened = 0;
-    SyncStatus status{{harness.manager, logger, frontEnd, alerts, harness.clock, [this] {
-                           ++opened;
-                       }}};
+    StatusMenu menu{harness.manager, {}};
+    StatusIcon icon{statusBar, harness.manager};
+    SyncStatus status{
+        {harness.manager, logger, frontEnd, menu, icon, alerts, sounds, harness.clock, [this] {
+             ++opened;
+         }}};
 
     void SetUp() override
     {
@@ -92,6 +89,7 @@ TEST_F(SyncStatusTest, FollowsTheDeviceAndTheRun)
     EXPECT_EQ(status.statusText(), QStringLiteral("Sync Successful"));
     EXPECT_EQ(status.statusSubText(), QStringLiteral("Last Sync: Today 03:09 PM"));
     EXPECT_EQ(messages(), list({"Sync was completed successfully."}));
+    EXPECT_EQ(sounds.played, list({"SyncCompleted"}));
 
     harness.defaults.setObject(QStringLiteral("openOnMount"), true);
     harness.volumes.unmount(harness.stick());
@@ -129,6 +127,7 @@ TEST_F(SyncStatusTest, SaysWhyARunEnded)
     EXPECT_EQ(messages(), list({"Not enough free space to complete sync of size: 16 b",
                                 "Sync was cancelled."}));
     EXPECT_EQ(status.statusText(), QStringLiteral("Sync Cancelled"));
+    EXPECT_TRUE(sounds.played.isEmpty());
     EXPECT_EQ(status.statusSubText(),
               QStringLiteral("You must re-sync to ensure the PSP is up to date."));
 }

@@ -10,13 +10,22 @@
 
 namespace {
 
-QString helperBusName()
+Bundle helperBundle()
 {
-    const Bundle bundle(QDir::cleanPath(QStringLiteral(CARAVEL_HELPER "/../../..")));
-    return NamedConnection::busName(QStringLiteral("CaravelHelper ") + bundle.version());
+    return Bundle(QDir::cleanPath(QStringLiteral(CARAVEL_HELPER "/../../..")));
 }
 
 } // namespace
+
+QString ProgramHarness::helperBusName()
+{
+    return NamedConnection::busName(QStringLiteral("CaravelHelper ") + helperBundle().version());
+}
+
+QString ProgramHarness::resource(const QString &name)
+{
+    return helperBundle().resourcePath() + u'/' + name;
+}
 
 ProgramHarness::ProgramHarness()
 {
@@ -37,7 +46,9 @@ QProcessEnvironment ProgramHarness::environment() const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HOME"), m_folder / QStringLiteral("home"));
-    environment.remove(QStringLiteral("CARAVEL_VOLUMES"));
+    environment.insert(QStringLiteral("LC_ALL"), m_language);
+    for (const char *name : {"CARAVEL_VOLUMES", "DISPLAY", "WAYLAND_DISPLAY", "LANGUAGE"})
+        environment.remove(QString::fromLatin1(name));
     return environment;
 }
 
@@ -47,13 +58,20 @@ void ProgramHarness::startHelper(bool onMounts)
                         QStringLiteral("org.caravel.CaravelHelperProtocol"));
     ASSERT_TRUE(waitFor([&] { return !helper.isAvailable(); })) << "an earlier helper has not gone";
     m_helper.setProcessEnvironment(environment());
-    m_helper.start(QStringLiteral(CARAVEL_HELPER),
-                   onMounts ? QStringList()
-                            : QStringList{QStringLiteral("--volumes-folder"),
-                                          m_folder / QStringLiteral("volumes")});
+    m_helper.start(QStringLiteral(CARAVEL_HELPER), onMounts ? QStringList() : volumesOption());
     ASSERT_TRUE(
         waitFor([&] { return helper.isAvailable() || m_helper.state() == QProcess::NotRunning; }));
     ASSERT_TRUE(helperLives()) << qPrintable(helperOutput());
+}
+
+QStringList ProgramHarness::volumesOption() const
+{
+    return {QStringLiteral("--volumes-folder"), m_folder / QStringLiteral("volumes")};
+}
+
+std::unique_ptr<QProcess> ProgramHarness::startAnotherHelper()
+{
+    return startProgram(QStringLiteral(CARAVEL_HELPER), volumesOption());
 }
 
 int ProgramHarness::stopHelper()
@@ -70,10 +88,16 @@ QString ProgramHarness::helperOutput()
 
 std::unique_ptr<QProcess> ProgramHarness::start(const QStringList &arguments)
 {
+    return startProgram(QStringLiteral(CARAVEL_COMMAND), arguments);
+}
+
+std::unique_ptr<QProcess> ProgramHarness::startProgram(const QString &program,
+                                                       const QStringList &arguments)
+{
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(environment());
     process->setProcessChannelMode(QProcess::MergedChannels);
-    process->start(QStringLiteral(CARAVEL_COMMAND), arguments);
+    process->start(program, arguments);
     process->waitForStarted();
     return process;
 }
@@ -104,6 +128,19 @@ void ProgramHarness::insertStick() const
     writeFile(aside + QStringLiteral("/PSP/MUSIC/Old/stale.mp3"), "stale");
     writeFile(aside + QStringLiteral("/PSP/GAME/mine.pbp"), "mine");
     ASSERT_TRUE(QDir().rename(aside, stick()));
+}
+
+void ProgramHarness::insertUnformattedStick(const QString &name) const
+{
+    const QString aside = m_folder / QStringLiteral("unformatted");
+    writeFile(aside + QStringLiteral("/MEMSTICK.IND"), {});
+    ASSERT_TRUE(QDir().rename(aside, m_folder / QStringLiteral("volumes/") + name));
+}
+
+void ProgramHarness::refuseEject() const
+{
+    // The place that an ejected volume goes to is taken.
+    QDir().mkpath(m_folder / QStringLiteral("volumes/.ejected/MEMORYSTICK"));
 }
 
 void ProgramHarness::addTrack(const QString &name, const QByteArray &contents)

@@ -15,8 +15,16 @@ public:
     ProgramHarness();
     ~ProgramHarness();
 
+    static QString helperBusName();
+    /// A file of the helper's resources.
+    static QString resource(const QString &name);
+
+    /// What LC_ALL says to the programs started from here on.
+    void setLanguage(const QString &locale) { m_language = locale; }
     /// Starts the helper and waits until it is reached; on the folder of volumes unless `onMounts`.
     void startHelper(bool onMounts = false);
+    /// Starts a second helper beside it, which is gone with the object.
+    std::unique_ptr<QProcess> startAnotherHelper();
     /// Asks the helper to quit and returns its exit status; -1 when it crashed or never went.
     int stopHelper();
     bool helperLives() const { return m_helper.state() == QProcess::Running; }
@@ -40,6 +48,10 @@ public:
     QString stick(const QString &relative = {}) const;
     /// A stick as a PSP formats it, in the folder of volumes.
     void insertStick() const;
+    /// A stick that no PSP has formatted.
+    void insertUnformattedStick(const QString &name) const;
+    /// Lets the next eject fail.
+    void refuseEject() const;
     /// A file in the user's music with a track of it in the library; all tracks are in "Road Trip".
     void addTrack(const QString &name, const QByteArray &contents);
     void writeLibrary();
@@ -47,8 +59,11 @@ public:
 
 private:
     QProcessEnvironment environment() const;
+    QStringList volumesOption() const;
+    std::unique_ptr<QProcess> startProgram(const QString &program, const QStringList &arguments);
 
     TemporaryFolder m_folder;
+    QString m_language = QStringLiteral("C.UTF-8");
     QProcess m_helper;
     MusicLibraryFile m_library;
     QList<int> m_tracks;

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Menu.h"
+
+#include <functional>
+
+class CVSyncManager;
+
+/// The status item's menu: the status text, "Sync Now" (or "Cancel Sync"), "Eject PSP", "Open
+/// Caravel" and "Quit", kept in line with what the sync manager can do. Main thread.
+class StatusMenu
+{
+public:
+    struct Actions
+    {
+        std::function<void(const QString &title)> syncNow; ///< with the title that was chosen
+        std::function<void()> ejectPSP;
+        std::function<void()> openCaravel;
+        std::function<void()> quit;
+    };
+    /// The manager is not owned and outlives the menu.
+    StatusMenu(CVSyncManager &manager, Actions actions);
+
+    Menu &menu() { return m_menu; }
+
+    void setStatusText(const QString &text);
+
+    /// Validates every item; whoever shows the menu asks for it too.
+    void update();
+
+    /// Whether the item is enabled; may retitle it.
+    bool validateMenuItem(int index);
+
+private:
+    CVSyncManager &m_manager;
+    Menu m_menu;
+};

@@ -1,0 +1,214 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message>
+        <source>Sync Now</source>
+        <translation>Jetzt synchronisieren</translation>
+    </message>
+    <message>
+        <source>Cancel Sync</source>
+        <translation>Synchronisierung abbrechen</translation>
+    </message>
+    <message>
+        <source>Eject PSP</source>
+        <translation>PSP auswerfen</translation>
+    </message>
+    <message>
+        <source>Open Caravel</source>
+        <translation>Caravel öffnen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Initializing...</source>
+        <translation>Wird initialisiert …</translation>
+    </message>
+    <message>
+        <source>No PSP Connected</source>
+        <translation>Keine PSP verbunden</translation>
+    </message>
+    <message>
+        <source>Connect a PSP to perform a sync.</source>
+        <translation>Verbinden Sie eine PSP, um zu synchronisieren.</translation>
+    </message>
+    <message>
+        <source>%@ Available</source>
+        <extracomment>The free space of the PSP.</extracomment>
+        <translation>%@ verfügbar</translation>
+    </message>
+    <message>
+        <source>Click &quot;Sync Now&quot; to perform a sync.</source>
+        <translation>Klicken Sie auf „Jetzt synchronisieren“, um zu synchronisieren.</translation>
+    </message>
+    <message>
+        <source>Last Sync: %@</source>
+        <extracomment>The day and the time, or &quot;Never&quot;.</extracomment>
+        <translation>Letzte Synchronisierung: %@</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <extracomment>In the place of the last sync&apos;s date.</extracomment>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>heute</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>morgen</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>gestern</translation>
+    </message>
+    <message>
+        <source>Preparing to Sync...</source>
+        <translation>Synchronisierung wird vorbereitet …</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is gathering information...</source>
+        <translation>Einen Moment, Caravel sammelt Informationen …</translation>
+    </message>
+    <message>
+        <source>Cleaning Up...</source>
+        <translation>Aufräumen …</translation>
+    </message>
+    <message>
+        <source>Caravel is removing unneeded files...</source>
+        <translation>Caravel entfernt nicht mehr benötigte Dateien …</translation>
+    </message>
+    <message>
+        <source>Starting Sync...</source>
+        <translation>Synchronisierung wird gestartet …</translation>
+    </message>
+    <message>
+        <source>Caravel is copying selected files...</source>
+        <translation>Caravel kopiert die ausgewählten Dateien …</translation>
+    </message>
+    <message>
+        <source>Syncing %@...</source>
+        <extracomment>The kind of media, as &quot;Music&quot;.</extracomment>
+        <translation>Synchronisierung: %@ …</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Conversion in progress...</source>
+        <translation>Konvertierung läuft …</translation>
+    </message>
+    <message>
+        <source>Cancelling Sync...</source>
+        <translation>Synchronisierung wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>Please wait while Caravel completes the previous task...</source>
+        <translation>Bitte warten Sie, bis Caravel den laufenden Vorgang abgeschlossen hat …</translation>
+    </message>
+    <message>
+        <source>Sync Successful</source>
+        <translation>Synchronisierung erfolgreich</translation>
+    </message>
+    <message>
+        <source>Sync Cancelled</source>
+        <translation>Synchronisierung abgebrochen</translation>
+    </message>
+    <message>
+        <source>Sync was cancelled.</source>
+        <extracomment>A line of the log.</extracomment>
+        <translation>Die Synchronisierung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>You must re-sync to ensure the PSP is up to date.</source>
+        <translation>Synchronisieren Sie erneut, damit die PSP auf dem neuesten Stand ist.</translation>
+    </message>
+    <message>
+        <source>Ejecting PSP...</source>
+        <translation>PSP wird ausgeworfen …</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is preparing your PSP for ejection...</source>
+        <translation>Einen Moment, Caravel bereitet Ihre PSP auf das Auswerfen vor …</translation>
+    </message>
+    <message>
+        <source>Eject Failed</source>
+        <translation>Auswerfen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The PSP may be in use by another application.</source>
+        <translation>Die PSP wird möglicherweise von einer anderen Anwendung verwendet.</translation>
+    </message>
+    <message>
+        <source>Unformatted memory stick found!</source>
+        <translation>Nicht formatierter Memory Stick gefunden!</translation>
+    </message>
+    <message>
+        <source>A Memory Stick was found, however it is not formatted for use with a PSP.
+
+If you intend to use this Memory Stick with the PSP and Caravel, you must first format it from the PSP&apos;s main menu.</source>
+        <translation>Es wurde ein Memory Stick gefunden, der jedoch nicht für die Verwendung mit einer PSP formatiert ist.
+
+Wenn Sie diesen Memory Stick mit der PSP und Caravel verwenden möchten, müssen Sie ihn zuerst über das Hauptmenü der PSP formatieren.</translation>
+    </message>
+    <message>
+        <source>Sync too large!</source>
+        <translation>Synchronisierung zu umfangreich!</translation>
+    </message>
+    <message>
+        <source>You are attempting to sync %@, however only %@ of free space is available on the Memory Stick currently in your PSP.
+
+Please deselect some media to ensure the sync can be completed.</source>
+        <extracomment>First the size of the sync, then the free space: keep the order.</extracomment>
+        <translation>Sie möchten %@ synchronisieren, auf dem Memory Stick in Ihrer PSP sind jedoch nur %@ frei.
+
+Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen werden kann.</translation>
+    </message>
+    <message>
+        <source>Memory stick full!</source>
+        <translation>Memory Stick voll!</translation>
+    </message>
+    <message>
+        <source>The Memory Stick currently inside your PSP has been filled. You must deselect some media to free enough space to complete a sync.</source>
+        <translation>Der Memory Stick in Ihrer PSP ist voll. Wählen Sie weniger Medien aus, damit genügend Platz für eine vollständige Synchronisierung frei wird.</translation>
+    </message>
+    <message>
+        <source>--</source>
+        <extracomment>In the place of a size where there is none.</extracomment>
+        <translation>--</translation>
+    </message>
+    <message>
+        <source>%0.0f b</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.0f Byte</translation>
+    </message>
+    <message>
+        <source>%0.1f KB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f KB</translation>
+    </message>
+    <message>
+        <source>%0.1f MB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f MB</translation>
+    </message>
+    <message>
+        <source>%0.1f GB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f GB</translation>
+    </message>
+    <message>
+        <source>%0.1f TB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f TB</translation>
+    </message>
+</context>
+</TS>

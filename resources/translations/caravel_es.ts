@@ -1,0 +1,214 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name></name>
+    <message>
+        <source>Sync Now</source>
+        <translation>Sincronizar ahora</translation>
+    </message>
+    <message>
+        <source>Cancel Sync</source>
+        <translation>Cancelar sincronización</translation>
+    </message>
+    <message>
+        <source>Eject PSP</source>
+        <translation>Expulsar PSP</translation>
+    </message>
+    <message>
+        <source>Open Caravel</source>
+        <translation>Abrir Caravel</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Initializing...</source>
+        <translation>Inicializando…</translation>
+    </message>
+    <message>
+        <source>No PSP Connected</source>
+        <translation>No hay ninguna PSP conectada</translation>
+    </message>
+    <message>
+        <source>Connect a PSP to perform a sync.</source>
+        <translation>Conecte una PSP para iniciar una sincronización.</translation>
+    </message>
+    <message>
+        <source>%@ Available</source>
+        <extracomment>The free space of the PSP.</extracomment>
+        <translation>%@ disponibles</translation>
+    </message>
+    <message>
+        <source>Click &quot;Sync Now&quot; to perform a sync.</source>
+        <translation>Haga clic en «Sincronizar ahora» para iniciar una sincronización.</translation>
+    </message>
+    <message>
+        <source>Last Sync: %@</source>
+        <extracomment>The day and the time, or &quot;Never&quot;.</extracomment>
+        <translation>Última sincronización: %@</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <extracomment>In the place of the last sync&apos;s date.</extracomment>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>hoy</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>mañana</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>ayer</translation>
+    </message>
+    <message>
+        <source>Preparing to Sync...</source>
+        <translation>Preparando la sincronización…</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is gathering information...</source>
+        <translation>Un momento, Caravel está recopilando información…</translation>
+    </message>
+    <message>
+        <source>Cleaning Up...</source>
+        <translation>Limpiando…</translation>
+    </message>
+    <message>
+        <source>Caravel is removing unneeded files...</source>
+        <translation>Caravel está eliminando los archivos innecesarios…</translation>
+    </message>
+    <message>
+        <source>Starting Sync...</source>
+        <translation>Iniciando la sincronización…</translation>
+    </message>
+    <message>
+        <source>Caravel is copying selected files...</source>
+        <translation>Caravel está copiando los archivos seleccionados…</translation>
+    </message>
+    <message>
+        <source>Syncing %@...</source>
+        <extracomment>The kind of media, as &quot;Music&quot;.</extracomment>
+        <translation>Sincronizando: %@…</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Conversion in progress...</source>
+        <translation>Conversión en curso…</translation>
+    </message>
+    <message>
+        <source>Cancelling Sync...</source>
+        <translation>Cancelando la sincronización…</translation>
+    </message>
+    <message>
+        <source>Please wait while Caravel completes the previous task...</source>
+        <translation>Espere a que Caravel termine la tarea en curso…</translation>
+    </message>
+    <message>
+        <source>Sync Successful</source>
+        <translation>Sincronización completada</translation>
+    </message>
+    <message>
+        <source>Sync Cancelled</source>
+        <translation>Sincronización cancelada</translation>
+    </message>
+    <message>
+        <source>Sync was cancelled.</source>
+        <extracomment>A line of the log.</extracomment>
+        <translation>Se ha cancelado la sincronización.</translation>
+    </message>
+    <message>
+        <source>You must re-sync to ensure the PSP is up to date.</source>
+        <translation>Vuelva a sincronizar para que la PSP esté actualizada.</translation>
+    </message>
+    <message>
+        <source>Ejecting PSP...</source>
+        <translation>Expulsando la PSP…</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is preparing your PSP for ejection...</source>
+        <translation>Un momento, Caravel está preparando la PSP para su expulsión…</translation>
+    </message>
+    <message>
+        <source>Eject Failed</source>
+        <translation>Error al expulsar</translation>
+    </message>
+    <message>
+        <source>The PSP may be in use by another application.</source>
+        <translation>Es posible que otra aplicación esté utilizando la PSP.</translation>
+    </message>
+    <message>
+        <source>Unformatted memory stick found!</source>
+        <translation>¡Se ha encontrado un Memory Stick sin formatear!</translation>
+    </message>
+    <message>
+        <source>A Memory Stick was found, however it is not formatted for use with a PSP.
+
+If you intend to use this Memory Stick with the PSP and Caravel, you must first format it from the PSP&apos;s main menu.</source>
+        <translation>Se ha encontrado un Memory Stick, pero no está formateado para su uso con una PSP.
+
+Si desea utilizar este Memory Stick con la PSP y Caravel, primero debe formatearlo desde el menú principal de la PSP.</translation>
+    </message>
+    <message>
+        <source>Sync too large!</source>
+        <translation>¡Sincronización demasiado grande!</translation>
+    </message>
+    <message>
+        <source>You are attempting to sync %@, however only %@ of free space is available on the Memory Stick currently in your PSP.
+
+Please deselect some media to ensure the sync can be completed.</source>
+        <extracomment>First the size of the sync, then the free space: keep the order.</extracomment>
+        <translation>Intenta sincronizar %@, pero solo quedan %@ libres en el Memory Stick que se encuentra en su PSP.
+
+Deseleccione algunos elementos multimedia para que la sincronización pueda completarse.</translation>
+    </message>
+    <message>
+        <source>Memory stick full!</source>
+        <translation>¡Memory Stick lleno!</translation>
+    </message>
+    <message>
+        <source>The Memory Stick currently inside your PSP has been filled. You must deselect some media to free enough space to complete a sync.</source>
+        <translation>El Memory Stick que se encuentra en su PSP se ha llenado. Debe deseleccionar algunos elementos multimedia para liberar espacio suficiente y completar una sincronización.</translation>
+    </message>
+    <message>
+        <source>--</source>
+        <extracomment>In the place of a size where there is none.</extracomment>
+        <translation>--</translation>
+    </message>
+    <message>
+        <source>%0.0f b</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.0f bytes</translation>
+    </message>
+    <message>
+        <source>%0.1f KB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f KB</translation>
+    </message>
+    <message>
+        <source>%0.1f MB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f MB</translation>
+    </message>
+    <message>
+        <source>%0.1f GB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f GB</translation>
+    </message>
+    <message>
+        <source>%0.1f TB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f TB</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,214 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message>
+        <source>Sync Now</source>
+        <translation>Synchroniser maintenant</translation>
+    </message>
+    <message>
+        <source>Cancel Sync</source>
+        <translation>Annuler la synchronisation</translation>
+    </message>
+    <message>
+        <source>Eject PSP</source>
+        <translation>Éjecter la PSP</translation>
+    </message>
+    <message>
+        <source>Open Caravel</source>
+        <translation>Ouvrir Caravel</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Initializing...</source>
+        <translation>Initialisation…</translation>
+    </message>
+    <message>
+        <source>No PSP Connected</source>
+        <translation>Aucune PSP connectée</translation>
+    </message>
+    <message>
+        <source>Connect a PSP to perform a sync.</source>
+        <translation>Connectez une PSP pour lancer une synchronisation.</translation>
+    </message>
+    <message>
+        <source>%@ Available</source>
+        <extracomment>The free space of the PSP.</extracomment>
+        <translation>%@ disponibles</translation>
+    </message>
+    <message>
+        <source>Click &quot;Sync Now&quot; to perform a sync.</source>
+        <translation>Cliquez sur « Synchroniser maintenant » pour lancer une synchronisation.</translation>
+    </message>
+    <message>
+        <source>Last Sync: %@</source>
+        <extracomment>The day and the time, or &quot;Never&quot;.</extracomment>
+        <translation>Dernière synchronisation : %@</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <extracomment>In the place of the last sync&apos;s date.</extracomment>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>aujourd’hui</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>demain</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>hier</translation>
+    </message>
+    <message>
+        <source>Preparing to Sync...</source>
+        <translation>Préparation de la synchronisation…</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is gathering information...</source>
+        <translation>Un instant, Caravel recueille les informations nécessaires…</translation>
+    </message>
+    <message>
+        <source>Cleaning Up...</source>
+        <translation>Nettoyage…</translation>
+    </message>
+    <message>
+        <source>Caravel is removing unneeded files...</source>
+        <translation>Caravel supprime les fichiers devenus inutiles…</translation>
+    </message>
+    <message>
+        <source>Starting Sync...</source>
+        <translation>Démarrage de la synchronisation…</translation>
+    </message>
+    <message>
+        <source>Caravel is copying selected files...</source>
+        <translation>Caravel copie les fichiers sélectionnés…</translation>
+    </message>
+    <message>
+        <source>Syncing %@...</source>
+        <extracomment>The kind of media, as &quot;Music&quot;.</extracomment>
+        <translation>Synchronisation : %@…</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musique</translation>
+    </message>
+    <message>
+        <source>Conversion in progress...</source>
+        <translation>Conversion en cours…</translation>
+    </message>
+    <message>
+        <source>Cancelling Sync...</source>
+        <translation>Annulation de la synchronisation…</translation>
+    </message>
+    <message>
+        <source>Please wait while Caravel completes the previous task...</source>
+        <translation>Veuillez patienter pendant que Caravel termine l’opération en cours…</translation>
+    </message>
+    <message>
+        <source>Sync Successful</source>
+        <translation>Synchronisation réussie</translation>
+    </message>
+    <message>
+        <source>Sync Cancelled</source>
+        <translation>Synchronisation annulée</translation>
+    </message>
+    <message>
+        <source>Sync was cancelled.</source>
+        <extracomment>A line of the log.</extracomment>
+        <translation>La synchronisation a été annulée.</translation>
+    </message>
+    <message>
+        <source>You must re-sync to ensure the PSP is up to date.</source>
+        <translation>Relancez une synchronisation pour que la PSP soit à jour.</translation>
+    </message>
+    <message>
+        <source>Ejecting PSP...</source>
+        <translation>Éjection de la PSP…</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is preparing your PSP for ejection...</source>
+        <translation>Un instant, Caravel prépare l’éjection de votre PSP…</translation>
+    </message>
+    <message>
+        <source>Eject Failed</source>
+        <translation>Échec de l’éjection</translation>
+    </message>
+    <message>
+        <source>The PSP may be in use by another application.</source>
+        <translation>La PSP est peut-être utilisée par une autre application.</translation>
+    </message>
+    <message>
+        <source>Unformatted memory stick found!</source>
+        <translation>Memory Stick non formaté détecté !</translation>
+    </message>
+    <message>
+        <source>A Memory Stick was found, however it is not formatted for use with a PSP.
+
+If you intend to use this Memory Stick with the PSP and Caravel, you must first format it from the PSP&apos;s main menu.</source>
+        <translation>Un Memory Stick a été détecté, mais il n’est pas formaté pour être utilisé avec une PSP.
+
+Si vous souhaitez utiliser ce Memory Stick avec la PSP et Caravel, vous devez d’abord le formater depuis le menu principal de la PSP.</translation>
+    </message>
+    <message>
+        <source>Sync too large!</source>
+        <translation>Synchronisation trop volumineuse !</translation>
+    </message>
+    <message>
+        <source>You are attempting to sync %@, however only %@ of free space is available on the Memory Stick currently in your PSP.
+
+Please deselect some media to ensure the sync can be completed.</source>
+        <extracomment>First the size of the sync, then the free space: keep the order.</extracomment>
+        <translation>Vous tentez de synchroniser %@, mais il ne reste que %@ d’espace libre sur le Memory Stick actuellement inséré dans votre PSP.
+
+Veuillez désélectionner certains médias afin que la synchronisation puisse être menée à bien.</translation>
+    </message>
+    <message>
+        <source>Memory stick full!</source>
+        <translation>Memory Stick plein !</translation>
+    </message>
+    <message>
+        <source>The Memory Stick currently inside your PSP has been filled. You must deselect some media to free enough space to complete a sync.</source>
+        <translation>Le Memory Stick actuellement inséré dans votre PSP est plein. Vous devez désélectionner certains médias afin de libérer suffisamment d’espace pour terminer une synchronisation.</translation>
+    </message>
+    <message>
+        <source>--</source>
+        <extracomment>In the place of a size where there is none.</extracomment>
+        <translation>--</translation>
+    </message>
+    <message>
+        <source>%0.0f b</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.0f o</translation>
+    </message>
+    <message>
+        <source>%0.1f KB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f Ko</translation>
+    </message>
+    <message>
+        <source>%0.1f MB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f Mo</translation>
+    </message>
+    <message>
+        <source>%0.1f GB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f Go</translation>
+    </message>
+    <message>
+        <source>%0.1f TB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f To</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,214 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name></name>
+    <message>
+        <source>Sync Now</source>
+        <translation>今すぐ同期</translation>
+    </message>
+    <message>
+        <source>Cancel Sync</source>
+        <translation>同期をキャンセル</translation>
+    </message>
+    <message>
+        <source>Eject PSP</source>
+        <translation>PSP を取り出す</translation>
+    </message>
+    <message>
+        <source>Open Caravel</source>
+        <translation>Caravel を開く</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Initializing...</source>
+        <translation>初期化しています…</translation>
+    </message>
+    <message>
+        <source>No PSP Connected</source>
+        <translation>PSP が接続されていません</translation>
+    </message>
+    <message>
+        <source>Connect a PSP to perform a sync.</source>
+        <translation>同期するには PSP を接続してください。</translation>
+    </message>
+    <message>
+        <source>%@ Available</source>
+        <extracomment>The free space of the PSP.</extracomment>
+        <translation>空き容量: %@</translation>
+    </message>
+    <message>
+        <source>Click &quot;Sync Now&quot; to perform a sync.</source>
+        <translation>同期するには「今すぐ同期」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Last Sync: %@</source>
+        <extracomment>The day and the time, or &quot;Never&quot;.</extracomment>
+        <translation>前回の同期: %@</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <extracomment>In the place of the last sync&apos;s date.</extracomment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>今日</translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>明日</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
+        <translation>昨日</translation>
+    </message>
+    <message>
+        <source>Preparing to Sync...</source>
+        <translation>同期を準備しています…</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is gathering information...</source>
+        <translation>Caravel が情報を収集しています。しばらくお待ちください…</translation>
+    </message>
+    <message>
+        <source>Cleaning Up...</source>
+        <translation>クリーンアップしています…</translation>
+    </message>
+    <message>
+        <source>Caravel is removing unneeded files...</source>
+        <translation>Caravel が不要なファイルを削除しています…</translation>
+    </message>
+    <message>
+        <source>Starting Sync...</source>
+        <translation>同期を開始しています…</translation>
+    </message>
+    <message>
+        <source>Caravel is copying selected files...</source>
+        <translation>Caravel が選択されたファイルをコピーしています…</translation>
+    </message>
+    <message>
+        <source>Syncing %@...</source>
+        <extracomment>The kind of media, as &quot;Music&quot;.</extracomment>
+        <translation>%@ を同期しています…</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>ミュージック</translation>
+    </message>
+    <message>
+        <source>Conversion in progress...</source>
+        <translation>変換しています…</translation>
+    </message>
+    <message>
+        <source>Cancelling Sync...</source>
+        <translation>同期をキャンセルしています…</translation>
+    </message>
+    <message>
+        <source>Please wait while Caravel completes the previous task...</source>
+        <translation>Caravel が実行中の処理を終えるまでお待ちください…</translation>
+    </message>
+    <message>
+        <source>Sync Successful</source>
+        <translation>同期が完了しました</translation>
+    </message>
+    <message>
+        <source>Sync Cancelled</source>
+        <translation>同期がキャンセルされました</translation>
+    </message>
+    <message>
+        <source>Sync was cancelled.</source>
+        <extracomment>A line of the log.</extracomment>
+        <translation>同期はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>You must re-sync to ensure the PSP is up to date.</source>
+        <translation>PSP を最新の状態にするには、もう一度同期してください。</translation>
+    </message>
+    <message>
+        <source>Ejecting PSP...</source>
+        <translation>PSP を取り出しています…</translation>
+    </message>
+    <message>
+        <source>One moment, Caravel is preparing your PSP for ejection...</source>
+        <translation>Caravel が PSP の取り出しを準備しています。しばらくお待ちください…</translation>
+    </message>
+    <message>
+        <source>Eject Failed</source>
+        <translation>取り出しに失敗しました</translation>
+    </message>
+    <message>
+        <source>The PSP may be in use by another application.</source>
+        <translation>PSP がほかのアプリケーションで使用されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Unformatted memory stick found!</source>
+        <translation>フォーマットされていない Memory Stick が見つかりました</translation>
+    </message>
+    <message>
+        <source>A Memory Stick was found, however it is not formatted for use with a PSP.
+
+If you intend to use this Memory Stick with the PSP and Caravel, you must first format it from the PSP&apos;s main menu.</source>
+        <translation>Memory Stick が見つかりましたが、PSP で使用できるようにフォーマットされていません。
+
+この Memory Stick を PSP と Caravel で使用する場合は、先に PSP のメインメニューからフォーマットしてください。</translation>
+    </message>
+    <message>
+        <source>Sync too large!</source>
+        <translation>同期するデータが大きすぎます</translation>
+    </message>
+    <message>
+        <source>You are attempting to sync %@, however only %@ of free space is available on the Memory Stick currently in your PSP.
+
+Please deselect some media to ensure the sync can be completed.</source>
+        <extracomment>First the size of the sync, then the free space: keep the order.</extracomment>
+        <translation>%@ を同期しようとしていますが、現在 PSP に入っている Memory Stick の空き容量は %@ しかありません。
+
+同期を完了できるように、選択しているメディアを減らしてください。</translation>
+    </message>
+    <message>
+        <source>Memory stick full!</source>
+        <translation>Memory Stick がいっぱいです</translation>
+    </message>
+    <message>
+        <source>The Memory Stick currently inside your PSP has been filled. You must deselect some media to free enough space to complete a sync.</source>
+        <translation>現在 PSP に入っている Memory Stick がいっぱいになりました。同期を完了するには、選択しているメディアを減らして空き容量を増やしてください。</translation>
+    </message>
+    <message>
+        <source>--</source>
+        <extracomment>In the place of a size where there is none.</extracomment>
+        <translation>--</translation>
+    </message>
+    <message>
+        <source>%0.0f b</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.0f バイト</translation>
+    </message>
+    <message>
+        <source>%0.1f KB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f KB</translation>
+    </message>
+    <message>
+        <source>%0.1f MB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f MB</translation>
+    </message>
+    <message>
+        <source>%0.1f GB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f GB</translation>
+    </message>
+    <message>
+        <source>%0.1f TB</source>
+        <extracomment>The number takes the place of the format.</extracomment>
+        <translation>%0.1f TB</translation>
+    </message>
+</context>
+</TS>

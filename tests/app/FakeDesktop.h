@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/Alerts.h"
+#include "platform/Menu.h"
+#include "platform/Sounds.h"
+#include "platform/StatusItem.h"
+
+#include <QStringList>
+
+/// A tray that writes down what its item is told, as "image/alternate image".
+class FakeStatusBar : public StatusBar
+{
+public:
+    QStringList images;
+    int items = 0; ///< that exist now
+    bool enabled = false;
+    const Menu *menu = nullptr;
+
+    std::unique_ptr<StatusItem> makeStatusItem() override { return std::make_unique<Item>(*this); }
+
+private:
+    class Item : public StatusItem
+    {
+    public:
+        explicit Item(FakeStatusBar &bar)
+            : m_bar(bar)
+        {
+            ++m_bar.items;
+            m_bar.enabled = false;
+        }
+        ~Item() override { --m_bar.items; }
+        void setImage(const QString &name) override { m_image = name; }
+        void setAlternateImage(const QString &name) override
+        {
+            m_bar.images.append(m_image + u'/' + name);
+        }
+        void setMenu(Menu *menu) override { m_bar.menu = menu; }
+        void setEnabled(bool enabled) override { m_bar.enabled = enabled; }
+
+    private:
+        FakeStatusBar &m_bar;
+        QString m_image;
+    };
+};
+
+class FakeAlerts : public Alerts
+{
+public:
+    QStringList titles;
+    QString message; ///< the last one's
+    void show(const QString &title, const QString &text, AlertStyle) override
+    {
+        titles.append(title);
+        message = text;
+    }
+};
+
+class FakeSounds : public Sounds
+{
+public:
+    QStringList played;
+    void play(const QString &name) override { played.append(name); }
+};
