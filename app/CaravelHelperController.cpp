@@ -3,6 +3,7 @@
 #include "app/FrontEndProtocol.h"
 #include "app/Log.h"
 #include "app/PrefsController.h"
+#include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/FileManager.h"
@@ -37,6 +38,9 @@ ModuleFactory modules()
     factory.music = [](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncMusic>(delegate);
     };
+    factory.movies = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncMovies>(delegate);
+    };
     return factory;
 }
 
@@ -56,6 +60,8 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
                     openCaravel();
                 }})
     , m_lists(m_manager)
+    , m_movies({m_manager, m_logger, m_services.sounds, m_services.clock, *this,
+                m_services.bundle.resourcePath()})
     , m_loginItems(m_services.bundle, frontEndPath())
 {
     m_logger.setDelegate(this);
@@ -71,13 +77,13 @@ StatusMenu::Actions CaravelHelperController::menuActions()
     actions.syncNow = [this](const QString &title) {
         syncNow({{QStringLiteral("title"), title}});
     };
-    actions.ejectPSP = [this] {
+    actions.ejectPSP = [this](const QString &) {
         ejectPSP();
     };
-    actions.openCaravel = [this] {
+    actions.openCaravel = [this](const QString &) {
         openCaravel();
     };
-    actions.quit = [this] {
+    actions.quit = [this](const QString &) {
         requestQuit();
     };
     return actions;
@@ -111,7 +117,6 @@ void CaravelHelperController::initialize()
         qCWarning(lcApp).noquote() << "Another process has the connection name" << name
                                    << "; this one is reached when that one leaves";
     m_status.setInitialTexts();
-    m_percentConverted = localized("Conversion in progress...");
 }
 
 void CaravelHelperController::setUp()
@@ -129,6 +134,8 @@ void CaravelHelperController::setUp()
 
 void CaravelHelperController::changeStartOnLogin()
 {
+    if (m_isQuitting)
+        return;
     m_services.clock.sleep(storeDelay);
     UserDefaults::standard().synchronize();
     const bool startOnLogin = UserDefaults::standard().boolForKey(QStringLiteral("startOnLogin"));
@@ -159,10 +166,17 @@ void CaravelHelperController::logChanged(const QString &line)
     m_frontEnd.writeToLog(line);
 }
 
+void CaravelHelperController::movieAlert(const QString &title, const QString &message)
+{
+    m_status.doAlert(title, message, AlertStyle::Warning);
+}
+
 // --- The front-end
 
 void CaravelHelperController::setApplication(const QString &address, const QString &objectPath)
 {
+    if (m_isQuitting)
+        return;
     m_frontEnd.connectTo(address, objectPath);
     logDetail(QStringLiteral("Caravel front-end has connected."));
 }
@@ -184,6 +198,8 @@ void CaravelHelperController::frontEndIsGone()
 
 void CaravelHelperController::openCaravel()
 {
+    if (m_isQuitting)
+        return;
     logDetail(QStringLiteral("Launching Caravel front-end..."));
     Workspace::openFile(frontEndPath());
 }
@@ -231,6 +247,7 @@ void CaravelHelperController::terminate()
 {
     if (std::exchange(m_isQuitting, true))
         return;
+    m_movies.close();
     logDetail(QStringLiteral("Helper quitting..."));
     m_icon.disable();
     quit();

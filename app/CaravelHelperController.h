@@ -6,6 +6,7 @@
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
 #include "app/SyncStatus.h"
+#include "modules/MovieQueue.h"
 #include "platform/Bundle.h"
 #include "platform/NamedConnection.h"
 #include "sync/CVSyncManager.h"
@@ -18,7 +19,7 @@
 
 /// The helper itself: brings its parts up and down, and does what a front-end or a menu asks for.
 /// Main thread.
-class CaravelHelperController : public QObject, private QMLoggerDelegate
+class CaravelHelperController : public QObject, private QMLoggerDelegate, private MovieQueueDelegate
 {
     Q_OBJECT
 public:
@@ -44,8 +45,7 @@ public:
     CVSyncManager &syncManager() { return m_manager; }
     SyncStatus &status() { return m_status; }
     SelectionLists &lists() { return m_lists; }
-    /// How far a conversion is, as a text for the user.
-    QString percentConverted() const { return m_percentConverted; }
+    MovieQueue &movies() { return m_movies; }
 
     void setApplication(const QString &address, const QString &objectPath);
     /// A front-end says that it quits; the helper goes too unless it starts at login.
@@ -74,6 +74,11 @@ Q_SIGNALS:
     void finished();
 
 private:
+    void reloadMoviesView() override { m_frontEnd.reloadMoviesView(); }
+    void startConversionAnimation() override { m_frontEnd.startConversionAnimation(); }
+    void stopConversionAnimation() override { m_frontEnd.stopConversionAnimation(); }
+    void movieAlert(const QString &title, const QString &message) override;
+
     void initialize();
     void setUp();
     void createFolders();
@@ -92,8 +97,8 @@ private:
     StatusIcon m_icon;
     SyncStatus m_status;
     SelectionLists m_lists;
+    MovieQueue m_movies;
     const LoginItems m_loginItems;
     NamedConnection m_helperConnection;
-    QString m_percentConverted;
     bool m_isQuitting = false;
 };

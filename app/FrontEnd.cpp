@@ -11,6 +11,7 @@ FrontEnd::~FrontEnd() = default;
 
 void FrontEnd::connectTo(const QString &address, const QString &objectPath)
 {
+    disconnect();
     m_remote = std::make_unique<RemoteObject>(address, objectPath,
                                               QStringLiteral("org.caravel.CaravelFrontEnd"));
     connect(m_remote.get(), &RemoteObject::vanished, this, &FrontEnd::vanished);
@@ -21,9 +22,12 @@ void FrontEnd::connectTo(const QString &address, const QString &objectPath)
 
 void FrontEnd::disconnect()
 {
+    if (!m_remote)
+        return;
+    // What it still has to say is not about the next one.
+    QObject::disconnect(m_remote.get(), nullptr, this, nullptr);
     // It may be this very object whose signal is being handled.
-    if (m_remote)
-        m_remote.release()->deleteLater();
+    m_remote.release()->deleteLater();
 }
 
 bool FrontEnd::isAt(const QString &address) const
@@ -86,4 +90,19 @@ void FrontEnd::pspDidUnmount() const
 void FrontEnd::writeToLog(const QString &line) const
 {
     send(QStringLiteral("writeToLog"), {line});
+}
+
+void FrontEnd::reloadMoviesView() const
+{
+    send(QStringLiteral("reloadMoviesView"));
+}
+
+void FrontEnd::startConversionAnimation() const
+{
+    send(QStringLiteral("startConversionAnimation"));
+}
+
+void FrontEnd::stopConversionAnimation() const
+{
+    send(QStringLiteral("stopConversionAnimation"));
 }

@@ -38,6 +38,9 @@ public:
     void pspDidMount() const;
     void pspDidUnmount() const;
     void writeToLog(const QString &line) const;
+    void reloadMoviesView() const;
+    void startConversionAnimation() const;
+    void stopConversionAnimation() const;
 
 Q_SIGNALS:
     /// The connected front-end's process has left without a word.

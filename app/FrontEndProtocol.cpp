@@ -111,7 +111,7 @@ void addState(Table &table, CaravelHelperController &helper)
     table.command("setIsInteractive", {{"b", "interactive"}}, [&status](Request request) {
         status.setIsInteractive(request.arguments.first().toBool());
     });
-    table.query("percentConverted", "s", [&helper] { return helper.percentConverted(); });
+    table.query("percentConverted", "s", [&helper] { return helper.movies().percentConverted(); });
     table.oneway("changeStartOnLogin", {}, [&helper](Request) { helper.changeStartOnLogin(); });
     table.command("clearLog", {}, [&helper](Request) { helper.logger().clear(); });
 }
@@ -161,15 +161,21 @@ void addLists(Table &table, SelectionLists &lists)
                  &SelectionLists::setSelectedBookmarksIdentifiers);
 }
 
-void addMovies(Table &table, SelectionLists &lists)
+void addMovies(Table &table, MovieQueue &movies, SelectionLists &lists)
 {
-    table.query("moviesItems", "aa{sv}", noRows);
+    table.query("moviesItems", "aa{sv}", [&movies] { return movies.moviesItems(); });
     addSelection(table, "setSelectedMoviesIdentifiers", lists,
                  &SelectionLists::setSelectedMoviesIdentifiers);
-    table.query("isConvertingMovie", "b", [] { return false; });
-    table.command("addMoviesFromArray", {{"as", "paths"}}, passOver);
-    table.command("removeMovieItem", {movie}, passOver);
-    table.command("renameMovieItem", {movie, {"s", "newName"}}, passOver);
+    table.query("isConvertingMovie", "b", [&movies] { return movies.isConvertingMovie(); });
+    table.command("addMoviesFromArray", {{"as", "paths"}}, [&movies](Request request) {
+        movies.addMoviesFromArray(request.arguments.first().toStringList());
+    });
+    table.command("removeMovieItem", {movie}, [&movies](Request request) {
+        movies.removeMovieItem(request.arguments.first().toMap());
+    });
+    table.command("renameMovieItem", {movie, {"s", "newName"}}, [&movies](Request request) {
+        movies.renameMovieItem(request.arguments[0].toMap(), request.arguments[1].toString());
+    });
 }
 
 void addBackups(Table &table, CaravelHelperController &helper)
@@ -194,7 +200,7 @@ std::vector<RemoteMethod> methods(CaravelHelperController &controller)
     addState(table, controller);
     addEstimate(table, controller.syncManager());
     addLists(table, controller.lists());
-    addMovies(table, controller.lists());
+    addMovies(table, controller.movies(), controller.lists());
     addBackups(table, controller);
     return table.take();
 }

@@ -1,6 +1,7 @@
 #include "app/SelectionLists.h"
 
 #include "app/Log.h"
+#include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
 #include "sync/CVSyncManager.h"
 #include "sync/ModuleSelection.h"
@@ -43,12 +44,7 @@ QVariantMap row(const MusicLibrary::Playlist &playlist, const QSet<QString> &sel
     return row;
 }
 
-// What comes over the bus may name anything.
-bool isName(const QString &identifier)
-{
-    return !identifier.isEmpty();
-}
-
+// What comes over the bus may name anything. Slashes in names are the user's own.
 bool isRelativePath(const QString &identifier)
 {
     const QStringList components = identifier.split(u'/');
@@ -96,22 +92,22 @@ void SelectionLists::setSelected(const QString &moduleSaveName, const QStringLis
 
 void SelectionLists::setSelectedMusicIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(CVSyncMusic::saveName(), identifiers, isName);
+    setSelected(CVSyncMusic::saveName(), identifiers, isRelativePath);
 }
 
 void SelectionLists::setSelectedPhotosIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(QStringLiteral("Photos"), identifiers, isName);
+    setSelected(QStringLiteral("Photos"), identifiers, isRelativePath);
 }
 
 void SelectionLists::setSelectedBookmarksIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(QStringLiteral("Bookmarks"), identifiers, isName);
+    setSelected(QStringLiteral("Bookmarks"), identifiers, isRelativePath);
 }
 
 void SelectionLists::setSelectedMoviesIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(QStringLiteral("Movies"), identifiers, isMovie);
+    setSelected(CVSyncMovies::saveName(), identifiers, isMovie);
 }
 
 void SelectionLists::setSelectedBackupIdentifiers(const QStringList &identifiers) const

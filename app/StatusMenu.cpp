@@ -6,7 +6,6 @@
 namespace {
 
 constexpr int statusItem = 0;
-constexpr int syncItem = 1;
 
 } // namespace
 
@@ -14,9 +13,7 @@ StatusMenu::StatusMenu(CVSyncManager &manager, Actions actions)
     : m_manager(manager)
 {
     m_menu.addItem({QString(), {}});
-    m_menu.addItem({localized("Sync Now"), [this, syncNow = std::move(actions.syncNow)] {
-                        syncNow(m_menu.itemAtIndex(syncItem).title);
-                    }});
+    m_menu.addItem({localized("Sync Now"), std::move(actions.syncNow)});
     m_menu.addItem({localized("Eject PSP"), std::move(actions.ejectPSP)});
     m_menu.addItem({localized("Open Caravel"), std::move(actions.openCaravel)});
     m_menu.addItem({localized("Quit"), std::move(actions.quit)});

@@ -11,12 +11,14 @@ class CVSyncManager;
 class StatusMenu
 {
 public:
+    /// Each is called with the title that was chosen.
     struct Actions
     {
-        std::function<void(const QString &title)> syncNow; ///< with the title that was chosen
-        std::function<void()> ejectPSP;
-        std::function<void()> openCaravel;
-        std::function<void()> quit;
+        using Action = std::function<void(const QString &title)>;
+        Action syncNow;
+        Action ejectPSP;
+        Action openCaravel;
+        Action quit;
     };
     /// The manager is not owned and outlives the menu.
     StatusMenu(CVSyncManager &manager, Actions actions);

@@ -37,8 +37,6 @@ FrontEndObject::~FrontEndObject()
 std::vector<RemoteMethod> FrontEndObject::methods()
 {
     const QString string = QStringLiteral("s");
-    const auto nothing = [] {
-    };
     return {
         {QStringLiteral("isOpen"),
          {},
@@ -64,9 +62,8 @@ std::vector<RemoteMethod> FrontEndObject::methods()
         notice(u"pspDidUnmount", [this] { Q_EMIT pspDidUnmount(); }),
         notice(u"writeToLog", {string}, {QStringLiteral("line")},
                [this](const QVariantList &arguments) { Q_EMIT logLine(arguments[0].toString()); }),
-        // A command line shows neither a list of movies nor an animation.
-        notice(u"reloadMoviesView", nothing),
-        notice(u"startConversionAnimation", nothing),
-        notice(u"stopConversionAnimation", nothing),
+        notice(u"reloadMoviesView", [this] { Q_EMIT changed(); }),
+        notice(u"startConversionAnimation", [this] { Q_EMIT changed(); }),
+        notice(u"stopConversionAnimation", [this] { Q_EMIT changed(); }),
     };
 }

@@ -120,6 +120,8 @@ HelperState HelperClient::state()
         .statusSubText = askText(QStringLiteral("statusSubText")),
         .syncBytes = askCount(QStringLiteral("syncBytes")),
         .syncBytesTotal = askCount(QStringLiteral("syncBytesTotal")),
+        .converting = askBool(QStringLiteral("isConvertingMovie")),
+        .percentConverted = askText(QStringLiteral("percentConverted")),
     };
 }
 

@@ -19,6 +19,8 @@ struct HelperState
     QString statusSubText;
     quint64 syncBytes = 0;
     quint64 syncBytesTotal = 0;
+    bool converting = false; ///< a movie is being converted
+    QString percentConverted;
 
     bool operator==(const HelperState &) const = default;
 };

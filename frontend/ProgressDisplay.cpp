@@ -136,6 +136,10 @@ QStringList LineDisplay::lines(const HelperState &state)
     if (text != m_text)
         added.append(Output::printable(text));
     m_text = text;
+    const QString conversion = state.converting ? state.percentConverted : QString();
+    if (m_subTexts == SubTexts::Show && !conversion.isEmpty() && conversion != m_conversion)
+        added.append(Output::printable(conversion));
+    m_conversion = conversion;
     const std::optional<int> done = ProgressText::percent(state);
     const int step = done.value_or(0) / 10;
     if (step > m_step)

@@ -67,7 +67,8 @@ public:
     static std::unique_ptr<ProgressDisplay> make();
 };
 
-/// Each new status text as a line, and the progress in steps of ten per cent.
+/// Each new status text as a line, and the progress in steps of ten per cent; with the subtexts
+/// also how far a movie's conversion is.
 class LineDisplay : public ProgressDisplay
 {
 public:
@@ -85,6 +86,7 @@ public:
 private:
     const SubTexts m_subTexts;
     QString m_text;
+    QString m_conversion;
     int m_step = 0; // last step shown, in tens of per cent
 };
 

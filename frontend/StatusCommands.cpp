@@ -48,6 +48,8 @@ void printStatus(const HelperState &state, bool firstSync, const Estimate &estim
     printField(u"Syncing:", Output::yesNo(state.syncing));
     if (ProgressText::percent(state))
         printField(u"Progress:", ProgressText::amount(state));
+    if (state.converting)
+        printField(u"Movies:", state.percentConverted);
     printField(u"First sync:", Output::yesNo(firstSync));
     printField(u"Selected:", estimateText(estimate));
 }
@@ -105,6 +107,8 @@ QJsonObject stateToJson(const HelperState &state)
         {QStringLiteral("isIndeterminate"), state.indeterminate},
         {QStringLiteral("syncBytes"), static_cast<qint64>(state.syncBytes)},
         {QStringLiteral("syncBytesTotal"), static_cast<qint64>(state.syncBytesTotal)},
+        {QStringLiteral("isConvertingMovie"), state.converting},
+        {QStringLiteral("percentConverted"), state.percentConverted},
     };
 }
 

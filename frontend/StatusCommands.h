@@ -6,7 +6,7 @@
 #include <QJsonObject>
 
 /// The state as JSON: "mounted", "statusText", "statusSubText", "syncing", "canCancelSync",
-/// "isIndeterminate", "syncBytes", "syncBytesTotal".
+/// "isIndeterminate", "syncBytes", "syncBytesTotal", "isConvertingMovie", "percentConverted".
 QJsonObject stateToJson(const HelperState &state);
 
 /// `caravel status`.

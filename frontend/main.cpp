@@ -1,4 +1,5 @@
 #include "frontend/ListCommands.h"
+#include "frontend/MovieCommands.h"
 #include "frontend/Output.h"
 #include "frontend/PrefsCommand.h"
 #include "frontend/StatusCommands.h"
@@ -33,6 +34,8 @@ struct Arguments
     bool all = false;
     bool none = false;
     std::string kind;
+    std::string id;
+    std::string title;
     std::vector<std::string> words;
 };
 
@@ -45,12 +48,14 @@ public:
 private:
     using Command = std::function<ExitStatus()>;
 
-    CLI::App *add(const std::string &name, const std::string &description, Command command);
+    CLI::App *add(CLI::App &parent, const std::string &name, const std::string &description,
+                  Command command);
     CLI::App *addReading(const std::string &name, const std::string &description, Command command);
     void addLog();
     void addSync();
     void addList();
     void addSelect();
+    void addMovies();
     void addPrefs();
     ExitStatus select() const;
 
@@ -70,18 +75,20 @@ CommandLine::CommandLine()
                [this] { return runWatch(m_arguments.json); });
     addLog();
     addSync();
-    add("cancel", "Cancel the running sync", [] { return runCancel(); });
-    add("eject", "Eject the PSP", [] { return runEject(); });
+    add(m_app, "cancel", "Cancel the running sync", [] { return runCancel(); });
+    add(m_app, "eject", "Eject the PSP", [] { return runEject(); });
     addReading("estimate", "Estimate how much of the PSP the selection takes",
                [this] { return runEstimate(m_arguments.json); });
     addList();
     addSelect();
+    addMovies();
     addPrefs();
 }
 
-CLI::App *CommandLine::add(const std::string &name, const std::string &description, Command command)
+CLI::App *CommandLine::add(CLI::App &parent, const std::string &name,
+                           const std::string &description, Command command)
 {
-    CLI::App *subcommand = m_app.add_subcommand(name, description);
+    CLI::App *subcommand = parent.add_subcommand(name, description);
     subcommand->callback([this, command = std::move(command)] { m_chosen = command; });
     return subcommand;
 }
@@ -89,7 +96,7 @@ CLI::App *CommandLine::add(const std::string &name, const std::string &descripti
 CLI::App *CommandLine::addReading(const std::string &name, const std::string &description,
                                   Command command)
 {
-    CLI::App *subcommand = add(name, description, std::move(command));
+    CLI::App *subcommand = add(m_app, name, description, std::move(command));
     subcommand->add_flag("--json", m_arguments.json, "Print JSON");
     return subcommand;
 }
@@ -107,7 +114,7 @@ void CommandLine::addLog()
 
 void CommandLine::addSync()
 {
-    CLI::App *sync = add("sync", "Sync now; Ctrl-C cancels the sync",
+    CLI::App *sync = add(m_app, "sync", "Sync now; Ctrl-C cancels the sync",
                          [this] { return runSync(!m_arguments.noWait); });
     sync->add_flag("--no-wait", m_arguments.noWait, "Return once the sync was asked for");
 }
@@ -132,7 +139,7 @@ void CommandLine::addList()
 void CommandLine::addSelect()
 {
     CLI::App *select =
-        add("select", "Select what is synced: the NAMEs, or change the selection by them",
+        add(m_app, "select", "Select what is synced: the NAMEs, or change the selection by them",
             [this] { return this->select(); });
     addKind(*select, m_arguments.kind);
     CLI::Option *names = select->add_option("NAME", m_arguments.words, "Names or identifiers");
@@ -143,6 +150,27 @@ void CommandLine::addSelect()
     CLI::Option *none = select->add_flag("--none", m_arguments.none, "Select nothing");
     all->excludes(add)->excludes(remove)->excludes(names);
     none->excludes(add)->excludes(remove)->excludes(names)->excludes(all);
+}
+
+void CommandLine::addMovies()
+{
+    CLI::App &movies = *m_app.add_subcommand("movies", "Add, remove and rename movies");
+    movies.require_subcommand(1);
+    add(movies, "add", "Convert movies for the PSP and select them",
+        [this] { return runAddMovies(toTexts(m_arguments.words)); })
+        ->add_option("FILE", m_arguments.words, "Movies")
+        ->required();
+    CLI::App *remove = add(movies, "remove", "Remove a movie, or take it out of the queue", [this] {
+        return runRemoveMovie(QString::fromLocal8Bit(m_arguments.id));
+    });
+    CLI::App *rename = add(movies, "rename", "Give a movie another title", [this] {
+        return runRenameMovie(QString::fromLocal8Bit(m_arguments.id),
+                              QString::fromLocal8Bit(m_arguments.title));
+    });
+    for (CLI::App *command : {remove, rename})
+        command->add_option("ID", m_arguments.id, "Identifier, or a name that only one movie has")
+            ->required();
+    rename->add_option("TITLE", m_arguments.title, "The new title")->required();
 }
 
 void CommandLine::addPrefs()

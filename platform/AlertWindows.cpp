@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTextDocument>
 
 namespace {
 
@@ -34,7 +35,8 @@ public:
         QPointer<QMessageBox> &window = m_windows[title];
         if (!window)
             window = newWindow(title);
-        window->setInformativeText(message);
+        // The box asks for no text format here: it would take what looks like markup for it.
+        window->setInformativeText(Qt::convertFromPlainText(message));
         window->setIcon(icon(style));
         window->show();
         window->raise();
@@ -47,7 +49,7 @@ private:
         auto *window = new QMessageBox;
         window->setAttribute(Qt::WA_DeleteOnClose);
         window->setWindowTitle(QStringLiteral("Caravel"));
-        window->setTextFormat(Qt::PlainText); // names in it may look like markup
+        window->setTextFormat(Qt::PlainText);
         window->setText(title);
         window->setModal(false);
         return window;

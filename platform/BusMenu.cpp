@@ -256,6 +256,8 @@ QDBusVariant BusMenu::Object::GetProperty(int id, const QString &name)
 
 void BusMenu::Object::Event(int id, const QString &eventId, const QDBusVariant &, uint)
 {
+    if (!exists(id))
+        return;
     if (eventId == u"clicked")
         m_menu.choose(indexOf(id));
     else if (id == rootId && (eventId == u"opened" || eventId == u"closed"))

@@ -37,7 +37,8 @@ bool isLocalizedForm(const QString &text, const char *englishText, const QString
     const QDir catalogues(folder, QStringLiteral("caravel_*.qm"));
     for (const QString &file : catalogues.entryList(QDir::Files)) {
         QTranslator translator;
-        if (translator.load(file, folder) && text == translator.translate("", englishText))
+        if (!text.isEmpty() && translator.load(file, folder) &&
+            text == translator.translate("", englishText))
             return true;
     }
     return false;

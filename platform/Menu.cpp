@@ -32,6 +32,9 @@ void Menu::choose(int index)
     if (index < 0 || index >= count() || !itemAtIndex(index).enabled)
         return;
     // An action may end the program; who reports the choice has its answer first.
-    if (const auto action = itemAtIndex(index).action)
-        QMetaObject::invokeMethod(this, action, Qt::QueuedConnection);
+    const Item &item = itemAtIndex(index);
+    if (item.action)
+        QMetaObject::invokeMethod(
+            this, [action = item.action, title = item.title] { action(title); },
+            Qt::QueuedConnection);
 }

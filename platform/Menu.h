@@ -15,7 +15,8 @@ public:
     struct Item
     {
         QString title;
-        std::function<void()> action; ///< empty: choosing it does nothing
+        /// Called with the title that was chosen; empty: choosing it does nothing.
+        std::function<void(const QString &title)> action;
         bool enabled = true;
     };
 

@@ -15,6 +15,7 @@ class DesktopStatusItem : public StatusItem
 {
 public:
     explicit DesktopStatusItem(const QString &imageFolder);
+    ~DesktopStatusItem() override { setEnabled(false); }
 
     void setImage(const QString &name) override;
     void setAlternateImage(const QString &name) override;
@@ -22,6 +23,7 @@ public:
     void setEnabled(bool enabled) override;
 
 private:
+    void closeMenu();
     void watcherCame();
     void watcherWent();
     void showImage();
@@ -40,10 +42,15 @@ DesktopStatusItem::DesktopStatusItem(const QString &imageFolder)
     , m_watcher(StatusNotifier::watcher(), QDBusConnection::sessionBus(),
                 QDBusServiceWatcher::WatchForOwnerChange)
 {
-    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, &m_watcher,
-                     [this] { watcherCame(); });
-    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, &m_watcher,
-                     [this] { watcherWent(); });
+    // One watcher may pass the name straight on to the next.
+    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, &m_watcher,
+                     [this](const QString &, const QString &, const QString &newOwner) {
+                         closeMenu();
+                         if (newOwner.isEmpty())
+                             watcherWent();
+                         else
+                             watcherCame();
+                     });
 }
 
 void DesktopStatusItem::setImage(const QString &name)
@@ -64,8 +71,16 @@ void DesktopStatusItem::setMenu(Menu *menu)
     QObject::connect(m_menu, &Menu::openChanged, &m_watcher, [this] { showImage(); });
 }
 
+// Whoever had it open is no longer there to say that it is closed.
+void DesktopStatusItem::closeMenu()
+{
+    if (m_menu)
+        m_menu->setOpen(false);
+}
+
 void DesktopStatusItem::setEnabled(bool enabled)
 {
+    closeMenu();
     m_notifier.reset();
     m_x11Tray.reset();
     if (!enabled)
@@ -91,7 +106,6 @@ void DesktopStatusItem::watcherWent()
 {
     if (!m_notifier)
         return;
-    m_menu->setOpen(false); // whoever had it open can't say any more that it is closed
     if (X11Tray::isPossible() && !m_x11Tray)
         m_x11Tray = std::make_unique<X11Tray>(m_images, *m_menu);
     showImage();

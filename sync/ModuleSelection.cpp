@@ -15,6 +15,27 @@ QString preferenceKey(const QString &moduleSaveName)
     return QStringLiteral("enabled") + moduleSaveName;
 }
 
+bool hasProfiles(const QString &volume)
+{
+    return !volume.isEmpty() &&
+           FileManager::defaultManager().status(StickFiles::caravelFolder(volume)).isFolder();
+}
+
+void storeProfile(const QStringList &identifiers, const QString &profile)
+{
+    QString reason;
+    if (!PropertyList::writeAtomically(identifiers, profile, &reason))
+        qCWarning(lcSync).noquote() << "Can't store the selection in" << profile << ":" << reason;
+}
+
+bool replaceIn(std::optional<QStringList> &selection, const QString &before, const QString &after)
+{
+    const qsizetype index = selection ? selection->indexOf(before) : -1;
+    if (index >= 0)
+        selection->replace(index, after);
+    return index >= 0;
+}
+
 } // namespace
 
 std::optional<QStringList> read(const QString &moduleSaveName, const QString &volume)
@@ -32,15 +53,23 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
 
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume)
 {
-    if (!volume.isEmpty() &&
-        FileManager::defaultManager().status(StickFiles::caravelFolder(volume)).isFolder()) {
-        const QString profile = StickFiles::selectionProfile(volume, moduleSaveName);
-        QString reason;
-        if (!PropertyList::writeAtomically(identifiers, profile, &reason))
-            qCWarning(lcSync).noquote()
-                << "Can't store the selection in" << profile << ":" << reason;
-    }
+    if (hasProfiles(volume))
+        storeProfile(identifiers, StickFiles::selectionProfile(volume, moduleSaveName));
     UserDefaults::standard().setObject(preferenceKey(moduleSaveName), identifiers);
+}
+
+void rename(const QString &identifier, const QString &newIdentifier, const QString &moduleSaveName,
+            const QString &volume)
+{
+    if (hasProfiles(volume)) {
+        const QString profile = StickFiles::selectionProfile(volume, moduleSaveName);
+        auto selection = PropertyList::readStringArray(profile);
+        if (replaceIn(selection, identifier, newIdentifier))
+            storeProfile(*selection, profile);
+    }
+    auto selection = UserDefaults::standard().stringArrayForKey(preferenceKey(moduleSaveName));
+    if (replaceIn(selection, identifier, newIdentifier))
+        UserDefaults::standard().setObject(preferenceKey(moduleSaveName), *selection);
 }
 
 } // namespace ModuleSelection

@@ -18,4 +18,9 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
 /// synced before. An empty volume path stands for no volume.
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume);
 
+/// Puts another identifier in the place of one, in the preferences' selection and in the volume's
+/// profile, wherever it is selected.
+void rename(const QString &identifier, const QString &newIdentifier, const QString &moduleSaveName,
+            const QString &volume);
+
 } // namespace ModuleSelection

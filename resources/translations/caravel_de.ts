@@ -210,5 +210,25 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <extracomment>The number takes the place of the format.</extracomment>
         <translation>%0.1f TB</translation>
     </message>
+    <message>
+        <source>Conversion in progress, %i%% completed...</source>
+        <translation>Konvertierung läuft, %i%% abgeschlossen...</translation>
+    </message>
+    <message>
+        <source>Movie could not be stored!</source>
+        <translation>Film konnte nicht abgelegt werden!</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Filme</translation>
+    </message>
+    <message>
+        <source>Size: %@</source>
+        <translation>Größe: %@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
+        <translation>Der Film „%@“ wurde konvertiert, aber in der Filmsammlung ist kein Platz für ihn. Er liegt nun im Ordner %@.</translation>
+    </message>
 </context>
 </TS>

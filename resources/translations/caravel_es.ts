@@ -210,5 +210,25 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <extracomment>The number takes the place of the format.</extracomment>
         <translation>%0.1f TB</translation>
     </message>
+    <message>
+        <source>Conversion in progress, %i%% completed...</source>
+        <translation>Conversión en curso, %i%% completado...</translation>
+    </message>
+    <message>
+        <source>Movie could not be stored!</source>
+        <translation>No se pudo guardar la película</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Películas</translation>
+    </message>
+    <message>
+        <source>Size: %@</source>
+        <translation>Tamaño: %@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
+        <translation>La película «%@» se convirtió, pero no hay lugar para ella en la biblioteca de películas. Se conserva en la carpeta %@.</translation>
+    </message>
 </context>
 </TS>

@@ -210,5 +210,25 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <extracomment>The number takes the place of the format.</extracomment>
         <translation>%0.1f To</translation>
     </message>
+    <message>
+        <source>Conversion in progress, %i%% completed...</source>
+        <translation>Conversion en cours, %i%% effectués...</translation>
+    </message>
+    <message>
+        <source>Movie could not be stored!</source>
+        <translation>Impossible de ranger le film !</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>Size: %@</source>
+        <translation>Taille : %@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
+        <translation>Le film « %@ » a été converti, mais il n’y a pas de place pour lui dans la bibliothèque de films. Il est conservé dans le dossier %@.</translation>
+    </message>
 </context>
 </TS>

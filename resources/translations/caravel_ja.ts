@@ -210,5 +210,25 @@ Please deselect some media to ensure the sync can be completed.</source>
         <extracomment>The number takes the place of the format.</extracomment>
         <translation>%0.1f TB</translation>
     </message>
+    <message>
+        <source>Conversion in progress, %i%% completed...</source>
+        <translation>変換中、%i%% 完了...</translation>
+    </message>
+    <message>
+        <source>Movie could not be stored!</source>
+        <translation>ムービーを保存できませんでした</translation>
+    </message>
+    <message>
+        <source>Movies</source>
+        <translation>ムービー</translation>
+    </message>
+    <message>
+        <source>Size: %@</source>
+        <translation>サイズ：%@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
+        <translation>ムービー「%@」は変換されましたが、ムービーライブラリに保存する場所がありません。フォルダ %@ に保管されています。</translation>
+    </message>
 </context>
 </TS>

@@ -46,3 +46,36 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
     EXPECT_TRUE(treeOf(harness.home(QStringLiteral("Documents")))
                     .contains(QStringLiteral("Caravel/Dropboxes/Music/")));
 }
+
+TEST(Selections, RefuseIdentifiersThatNameOtherPlaces)
+{
+    SyncHarness harness;
+    const SelectionLists lists(harness.manager);
+    using Select = void (SelectionLists::*)(const QStringList &) const;
+    const struct
+    {
+        const char *key;
+        Select select;
+        bool takesPaths; // of sources
+    } kinds[] = {
+        {"enabledMusic", &SelectionLists::setSelectedMusicIdentifiers, false},
+        {"enabledPhotos", &SelectionLists::setSelectedPhotosIdentifiers, false},
+        {"enabledBookmarks", &SelectionLists::setSelectedBookmarksIdentifiers, false},
+        {"enabledMovies", &SelectionLists::setSelectedMoviesIdentifiers, true},
+        {"enabledBackup", &SelectionLists::setSelectedBackupIdentifiers, false},
+    };
+    for (const auto &kind : kinds) {
+        const QString key = QString::fromLatin1(kind.key);
+        const QStringList good{QStringLiteral("AC/DC"), QStringLiteral("Trip. ..")};
+        (lists.*kind.select)(good);
+        EXPECT_EQ(harness.defaults.stringArrayForKey(key), good);
+        const SystemLogCapture log;
+        for (const char *bad : {"", ".", "..", "a/../b", "a//b", "a/", "../x"}) {
+            (lists.*kind.select)({QStringLiteral("other"), QString::fromLatin1(bad)});
+            EXPECT_EQ(harness.defaults.stringArrayForKey(key), good) << kind.key << ' ' << bad;
+        }
+        (lists.*kind.select)({QStringLiteral("/etc/passwd")});
+        EXPECT_EQ(harness.defaults.stringArrayForKey(key) == good, !kind.takesPaths) << kind.key;
+        EXPECT_TRUE(log.contains(QStringLiteral("\"a/../b\""))) << kind.key;
+    }
+}

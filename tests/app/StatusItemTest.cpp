@@ -92,12 +92,10 @@ TEST(StatusMenuTest, FollowsTheManager)
     SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
     running = &harness;
     QStringList chosen;
-    StatusMenu menu(harness.manager, {[&](const QString &title) { chosen.append(title); },
-                                      {},
-                                      {},
-                                      [&] {
-                                          chosen.append(QStringLiteral("quit"));
-                                      }});
+    const auto note = [&](const QString &title) {
+        chosen.append(title);
+    };
+    StatusMenu menu(harness.manager, {note, {}, {}, note});
     following = &menu;
     menu.setStatusText(QStringLiteral("Idle"));
     menu.update();
@@ -106,7 +104,7 @@ TEST(StatusMenuTest, FollowsTheManager)
     menu.menu().choose(4);
     menu.menu().choose(9);
     ASSERT_TRUE(waitFor([&] { return !chosen.isEmpty(); }));
-    EXPECT_EQ(chosen, QStringList{QStringLiteral("quit")});
+    EXPECT_EQ(chosen, QStringList{QStringLiteral("Quit")});
 
     harness.mountStick();
     menu.menu().setOpen(true); // whoever opens it asks
@@ -123,6 +121,7 @@ TEST(StatusMenuTest, FollowsTheManager)
         }
     };
     harness.run();
+    EXPECT_EQ(chosen.last(), QStringLiteral("Cancel Sync")) << "as it was when it was chosen";
     EXPECT_EQ(during,
               (QStringList{QStringLiteral("Idle,Cancel Sync,(Eject PSP),Open Caravel,Quit"),
                            QStringLiteral("Idle,(Cancel Sync),(Eject PSP),Open Caravel,Quit"),

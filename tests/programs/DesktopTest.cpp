@@ -11,7 +11,9 @@
 #include "support/PrivateBus.h"
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusObjectPath>
 #include <QFile>
 
 #include <gmock/gmock.h>
@@ -145,6 +147,10 @@ public:
     {
         EXPECT_TRUE(call(QStringLiteral("setApplication"), {QVariant::fromValue(ObjectPath{path})})
                         .error.isEmpty());
+    }
+    void connectLater()
+    {
+        m_helper.send(QStringLiteral("setApplication"), {QVariant::fromValue(ObjectPath{m_path})});
     }
     void quit() { m_helper.send(QStringLiteral("applicationWillQuit")); }
     RemoteObject::Answer call(const QString &method, const QVariantList &arguments = {})
@@ -317,6 +323,40 @@ TEST_F(DesktopTest, ShowAlertsThroughTheFrontEndElseAsNotifications)
     frontEnd.connectAs(QStringLiteral("/nowhere"));
     programs.insertUnformattedStick(QStringLiteral("THIRD"));
     ASSERT_TRUE(waitFor([&] { return service.shown.size() == 2; }));
+}
+
+TEST_F(DesktopTest, KeepTheNextFrontEndWhenTheLastOneLeaves)
+{
+    programs.startHelper();
+    const QString name = QStringLiteral("first");
+    QDBusConnection first = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+    const auto call = [](const char *method) {
+        return QDBusMessage::createMethodCall(
+            ProgramHarness::helperBusName(), QStringLiteral("/CaravelHelper"),
+            QStringLiteral("org.caravel.CaravelHelperProtocol"), QString::fromLatin1(method));
+    };
+    first.call(call("setApplication")
+               << QVariant::fromValue(QDBusObjectPath(QStringLiteral("/first"))));
+
+    // All that the helper finds when it comes to it: one quits, another connects, the one is gone.
+    const auto pid = static_cast<pid_t>(programs.helper().processId());
+    ::kill(pid, SIGSTOP);
+    first.send(call("applicationWillQuit"));
+    first.interface()->isServiceRegistered(name); // by its answer the bus has what was sent
+    FakeFrontEnd next(ProgramHarness::helperBusName());
+    next.connectLater();
+    QDBusConnection::sessionBus().interface()->isServiceRegistered(name);
+    QDBusConnection::disconnectFromBus(name);
+    first = QDBusConnection(QString());
+    ::kill(pid, SIGCONT);
+
+    ASSERT_TRUE(
+        waitFor([&] { return programs.log().count(QStringLiteral("Initializing Caravel")) == 1; }));
+    next.isOpen = true;
+    programs.helper().terminate();
+    ASSERT_TRUE(waitFor([&] { return next.asked > 0 || !programs.helperLives(); }));
+    EXPECT_TRUE(programs.helperLives()) << "the next front-end was dropped with the last";
+    next.isOpen = false;
 }
 
 TEST_F(DesktopTest, SyncOnUnderAFloodOfCalls)

@@ -63,7 +63,7 @@ FakeTray::FakeTray()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
-                       QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties);
+                       QDBusConnection::ExportAllSlots);
     bus.registerService(watcherName);
 }
 

@@ -11,12 +11,9 @@ class FakeTray : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
-    Q_PROPERTY(bool IsStatusNotifierHostRegistered READ hasHost CONSTANT)
 public:
     FakeTray();
     ~FakeTray() override;
-
-    bool hasHost() const { return true; }
 
     /// Whether an item has registered and is still there.
     bool hasItem() const;
