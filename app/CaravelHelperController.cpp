@@ -5,6 +5,7 @@
 #include "app/PrefsController.h"
 #include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
+#include "modules/CVSyncPhotos.h"
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/FileManager.h"
 #include "platform/Localized.h"
@@ -37,6 +38,9 @@ ModuleFactory modules()
     ModuleFactory factory;
     factory.music = [](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncMusic>(delegate);
+    };
+    factory.photos = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncPhotos>(delegate);
     };
     factory.movies = [](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncMovies>(delegate);
@@ -124,10 +128,7 @@ void CaravelHelperController::setUp()
     logDetail(QStringLiteral("Setting up status item..."));
     m_status.setStatusText(localized("No PSP Connected"));
     createFolders();
-    FileManager &files = FileManager::defaultManager();
-    const QString leftover = Preferences::supportFolder() + QStringLiteral("/CONVERT.MP4");
-    if (files.linkStatus(leftover).exists())
-        files.remove(leftover, nullptr);
+    removeLeftovers();
     changeStartOnLogin();
     m_manager.detectPSP();
 }
@@ -145,6 +146,17 @@ void CaravelHelperController::changeStartOnLogin()
     else
         m_icon.remove();
     m_loginItems.setStartOnLogin(startOnLogin);
+}
+
+// Of a conversion that was interrupted.
+void CaravelHelperController::removeLeftovers()
+{
+    FileManager &files = FileManager::defaultManager();
+    for (const char *ending : {".MP4", ".MP4.part", ".THM.part"}) {
+        const QString leftover = CVSyncMovies::convertedFile(QString::fromLatin1(ending));
+        if (files.linkStatus(leftover).exists())
+            files.remove(leftover, nullptr);
+    }
 }
 
 void CaravelHelperController::createFolders()

@@ -82,6 +82,7 @@ private:
     void initialize();
     void setUp();
     void createFolders();
+    void removeLeftovers();
     void helperDidStart();
     void frontEndIsGone();
     void logDetail(const QString &message);

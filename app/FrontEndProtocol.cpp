@@ -153,7 +153,7 @@ void addLists(Table &table, SelectionLists &lists)
     table.query("musicItems", "aa{sv}", [&lists] { return lists.musicItems(); });
     addSelection(table, "setSelectedMusicIdentifiers", lists,
                  &SelectionLists::setSelectedMusicIdentifiers);
-    table.query("photosItems", "aa{sv}", noRows);
+    table.query("photosItems", "aa{sv}", [&lists] { return lists.photosItems(); });
     addSelection(table, "setSelectedPhotosIdentifiers", lists,
                  &SelectionLists::setSelectedPhotosIdentifiers);
     table.query("bookmarksItems", "aa{sv}", noRows);

@@ -3,9 +3,11 @@
 #include "app/Log.h"
 #include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
+#include "modules/CVSyncPhotos.h"
 #include "sync/CVSyncManager.h"
 #include "sync/ModuleSelection.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -29,17 +31,37 @@ Kind kindOf(const MusicLibrary::Playlist &playlist)
     return {QStringLiteral("iTunesPlaylist"), 3};
 }
 
-QVariantMap row(const MusicLibrary::Playlist &playlist, const QSet<QString> &selected)
+Kind kindOf(const PhotoLibrary::Album &album)
 {
-    const Kind kind = kindOf(playlist);
+    static const QHash<QString, Kind> kinds{
+        {QStringLiteral("Special Roll"), {QStringLiteral("iPhotoRoll"), 1}},
+        {QStringLiteral("Special Month"), {QStringLiteral("iPhotoMonth"), 2}},
+        {QStringLiteral("Smart"), {QStringLiteral("iPhotoSmartAlbum"), 3}},
+        {QStringLiteral("Regular"), {QStringLiteral("iPhotoAlbum"), 4}},
+        {QStringLiteral("Book"), {QStringLiteral("iPhotoBook"), 5}},
+        {QStringLiteral("Slideshow"), {QStringLiteral("iPhotoSlideshow"), 6}},
+    };
+    if (album.isMaster)
+        return {QStringLiteral("iPhotoLibrary"), 0};
+    return kinds.value(album.type.value_or(QString()), {QStringLiteral("iPhotoAlbum"), 7});
+}
+
+QSet<QString> toSet(const std::optional<QStringList> &selection)
+{
+    return selection ? QSet<QString>(selection->begin(), selection->end()) : QSet<QString>();
+}
+
+QVariantMap row(const QString &name, const Kind &kind, qsizetype size,
+                const QSet<QString> &selected)
+{
     QVariantMap row{
-        {QStringLiteral("identifier"), *playlist.name},
-        {QStringLiteral("name"), *playlist.name},
+        {QStringLiteral("identifier"), name},
+        {QStringLiteral("name"), name},
         {QStringLiteral("icon"), kind.icon},
         {QStringLiteral("order"), kind.order},
-        {QStringLiteral("size"), static_cast<int>(playlist.size)},
+        {QStringLiteral("size"), static_cast<int>(size)},
     };
-    if (selected.contains(*playlist.name))
+    if (selected.contains(name))
         row.insert(QStringLiteral("enabled"), true);
     return row;
 }
@@ -66,14 +88,28 @@ QVariantList SelectionLists::musicItems() const
     const auto playlists = CVSyncMusic::availableIdentifiers();
     if (!playlists)
         return {};
-    const QStringList selection =
-        CVSyncMusic::selectedIdentifiersForPSP(m_manager.pspVolume()).value_or(QStringList());
-    const QSet<QString> selected(selection.begin(), selection.end());
+    const QSet<QString> selected =
+        toSet(CVSyncMusic::selectedIdentifiersForPSP(m_manager.pspVolume()));
     QVariantList rows;
     for (const MusicLibrary::Playlist &playlist : *playlists) {
         if (!playlist.isPartyShuffle && !playlist.isPurchasedMusic && !playlist.isVideos &&
             playlist.name)
-            rows.append(row(playlist, selected));
+            rows.append(row(*playlist.name, kindOf(playlist), playlist.size, selected));
+    }
+    return rows;
+}
+
+QVariantList SelectionLists::photosItems() const
+{
+    const auto albums = CVSyncPhotos::availableIdentifiers();
+    if (!albums)
+        return {};
+    const QSet<QString> selected =
+        toSet(CVSyncPhotos::selectedIdentifiersForPSP(m_manager.pspVolume()));
+    QVariantList rows;
+    for (const PhotoLibrary::Album &album : *albums) {
+        if (album.name)
+            rows.append(row(*album.name, kindOf(album), album.size, selected));
     }
     return rows;
 }
@@ -97,7 +133,7 @@ void SelectionLists::setSelectedMusicIdentifiers(const QStringList &identifiers)
 
 void SelectionLists::setSelectedPhotosIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(QStringLiteral("Photos"), identifiers, isRelativePath);
+    setSelected(CVSyncPhotos::saveName(), identifiers, isRelativePath);
 }
 
 void SelectionLists::setSelectedBookmarksIdentifiers(const QStringList &identifiers) const

@@ -21,6 +21,8 @@ public:
     /// name), "order" (rank of its kind), "size" (entries), and "enabled" = true where selected.
     QVariantList musicItems() const;
     void setSelectedMusicIdentifiers(const QStringList &identifiers) const;
+    /// The same for the photo library's albums.
+    QVariantList photosItems() const;
     void setSelectedPhotosIdentifiers(const QStringList &identifiers) const;
     void setSelectedBookmarksIdentifiers(const QStringList &identifiers) const;
     void setSelectedMoviesIdentifiers(const QStringList &identifiers) const;

@@ -230,5 +230,9 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
         <translation>Der Film „%@“ wurde konvertiert, aber in der Filmsammlung ist kein Platz für ihn. Er liegt nun im Ordner %@.</translation>
     </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
 </context>
 </TS>

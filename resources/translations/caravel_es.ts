@@ -230,5 +230,9 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
         <translation>La película «%@» se convirtió, pero no hay lugar para ella en la biblioteca de películas. Se conserva en la carpeta %@.</translation>
     </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
 </context>
 </TS>

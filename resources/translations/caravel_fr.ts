@@ -230,5 +230,9 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
         <translation>Le film « %@ » a été converti, mais il n’y a pas de place pour lui dans la bibliothèque de films. Il est conservé dans le dossier %@.</translation>
     </message>
+    <message>
+        <source>Photos</source>
+        <translation>Photos</translation>
+    </message>
 </context>
 </TS>

@@ -230,5 +230,9 @@ Please deselect some media to ensure the sync can be completed.</source>
         <source>The movie "%@" was converted, but there is no place for it in the movie library. It is kept in the folder %@.</source>
         <translation>ムービー「%@」は変換されましたが、ムービーライブラリに保存する場所がありません。フォルダ %@ に保管されています。</translation>
     </message>
+    <message>
+        <source>Photos</source>
+        <translation>写真</translation>
+    </message>
 </context>
 </TS>

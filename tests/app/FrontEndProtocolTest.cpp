@@ -1,7 +1,7 @@
 #include "app/FrontEndProtocol.h"
 
-#include "FakeDesktop.h"
 #include "app/CaravelHelperController.h"
+#include "support/FakeDesktop.h"
 #include "support/SyncHarness.h"
 
 #include <gtest/gtest.h>

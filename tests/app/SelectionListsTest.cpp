@@ -1,6 +1,7 @@
 #include "app/SelectionLists.h"
 
 #include "support/MusicLibraryFile.h"
+#include "support/PhotoLibraryFile.h"
 #include "support/SyncHarness.h"
 
 #include <gtest/gtest.h>
@@ -45,6 +46,40 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
                                  QStringLiteral("AC/DC: Live? iTunesPlaylist 3 1 enabled")}));
     EXPECT_TRUE(treeOf(harness.home(QStringLiteral("Documents")))
                     .contains(QStringLiteral("Caravel/Dropboxes/Music/")));
+}
+
+TEST(PhotosItems, OffersAlbumsByKind)
+{
+    SyncHarness harness;
+    const SelectionLists lists(harness.manager);
+    EXPECT_TRUE(lists.photosItems().isEmpty());
+    PhotoLibraryFile library;
+    const auto type = [](const char *name) {
+        return QVariantMap{{QStringLiteral("Album Type"), QString::fromLatin1(name)}};
+    };
+    library.addAlbum(QStringLiteral("All"), {QStringLiteral("1"), QStringLiteral("2")},
+                     {{QStringLiteral("Master"), true}});
+    for (const char *name :
+         {"Special Roll", "Special Month", "Smart", "Regular", "Book", "Slideshow", "Calendar"})
+        library.addAlbum(QString::fromLatin1(name), {}, type(name));
+    library.addAlbum(QStringLiteral("Plain"), {QStringLiteral("1")});
+    writeFile(harness.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml")),
+              library.contents());
+    lists.setSelectedPhotosIdentifiers({QStringLiteral("Plain")});
+    QStringList rows;
+    for (const QVariant &item : lists.photosItems()) {
+        const QVariantMap row = item.toMap();
+        rows.append(
+            QStringLiteral("%1 %2 %3%4")
+                .arg(row.value(QStringLiteral("icon")).toString())
+                .arg(row.value(QStringLiteral("order")).toInt())
+                .arg(row.value(QStringLiteral("size")).toInt())
+                .arg(row.contains(QStringLiteral("enabled")) ? QStringLiteral("+") : QString()));
+    }
+    EXPECT_EQ(rows.join(u','),
+              QStringLiteral("iPhotoLibrary 0 2,iPhotoRoll 1 0,iPhotoMonth 2 0,iPhotoSmartAlbum 3 "
+                             "0,iPhotoAlbum 4 0,iPhotoBook 5 0,iPhotoSlideshow 6 0,iPhotoAlbum 7 "
+                             "0,iPhotoAlbum 7 1+"));
 }
 
 TEST(Selections, RefuseIdentifiersThatNameOtherPlaces)

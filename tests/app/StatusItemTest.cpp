@@ -1,8 +1,8 @@
 // The status item's images and its menu.
 
-#include "FakeDesktop.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
+#include "support/FakeDesktop.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
 

@@ -1,8 +1,8 @@
 #include "app/SyncStatus.h"
 
-#include "FakeDesktop.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
+#include "support/FakeDesktop.h"
 
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"

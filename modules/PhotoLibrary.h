@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+/// An iPhoto library, read from its album file ("AlbumData.xml", a property list).
+class PhotoLibrary
+{
+public:
+    struct Album
+    {
+        std::optional<QString> name; ///< "AlbumName"
+        std::optional<QString> type; ///< "Album Type"
+        bool isMaster = false;
+        int size = 0;     ///< number of its images' keys
+        QStringList keys; ///< of its images, in album order; empty with Part::AlbumsOnly
+    };
+
+    struct Image
+    {
+        std::optional<QString> caption;
+        std::optional<QString> path; ///< "ImagePath"
+    };
+
+    enum class Part { AlbumsOnly, Everything };
+
+    /// Reads the file as a stream, keeping what is asked for. Nothing where there is no such file,
+    /// or it is no usable list, which the system log then says with its line. Any thread.
+    static std::optional<PhotoLibrary> read(const QString &path, Part part);
+
+    /// In file order.
+    const std::vector<Album> &albums() const { return m_albums; }
+    /// Null where the key names none.
+    const Image *image(const QString &key) const;
+
+private:
+    class Reader;
+
+    std::vector<Album> m_albums;
+    QHash<QString, Image> m_images;
+};
