@@ -24,7 +24,7 @@ QString iconName(AlertStyle style)
     return {};
 }
 
-/// As the Desktop Notifications Specification describes org.freedesktop.Notifications.
+/// Through the bus service "org.freedesktop.Notifications".
 class AlertNotifications : public Alerts
 {
 public:

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The programs that the desktop starts when the user logs in: one file each in
-/// "$HOME/.config/autostart", as the Desktop Entry Specification describes it. Main thread.
+/// The programs that the desktop starts when the user logs in: one desktop entry each in
+/// "$HOME/.config/autostart". Main thread.
 namespace Autostart {
 
 /// Has the program started at login, under the entry "<entry>.desktop"; an entry that says so

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Shows the whole road once: a home with a music library, a stick in a folder, the helper on a private
-# session bus, two syncs and an eject. Checks what came to lie on the stick and fails if it is wrong.
+# Shows the whole road once: a home with music, photos and a movie, a stick in a folder, the helper on a
+# private session bus, three syncs and an eject. Checks what came to lie on the stick and fails if it is
+# wrong.
 set -euo pipefail
 
 usage() {
@@ -63,9 +64,9 @@ main() {
         scripts/install-dependencies.sh
         cmake --preset release
         cmake --build --preset release --parallel "$(nproc)" \
-            --target caravel caravel-helper caravel_resources
+            --target caravel caravel-helper caravel_resources caravel_translations
     )
-    heading "A home with a music library, and a stick, in $sample"
+    heading "A home with music, photos and a movie, and a stick, in $sample"
     mkdir -p "$sample/home" "$sample/volumes"
     "$project/scripts/demo/make_sample.py" "$sample/home" "$sample/volumes/MEMORYSTICK"
     (cd "$sample/home" && find . -type f -printf '%10s  %P\n' | sort -k 2)
@@ -132,6 +133,16 @@ expect_music() {
         fail "the stick's music folders are not those of its files (< wanted, > found)"
 }
 
+# expect_files FOLDER: the files below it on the stick are what standard input lists.
+expect_files() {
+    diff <(sort) <(cd "$stick/$1" && find . -type f -printf '%P\n' | sort) ||
+        fail "$1 on the stick is not what the selection wants (< wanted, > found)"
+}
+
+movie_is_synced() {
+    [[ -f $stick/MP_ROOT/100MNV01/M4V00001.MP4 ]] && "$caravel" status | grep -q 'Sync Successful'
+}
+
 foreign_files() {
     (cd "$stick" && sha256sum MEMSTICK.IND PSP/GAME/PUZZLE/EBOOT.PBP PSP/SAVEDATA/PUZZLE00/DATA.BIN)
 }
@@ -173,6 +184,8 @@ on_private_bus() {
 
     run_caravel list music
     run_caravel select music "Road Trip" "AC/DC: Live?"
+    run_caravel list photos
+    run_caravel select photos "Holiday" "Trip / 2006"
     run_caravel estimate
     run_caravel sync
 
@@ -186,6 +199,14 @@ Slow Mornings/101. $cafe.MP4|$music/Ada Quill/Slow Mornings/01 Café at Seven.m4
 Live at the Mill/201. Sawdust.wav|$music/Northbound Trio/Live at the Mill/01 Sawdust.wav
 Live at the Mill/202. The Wheel Turns.mp3|$music/Northbound Trio/Live at the Mill/02 The Wheel Turns.mp3
 Live/Encore.MP4|Documents/Caravel/Dropboxes/Music/Live/Encore.m4a
+EOF
+    # Two pictures of one caption, a movie that is none, and a name that no FAT file system takes.
+    expect_files PSP/PHOTO <<'EOF'
+Cards/front.png
+Holiday/Beach.1.JPG
+Holiday/Beach.JPG
+Trip _ 2006/Beach.JPG
+Trip _ 2006/Map_ harbour_bay.png
 EOF
     [[ $(foreign_files) == "$foreign" ]] || fail "another program's files were touched"
     [[ -f $stick/.caravel/MusicSyncIndex.plist && -f $stick/.caravel/LastSyncSize ]] ||
@@ -213,6 +234,22 @@ Live/Encore.MP4|Documents/Caravel/Dropboxes/Music/Live/Encore.m4a
 EOF
     [[ $(stat -c %i "$kept_file") == "$kept_inode" ]] || fail "a file that was in place was copied again"
     [[ $(foreign_files) == "$foreign" ]] || fail "another program's files were touched"
+
+    heading "A movie is converted, and synced when it is ready"
+    run_caravel movies add "$HOME/Movies/Sailing Day.avi"
+    "$caravel" watch >"$sample/watch.log" &
+    local watch=$!
+    wait_for 120 "the converted movie to reach the stick" movie_is_synced
+    kill -INT "$watch"
+    wait "$watch" || true
+    sed 's/^/  | /' "$sample/watch.log"
+    run_caravel list movies
+    expect_files MP_ROOT <<'EOF'
+100MNV01/M4V00001.MP4
+100MNV01/M4V00001.THM
+EOF
+    ffprobe -v error -show_entries stream=codec_name,profile,width,height -of compact \
+        "$stick/MP_ROOT/100MNV01/M4V00001.MP4"
 
     run_caravel status
     run_caravel log

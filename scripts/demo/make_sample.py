@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the demo's home folder, with a music library and real sound files, and its Memory Stick."""
+"""Makes the demo's home folder (music and photo libraries, a movie) and its Memory Stick."""
 
 import argparse
 import datetime
@@ -174,8 +174,58 @@ def make_library(home: Path) -> None:
         plistlib.dump(library, file, sort_keys=False)
 
 
+@dataclass(frozen=True)
+class Photo:
+    key: str
+    caption: str
+    file: str
+    source: str  # one of ffmpeg's test pictures
+
+
+PHOTOS = (
+    Photo("1", "Beach", "Roll 1/IMG_0001.JPG", "testsrc=size=640x480"),
+    Photo("2", "Beach", "Roll 1/IMG_0002.JPG", "testsrc2=size=640x480"),
+    Photo("3", "The Boat", "Roll 1/boat.mov", "smptebars=size=320x240"),
+    Photo("4", "Map: harbour/bay", "Roll 2/map.png", "rgbtestsrc=size=480x272"),
+    Photo("5", "Left Behind", "Roll 2/IMG_0003.jpeg", "yuvtestsrc=size=320x240"),
+)
+ALBUMS = (
+    ("Photos", "99", ("1", "2", "3", "4", "5"), {"Master": True}),
+    ("Holiday", "Regular", ("1", "3", "2"), {}),
+    ("Trip / 2006", "Smart", ("4", "1"), {}),
+    ("Unwanted", "Regular", ("5",), {}),
+)
+
+
+def make_video(source: str, seconds: int, path: Path, options: tuple[str, ...] = ()) -> None:
+    path.parent.mkdir(parents=True, exist_ok=True)
+    frames = ("-t", str(seconds)) if seconds else ("-frames:v", "1")
+    subprocess.run(["ffmpeg", "-nostdin", "-v", "error", "-y", "-f", "lavfi", "-i", source, *options,
+                    "-bitexact", *frames, str(path)], check=True)
+
+
+def make_photo_library(home: Path) -> None:
+    folder = home / "Pictures" / "iPhoto Library"
+    images = {}
+    for photo in PHOTOS:
+        path = folder / photo.file
+        make_video(photo.source, 1 if path.suffix == ".mov" else 0, path)
+        images[photo.key] = {"MediaType": "Movie" if path.suffix == ".mov" else "Image",
+                             "Caption": photo.caption, "ImagePath": str(path)}
+    albums = [{"AlbumId": number, "AlbumName": name, "Album Type": kind, "KeyList": list(keys), **marks}
+              for number, (name, kind, keys, marks) in enumerate(ALBUMS, 1)]
+    with open(folder / "AlbumData.xml", "wb") as file:
+        plistlib.dump({"Application Version": "6.0", "List of Albums": albums,
+                       "Master Image List": images}, file, sort_keys=False)
+
+
 def make_home(home: Path) -> None:
     make_library(home)
+    make_photo_library(home)
+    make_video("mandelbrot=size=240x160:rate=25", 0,
+               home / "Documents/Caravel/Dropboxes/Photos/Cards/front.png")
+    make_video("testsrc2=size=640x360:rate=25", 8, home / "Movies/Sailing Day.avi",
+               ("-f", "lavfi", "-i", "sine=frequency=330", "-c:v", "mpeg4", "-c:a", "mp2"))
     make_sound(DROPPED, home / "Documents/Caravel/Dropboxes/Music/Live/Encore.m4a")
 
 
@@ -187,6 +237,7 @@ def make_stick(stick: Path) -> None:
         "PSP/SAVEDATA/PUZZLE00/DATA.BIN": bytes(range(256)) * 4,
         "PSP/MUSIC/Old Record/Gone.mp3": b"ID3\3" + bytes(4092),
         "PSP/MUSIC/.DS_Store": b"\0\0\0\1Bud1" + bytes(248),
+        "PSP/PHOTO/Old Album/gone.jpg": b"\xff\xd8" + bytes(1022),
     }
     for name, content in files.items():
         path = stick / name

@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStorageInfo>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -120,6 +122,18 @@ TEST_F(CVSyncMoviesTest, LosesNothingThatItCantStore)
               list({"Holiday.1.MP4", "Holiday.1.THM", "Holiday.MP4", "Holiday.THM"}));
     EXPECT_TRUE(CVSyncMovies::availableIdentifiers().isEmpty());
     FileManager::setDefaultManager(nullptr);
+}
+
+TEST_F(CVSyncMoviesTest, MovesToALibraryOnAnotherFileSystem)
+{
+    const QTemporaryDir other(QStringLiteral("/dev/shm/caravel-XXXXXX"));
+    if (!other.isValid() || QStorageInfo(other.path()) == QStorageInfo(harness.folder.path()))
+        GTEST_SKIP() << "there is no second file system in /dev/shm";
+    harness.defaults.setObject(QStringLiteral("CaravelFolder"), other.path());
+    EXPECT_EQ(add("Clip"), QStringLiteral("M4V00001/Clip"));
+    EXPECT_EQ(readFile(other.filePath(QStringLiteral("Caravel/Movies/M4V00001/Clip/M4V00001.MP4"))),
+              "movie");
+    EXPECT_FALSE(QFile::exists(CVSyncMovies::convertedFile(mp4)));
 }
 
 TEST_F(CVSyncMoviesTest, RenamesWithTheSelections)
