@@ -3,6 +3,7 @@
 #include "app/FrontEndProtocol.h"
 #include "app/Log.h"
 #include "app/PrefsController.h"
+#include "modules/CVSyncBackup.h"
 #include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
 #include "modules/CVSyncPhotos.h"
@@ -33,7 +34,7 @@ QString helperDidStartNotification()
     return QStringLiteral("CVHelperDidStartNotification");
 }
 
-ModuleFactory modules()
+ModuleFactory modules(const Clock &clock)
 {
     ModuleFactory factory;
     factory.music = [](CVSyncModuleDelegate *delegate) {
@@ -41,6 +42,9 @@ ModuleFactory modules()
     };
     factory.photos = [](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncPhotos>(delegate);
+    };
+    factory.backup = [&clock](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncBackup>(delegate, clock);
     };
     factory.movies = [](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncMovies>(delegate);
@@ -55,7 +59,7 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
     , m_services(std::move(services))
     , m_manager({m_services.volumes, m_services.notifications, m_services.clock,
                  m_services.bundle.resourcePath()},
-                modules())
+                modules(m_services.clock))
     , m_menu(m_manager, menuActions())
     , m_icon(m_services.statusBar, m_manager)
     , m_status({m_manager, m_logger, m_frontEnd, m_menu, m_icon, m_services.alerts,
@@ -63,7 +67,7 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
                 [this] {
                     openCaravel();
                 }})
-    , m_lists(m_manager)
+    , m_lists(m_manager, m_services.clock)
     , m_movies({m_manager, m_logger, m_services.sounds, m_services.clock, *this,
                 m_services.bundle.resourcePath()})
     , m_loginItems(m_services.bundle, frontEndPath())
@@ -228,6 +232,63 @@ void CaravelHelperController::syncNow(const QVariantMap &sender)
         m_manager.cancelSync();
     else
         m_manager.sync();
+}
+
+// --- Backups
+
+// A run may be copying the very save.
+bool CaravelHelperController::mayChangeBackups()
+{
+    if (!m_manager.isSyncing())
+        return true;
+    m_logger.log(QStringLiteral("Can't restore or delete backups during a sync."));
+    m_status.doAlert(localized("Can't change backups now!"),
+                     localized("Can't restore or delete backups during a sync."),
+                     AlertStyle::Warning);
+    return false;
+}
+
+void CaravelHelperController::restoreBackup(const QString &identifier)
+{
+    if (m_isQuitting || !mayChangeBackups())
+        return;
+    logDetail(filled(QStringLiteral("Restoring backup %@..."), {identifier}));
+    if (!m_manager.pspIsMounted()) {
+        qCWarning(lcApp).noquote() << "No PSP is connected to restore to:" << identifier;
+        return;
+    }
+    using Restored = CVSyncBackup::Restored;
+    switch (CVSyncBackup::restoreBackupWithIdentifier(identifier, m_manager.pspVolume(),
+                                                      m_services.clock)) {
+    case Restored::Done:
+        return;
+    case Restored::NoBackup:
+        qCWarning(lcApp).noquote() << "There is no backup to restore named" << identifier;
+        return;
+    case Restored::NotKept:
+        restoreFailed(identifier,
+                      localized("The game save on the PSP could not be kept first, so nothing on "
+                                "the PSP was changed."));
+        return;
+    case Restored::Failed:
+        restoreFailed(identifier,
+                      localized("The game save that was on the PSP is kept as the newest backup."));
+        return;
+    }
+}
+
+void CaravelHelperController::restoreFailed(const QString &identifier, const QString &whatIsThere)
+{
+    m_logger.log(QStringLiteral("Restoring backup failed: %@"), identifier);
+    m_status.doAlert(localized("Restoring failed!"), whatIsThere, AlertStyle::Critical);
+}
+
+void CaravelHelperController::deleteBackup(const QString &identifier)
+{
+    if (!mayChangeBackups())
+        return;
+    logDetail(filled(QStringLiteral("Deleting backup %@..."), {identifier}));
+    CVSyncBackup::deleteBackupWithIdentifier(identifier);
 }
 
 void CaravelHelperController::ejectPSP()

@@ -56,6 +56,10 @@ public:
     /// Starts a sync, or cancels the running one for a sender titled "Cancel Sync".
     void syncNow(const QVariantMap &sender);
     void ejectPSP();
+    /// Puts a backup of a game save back on the PSP, or moves backups to the Trash. Refused, and
+    /// said to the user, during a sync.
+    void restoreBackup(const QString &identifier);
+    void deleteBackup(const QString &identifier);
 
     /// Brings the status item and the login items in line with "startOnLogin", as the store on the
     /// disk has it; holds the caller a quarter of a second.
@@ -83,6 +87,8 @@ private:
     void setUp();
     void createFolders();
     void removeLeftovers();
+    bool mayChangeBackups();
+    void restoreFailed(const QString &identifier, const QString &whatIsThere);
     void helperDidStart();
     void frontEndIsGone();
     void logDetail(const QString &message);

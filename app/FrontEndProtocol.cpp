@@ -1,7 +1,6 @@
 #include "app/FrontEndProtocol.h"
 
 #include "app/CaravelHelperController.h"
-#include "app/Log.h"
 #include "platform/UserDefaults.h"
 #include "util/FileManagerTools.h"
 
@@ -142,12 +141,6 @@ QVariantList noRows()
     return {};
 }
 
-void passOver(Request request)
-{
-    qCWarning(lcApp).noquote() << "Passed over, there is no module for it: a request by"
-                               << request.caller;
-}
-
 void addLists(Table &table, SelectionLists &lists)
 {
     table.query("musicItems", "aa{sv}", [&lists] { return lists.musicItems(); });
@@ -180,15 +173,19 @@ void addMovies(Table &table, MovieQueue &movies, SelectionLists &lists)
 
 void addBackups(Table &table, CaravelHelperController &helper)
 {
-    table.query("backupItems", "aa{sv}", noRows);
-    addSelection(table, "setSelectedBackupIdentifiers", helper.lists(),
+    SelectionLists &lists = helper.lists();
+    table.query("backupItems", "aa{sv}", [&lists] { return lists.backupItems(); });
+    addSelection(table, "setSelectedBackupIdentifiers", lists,
                  &SelectionLists::setSelectedBackupIdentifiers);
     table.oneway("logChanged", {{"s", "line"}},
                  [&helper](Request request) { helper.logChanged(text(request)); });
-    table.add("backupSubItemsForIdentifier", {identifier}, "aa{sv}",
-              [](Request) { return noRows(); });
-    table.command("restoreBackupWithIdentifier", {identifier}, passOver);
-    table.command("deleteBackupWithIdentifier", {identifier}, passOver);
+    table.add("backupSubItemsForIdentifier", {identifier}, "aa{sv}", [&lists](Request request) {
+        return QVariant(lists.backupSubItemsForIdentifier(text(request)));
+    });
+    table.command("restoreBackupWithIdentifier", {identifier},
+                  [&helper](Request request) { helper.restoreBackup(text(request)); });
+    table.command("deleteBackupWithIdentifier", {identifier},
+                  [&helper](Request request) { helper.deleteBackup(text(request)); });
 }
 
 } // namespace

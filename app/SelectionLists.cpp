@@ -1,11 +1,16 @@
 #include "app/SelectionLists.h"
 
 #include "app/Log.h"
+#include "app/RelativeDate.h"
+#include "modules/CVSyncBackup.h"
 #include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
 #include "modules/CVSyncPhotos.h"
+#include "platform/Clock.h"
+#include "platform/Localized.h"
 #include "sync/CVSyncManager.h"
 #include "sync/ModuleSelection.h"
+#include "util/PSFParser.h"
 
 #include <QHash>
 #include <QSet>
@@ -148,5 +153,87 @@ void SelectionLists::setSelectedMoviesIdentifiers(const QStringList &identifiers
 
 void SelectionLists::setSelectedBackupIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(QStringLiteral("Backup"), identifiers, isRelativePath);
+    setSelected(CVSyncBackup::saveName(), identifiers, isRelativePath);
+}
+
+// --- Game saves
+
+namespace {
+
+QString value(const QMap<QString, QString> &parameters, const char *key)
+{
+    return parameters.value(QString::fromLatin1(key));
+}
+
+// The first of the parameters that says anything.
+QString firstOf(const QMap<QString, QString> &parameters, std::initializer_list<const char *> keys)
+{
+    for (const char *key : keys) {
+        if (const QString text = value(parameters, key); !text.isEmpty())
+            return text;
+    }
+    return {};
+}
+
+QString unknownSave()
+{
+    return QStringLiteral("Unknown game save");
+}
+
+} // namespace
+
+QString SelectionLists::dateText(double timestamp) const
+{
+    return relativeDate(QDateTime::fromSecsSinceEpoch(static_cast<qint64>(timestamp)),
+                        m_clock.now());
+}
+
+QVariantList SelectionLists::backupItems() const
+{
+    QVariantList rows;
+    for (const QString &save : CVSyncBackup::availableIdentifiers()) {
+        const QStringList backups = CVSyncBackup::availableSubIdentifiersForIdentifier(save);
+        if (save == u".DS_Store" || backups.isEmpty())
+            continue;
+        const QString folder = CVSyncBackup::folderOf(save + u'/' + backups.last());
+        const auto parameters =
+            PSFParser::dictionaryWithPSFFile(folder + QStringLiteral("/PARAM.SFO"));
+        QString description = unknownSave();
+        if (parameters)
+            description = value(*parameters, "SAVEDATA_TITLE").isEmpty()
+                              ? localized("No description available")
+                              : value(*parameters, "SAVEDATA_TITLE");
+        rows.append(QVariantMap{
+            {QStringLiteral("identifier"), save},
+            {QStringLiteral("name"), parameters ? value(*parameters, "TITLE") : save},
+            {QStringLiteral("icon"), folder + QStringLiteral("/ICON0.PNG")},
+            {QStringLiteral("description"), description},
+            {QStringLiteral("date"),
+             dateText(CVSyncBackup::latestTimestampForBackupIdentifier(save))},
+        });
+    }
+    return rows;
+}
+
+QVariantList SelectionLists::backupSubItemsForIdentifier(const QString &identifier) const
+{
+    QVariantList rows;
+    for (const QString &name : CVSyncBackup::availableSubIdentifiersForIdentifier(identifier)) {
+        if (name == u".DS_Store")
+            continue;
+        const QString backup = identifier + u'/' + name;
+        const auto parameters = PSFParser::dictionaryWithPSFFile(CVSyncBackup::folderOf(backup) +
+                                                                 QStringLiteral("/PARAM.SFO"));
+        const double timestamp = CVSyncBackup::timestampOf(name);
+        rows.append(QVariantMap{
+            {QStringLiteral("identifier"), backup},
+            {QStringLiteral("icon"), QStringLiteral("Backup")},
+            {QStringLiteral("description"),
+             parameters ? firstOf(*parameters, {"SAVEDATA_DETAIL", "SAVEDATA_TITLE", "TITLE"})
+                        : unknownSave()},
+            {QStringLiteral("date"), dateText(timestamp)},
+            {QStringLiteral("timestamp"), timestamp},
+        });
+    }
+    return rows;
 }

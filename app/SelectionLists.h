@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <QVariantList>
 
+class Clock;
 class CVSyncManager;
 
 /// The lists that the front-end offers for selection, and the selections it sends back. A list is
@@ -11,9 +12,10 @@ class CVSyncManager;
 class SelectionLists
 {
 public:
-    /// Not owned, outlives the lists.
-    explicit SelectionLists(const CVSyncManager &manager)
+    /// Not owned, outlive the lists.
+    SelectionLists(const CVSyncManager &manager, const Clock &clock)
         : m_manager(manager)
+        , m_clock(clock)
     {
     }
 
@@ -27,10 +29,19 @@ public:
     void setSelectedBookmarksIdentifiers(const QStringList &identifiers) const;
     void setSelectedMoviesIdentifiers(const QStringList &identifiers) const;
     void setSelectedBackupIdentifiers(const QStringList &identifiers) const;
+    /// Rows of the game saves that have backups: "identifier", "name", "icon" (an image's path),
+    /// "description" and "date" of the newest one.
+    QVariantList backupItems() const;
+    /// Rows of one save's backups, oldest first: "identifier" ("<save>/<timestamp>"), "icon",
+    /// "description", "date" and "timestamp" (seconds since 1970).
+    QVariantList backupSubItemsForIdentifier(const QString &identifier) const;
 
 private:
     void setSelected(const QString &moduleSaveName, const QStringList &identifiers,
                      bool (*isGood)(const QString &)) const;
 
+    QString dateText(double timestamp) const;
+
     const CVSyncManager &m_manager;
+    const Clock &m_clock;
 };

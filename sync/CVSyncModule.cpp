@@ -301,13 +301,18 @@ void CVSyncModule::syncItem(const CVSyncItem &item)
 
     m_delegate->syncModuleWillProcessItem(item);
     if (m_delegate->pspVolumeIsPresent()) {
-        FileManagerTools::createPath(folder);
-        FileManagerTools::copyPath(item.source, item.destination, *this);
+        copyItem(item);
         m_syncIndex.append(StickFiles::relativeToVolume(item.destination, pspVolume()));
         if (files().linkStatus(companion).exists())
             files().remove(companion, this);
     }
     m_delegate->syncModuleDidProcessItem(item);
+}
+
+bool CVSyncModule::copyItem(const CVSyncItem &item)
+{
+    FileManagerTools::createPath(folderOf(item.destination));
+    return FileManagerTools::copyPath(item.source, item.destination, *this);
 }
 
 bool CVSyncModule::fileManagerCopiedBytes(quint64 bytes, const QString &)

@@ -67,6 +67,10 @@ public:
     bool fileManagerShouldProceedAfterError(const ErrorInfo &error) override;
 
 protected:
+    /// Copies one item of the queue to its destination, making the folders above it; false where it
+    /// did not arrive.
+    virtual bool copyItem(const CVSyncItem &item);
+
     QString pspVolume() const { return m_delegate->pspVolume(); }
     bool isSelected(const QString &identifier) const { return m_selected.contains(identifier); }
 

@@ -234,5 +234,33 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <source>Photos</source>
         <translation>Fotos</translation>
     </message>
+    <message>
+        <source>Backup</source>
+        <translation>Datensicherung</translation>
+    </message>
+    <message>
+        <source>No description available</source>
+        <translation>Keine Beschreibung verfügbar</translation>
+    </message>
+    <message>
+        <source>Can't change backups now!</source>
+        <translation>Sicherungen können jetzt nicht geändert werden!</translation>
+    </message>
+    <message>
+        <source>Can't restore or delete backups during a sync.</source>
+        <translation>Während einer Synchronisierung können Sicherungen weder wiederhergestellt noch gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>The game save on the PSP could not be kept first, so nothing on the PSP was changed.</source>
+        <translation>Der Spielstand auf der PSP konnte nicht zuerst gesichert werden, daher wurde auf der PSP nichts geändert.</translation>
+    </message>
+    <message>
+        <source>The game save that was on the PSP is kept as the newest backup.</source>
+        <translation>Der Spielstand, der auf der PSP war, ist als neueste Sicherung erhalten.</translation>
+    </message>
+    <message>
+        <source>Restoring failed!</source>
+        <translation>Wiederherstellung fehlgeschlagen!</translation>
+    </message>
 </context>
 </TS>

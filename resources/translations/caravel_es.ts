@@ -234,5 +234,33 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <source>Photos</source>
         <translation>Fotos</translation>
     </message>
+    <message>
+        <source>Backup</source>
+        <translation>Copia de seguridad</translation>
+    </message>
+    <message>
+        <source>No description available</source>
+        <translation>No hay descripción disponible</translation>
+    </message>
+    <message>
+        <source>Can't change backups now!</source>
+        <translation>No se pueden cambiar las copias de seguridad ahora</translation>
+    </message>
+    <message>
+        <source>Can't restore or delete backups during a sync.</source>
+        <translation>No se pueden restaurar ni eliminar copias de seguridad durante una sincronización.</translation>
+    </message>
+    <message>
+        <source>The game save on the PSP could not be kept first, so nothing on the PSP was changed.</source>
+        <translation>No se pudo conservar primero la partida que hay en la PSP, así que no se cambió nada en la PSP.</translation>
+    </message>
+    <message>
+        <source>The game save that was on the PSP is kept as the newest backup.</source>
+        <translation>La partida que estaba en la PSP se conserva como la copia de seguridad más reciente.</translation>
+    </message>
+    <message>
+        <source>Restoring failed!</source>
+        <translation>No se pudo restaurar</translation>
+    </message>
 </context>
 </TS>

@@ -234,5 +234,33 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <source>Photos</source>
         <translation>Photos</translation>
     </message>
+    <message>
+        <source>Backup</source>
+        <translation>Sauvegarde</translation>
+    </message>
+    <message>
+        <source>No description available</source>
+        <translation>Aucune description disponible</translation>
+    </message>
+    <message>
+        <source>Can't change backups now!</source>
+        <translation>Impossible de modifier les sauvegardes maintenant !</translation>
+    </message>
+    <message>
+        <source>Can't restore or delete backups during a sync.</source>
+        <translation>Impossible de restaurer ou de supprimer des sauvegardes pendant une synchronisation.</translation>
+    </message>
+    <message>
+        <source>The game save on the PSP could not be kept first, so nothing on the PSP was changed.</source>
+        <translation>La partie présente sur la PSP n’a pas pu être conservée d’abord ; rien n’a donc été modifié sur la PSP.</translation>
+    </message>
+    <message>
+        <source>The game save that was on the PSP is kept as the newest backup.</source>
+        <translation>La partie qui se trouvait sur la PSP est conservée comme sauvegarde la plus récente.</translation>
+    </message>
+    <message>
+        <source>Restoring failed!</source>
+        <translation>Échec de la restauration !</translation>
+    </message>
 </context>
 </TS>

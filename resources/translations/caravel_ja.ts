@@ -234,5 +234,33 @@ Please deselect some media to ensure the sync can be completed.</source>
         <source>Photos</source>
         <translation>写真</translation>
     </message>
+    <message>
+        <source>Backup</source>
+        <translation>バックアップ</translation>
+    </message>
+    <message>
+        <source>No description available</source>
+        <translation>説明はありません</translation>
+    </message>
+    <message>
+        <source>Can't change backups now!</source>
+        <translation>今はバックアップを変更できません</translation>
+    </message>
+    <message>
+        <source>Can't restore or delete backups during a sync.</source>
+        <translation>同期中はバックアップを復元または削除できません。</translation>
+    </message>
+    <message>
+        <source>The game save on the PSP could not be kept first, so nothing on the PSP was changed.</source>
+        <translation>PSP 上のセーブデータを先に保管できなかったため、PSP には何も変更を加えていません。</translation>
+    </message>
+    <message>
+        <source>The game save that was on the PSP is kept as the newest backup.</source>
+        <translation>PSP にあったセーブデータは最新のバックアップとして保管されています。</translation>
+    </message>
+    <message>
+        <source>Restoring failed!</source>
+        <translation>復元できませんでした</translation>
+    </message>
 </context>
 </TS>

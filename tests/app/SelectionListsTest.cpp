@@ -11,7 +11,7 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
     using Library = MusicLibraryFile;
     SyncHarness harness;
     harness.mountStick();
-    const SelectionLists lists(harness.manager);
+    const SelectionLists lists(harness.manager, harness.clock);
     EXPECT_TRUE(lists.musicItems().isEmpty()) << "no library";
 
     Library library;
@@ -51,7 +51,7 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
 TEST(PhotosItems, OffersAlbumsByKind)
 {
     SyncHarness harness;
-    const SelectionLists lists(harness.manager);
+    const SelectionLists lists(harness.manager, harness.clock);
     EXPECT_TRUE(lists.photosItems().isEmpty());
     PhotoLibraryFile library;
     const auto type = [](const char *name) {
@@ -85,7 +85,7 @@ TEST(PhotosItems, OffersAlbumsByKind)
 TEST(Selections, RefuseIdentifiersThatNameOtherPlaces)
 {
     SyncHarness harness;
-    const SelectionLists lists(harness.manager);
+    const SelectionLists lists(harness.manager, harness.clock);
     using Select = void (SelectionLists::*)(const QStringList &) const;
     const struct
     {

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "sync/CVSyncModule.h"
+
+#include <optional>
+#include <vector>
+
+class Clock;
+
+/// Copies the PSP's game saves ("PSP/SAVEDATA" on the stick) to the computer, where they are kept
+/// as a dated history: "<save>/<timestamp>/<save>" below the backup root, "Backup/Game Saves" in
+/// the documents folder. A timestamp is whole seconds since 1970 in decimal digits. What changed on
+/// the stick since its last backup becomes a new one; a copy appears in the history only when it is
+/// whole.
+///
+/// Restoring and deleting run on the main thread, never while a run is active: the caller sees to
+/// that.
+class CVSyncBackup : public CVSyncModule
+{
+public:
+    CVSyncBackup(CVSyncModuleDelegate *delegate, const Clock &clock);
+
+    static QString saveName();
+
+    /// The saves that have backups, and the timestamps of one save's, both in byte order of names
+    /// as they lie there.
+    static QStringList availableIdentifiers();
+    static QStringList availableSubIdentifiersForIdentifier(const QString &identifier);
+    /// The newest timestamp of a save; 0 where it has none.
+    static double latestTimestampForBackupIdentifier(const QString &identifier);
+    /// The number that a backup's folder name begins with; 0 for none.
+    static double timestampOf(const QString &name);
+    /// The folder that holds a backup's own files; the identifier is "<save>/<timestamp>".
+    static QString folderOf(const QString &identifier);
+
+    /// Whether a text names a save, or one backup of a save ("<save>/<timestamp>"): it leads
+    /// nowhere outside of the backup root then.
+    static bool isSave(const QString &identifier);
+    static bool isBackup(const QString &identifier);
+
+    enum class Restored {
+        Done,
+        NoBackup, ///< there is none of that identifier; nothing was changed
+        NotKept,  ///< the save on the stick could not be kept first; nothing was changed
+        Failed    ///< the stick is without that save; what it had is the newest backup
+    };
+    /// Puts one backup back on the stick at `volume`. The save that is there, if it differs,
+    /// becomes the newest backup first.
+    static Restored restoreBackupWithIdentifier(const QString &identifier, const QString &volume,
+                                                const Clock &clock);
+    /// Moves one backup, or all of a save, to the Trash; false where that fails or there is none.
+    static bool deleteBackupWithIdentifier(const QString &identifier);
+
+    QString moduleName() const override;
+    QString rootSyncFolder() const override;
+    std::vector<CVSyncItem> itemsToSync() override;
+    using CVSyncModule::cleanUp;
+    void cleanUp() override;
+
+protected:
+    bool copyItem(const CVSyncItem &item) override;
+
+private:
+    static void removeOldBackups();
+
+    const Clock &m_clock;
+};
