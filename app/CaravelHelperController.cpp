@@ -4,6 +4,8 @@
 #include "app/Log.h"
 #include "app/PrefsController.h"
 #include "modules/CVSyncBackup.h"
+#include "modules/CVSyncBookmarks.h"
+#include "modules/CVSyncContacts.h"
 #include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
 #include "modules/CVSyncPhotos.h"
@@ -45,6 +47,12 @@ ModuleFactory modules(const Clock &clock)
     };
     factory.backup = [&clock](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncBackup>(delegate, clock);
+    };
+    factory.contacts = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncContacts>(delegate);
+    };
+    factory.bookmarks = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncBookmarks>(delegate);
     };
     factory.movies = [](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncMovies>(delegate);

@@ -135,12 +135,6 @@ void addSelection(Table &table, const char *name, SelectionLists &lists,
     });
 }
 
-// What belongs to media that this helper has no module for.
-QVariantList noRows()
-{
-    return {};
-}
-
 void addLists(Table &table, SelectionLists &lists)
 {
     table.query("musicItems", "aa{sv}", [&lists] { return lists.musicItems(); });
@@ -149,7 +143,7 @@ void addLists(Table &table, SelectionLists &lists)
     table.query("photosItems", "aa{sv}", [&lists] { return lists.photosItems(); });
     addSelection(table, "setSelectedPhotosIdentifiers", lists,
                  &SelectionLists::setSelectedPhotosIdentifiers);
-    table.query("bookmarksItems", "aa{sv}", noRows);
+    table.query("bookmarksItems", "aa{sv}", [&lists] { return lists.bookmarksItems(); });
     addSelection(table, "setSelectedBookmarksIdentifiers", lists,
                  &SelectionLists::setSelectedBookmarksIdentifiers);
 }

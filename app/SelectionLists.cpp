@@ -3,6 +3,7 @@
 #include "app/Log.h"
 #include "app/RelativeDate.h"
 #include "modules/CVSyncBackup.h"
+#include "modules/CVSyncBookmarks.h"
 #include "modules/CVSyncMovies.h"
 #include "modules/CVSyncMusic.h"
 #include "modules/CVSyncPhotos.h"
@@ -49,6 +50,23 @@ Kind kindOf(const PhotoLibrary::Album &album)
     if (album.isMaster)
         return {QStringLiteral("iPhotoLibrary"), 0};
     return kinds.value(album.type.value_or(QString()), {QStringLiteral("iPhotoAlbum"), 7});
+}
+
+Kind kindOf(const BookmarkFolder &folder)
+{
+    if (folder.title == u"BookmarksBar")
+        return {QStringLiteral("BookmarksBar"), 0};
+    if (folder.title == u"BookmarksMenu")
+        return {QStringLiteral("BookmarksMenu"), 1};
+    return {QStringLiteral("Folder16"), 2};
+}
+
+// Safari keeps two of its folders under names of its own.
+QString shownTitle(const QString &title)
+{
+    if (title == u"BookmarksBar")
+        return localized("Bookmarks Bar");
+    return title == u"BookmarksMenu" ? localized("Bookmarks Menu") : title;
 }
 
 QSet<QString> toSet(const std::optional<QStringList> &selection)
@@ -119,6 +137,21 @@ QVariantList SelectionLists::photosItems() const
     return rows;
 }
 
+QVariantList SelectionLists::bookmarksItems() const
+{
+    const QSet<QString> selected =
+        toSet(CVSyncBookmarks::selectedIdentifiersForPSP(m_manager.pspVolume()));
+    QVariantList rows;
+    for (const BookmarkFolder &folder : CVSyncBookmarks::availableIdentifiers()) {
+        if (!folder.title)
+            continue;
+        QVariantMap found = row(*folder.title, kindOf(folder), folder.size, selected);
+        found.insert(QStringLiteral("name"), shownTitle(*folder.title));
+        rows.append(found);
+    }
+    return rows;
+}
+
 void SelectionLists::setSelected(const QString &moduleSaveName, const QStringList &identifiers,
                                  bool (*isGood)(const QString &)) const
 {
@@ -143,7 +176,7 @@ void SelectionLists::setSelectedPhotosIdentifiers(const QStringList &identifiers
 
 void SelectionLists::setSelectedBookmarksIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(QStringLiteral("Bookmarks"), identifiers, isRelativePath);
+    setSelected(CVSyncBookmarks::saveName(), identifiers, isRelativePath);
 }
 
 void SelectionLists::setSelectedMoviesIdentifiers(const QStringList &identifiers) const

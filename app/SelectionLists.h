@@ -26,6 +26,8 @@ public:
     /// The same for the photo library's albums.
     QVariantList photosItems() const;
     void setSelectedPhotosIdentifiers(const QStringList &identifiers) const;
+    /// The same for the top-level folders of the chosen browser's bookmarks.
+    QVariantList bookmarksItems() const;
     void setSelectedBookmarksIdentifiers(const QStringList &identifiers) const;
     void setSelectedMoviesIdentifiers(const QStringList &identifiers) const;
     void setSelectedBackupIdentifiers(const QStringList &identifiers) const;
@@ -39,7 +41,6 @@ public:
 private:
     void setSelected(const QString &moduleSaveName, const QStringList &identifiers,
                      bool (*isGood)(const QString &)) const;
-
     QString dateText(double timestamp) const;
 
     const CVSyncManager &m_manager;

@@ -17,8 +17,10 @@ packages=(
     # Building
     g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools
     libglib2.0-dev libexpat1-dev libplist-dev libcli11-dev librsvg2-bin python3
+    libebook1.2-dev libssl-dev
     # Tests and benchmarks
     libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs mount util-linux xvfb
+    evolution-data-server
     # The demo's sound files, and the helper at run time
     ffmpeg
 )

@@ -262,5 +262,41 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <source>Restoring failed!</source>
         <translation>Wiederherstellung fehlgeschlagen!</translation>
     </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Bookmarks Bar</source>
+        <translation>Lesezeichenleiste</translation>
+    </message>
+    <message>
+        <source>Bookmarks Menu</source>
+        <translation>Lesezeichenmenü</translation>
+    </message>
+    <message>
+        <source>Syncing Safari Bookmarks...</source>
+        <translation>Safari-Lesezeichen werden synchronisiert …</translation>
+    </message>
+    <message>
+        <source>Syncing Firefox Bookmarks...</source>
+        <translation>Firefox-Lesezeichen werden synchronisiert …</translation>
+    </message>
+    <message>
+        <source>Syncing OmniWeb Bookmarks...</source>
+        <translation>OmniWeb-Lesezeichen werden synchronisiert …</translation>
+    </message>
+    <message>
+        <source>Syncing Camino Bookmarks...</source>
+        <translation>Camino-Lesezeichen werden synchronisiert …</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Icons...</source>
+        <translation>Kontaktbilder werden synchronisiert …</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Index...</source>
+        <translation>Kontaktliste wird synchronisiert …</translation>
+    </message>
 </context>
 </TS>

@@ -262,5 +262,41 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <source>Restoring failed!</source>
         <translation>No se pudo restaurar</translation>
     </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>Marcadores</translation>
+    </message>
+    <message>
+        <source>Bookmarks Bar</source>
+        <translation>Barra de marcadores</translation>
+    </message>
+    <message>
+        <source>Bookmarks Menu</source>
+        <translation>Menú de marcadores</translation>
+    </message>
+    <message>
+        <source>Syncing Safari Bookmarks...</source>
+        <translation>Sincronizando los marcadores de Safari…</translation>
+    </message>
+    <message>
+        <source>Syncing Firefox Bookmarks...</source>
+        <translation>Sincronizando los marcadores de Firefox…</translation>
+    </message>
+    <message>
+        <source>Syncing OmniWeb Bookmarks...</source>
+        <translation>Sincronizando los marcadores de OmniWeb…</translation>
+    </message>
+    <message>
+        <source>Syncing Camino Bookmarks...</source>
+        <translation>Sincronizando los marcadores de Camino…</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Icons...</source>
+        <translation>Sincronizando las imágenes de los contactos…</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Index...</source>
+        <translation>Sincronizando la lista de contactos…</translation>
+    </message>
 </context>
 </TS>

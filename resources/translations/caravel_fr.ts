@@ -262,5 +262,41 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <source>Restoring failed!</source>
         <translation>Échec de la restauration !</translation>
     </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>Signets</translation>
+    </message>
+    <message>
+        <source>Bookmarks Bar</source>
+        <translation>Barre des signets</translation>
+    </message>
+    <message>
+        <source>Bookmarks Menu</source>
+        <translation>Menu des signets</translation>
+    </message>
+    <message>
+        <source>Syncing Safari Bookmarks...</source>
+        <translation>Synchronisation des signets de Safari…</translation>
+    </message>
+    <message>
+        <source>Syncing Firefox Bookmarks...</source>
+        <translation>Synchronisation des signets de Firefox…</translation>
+    </message>
+    <message>
+        <source>Syncing OmniWeb Bookmarks...</source>
+        <translation>Synchronisation des signets d’OmniWeb…</translation>
+    </message>
+    <message>
+        <source>Syncing Camino Bookmarks...</source>
+        <translation>Synchronisation des signets de Camino…</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Icons...</source>
+        <translation>Synchronisation des images des contacts…</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Index...</source>
+        <translation>Synchronisation de la liste des contacts…</translation>
+    </message>
 </context>
 </TS>

@@ -262,5 +262,41 @@ Please deselect some media to ensure the sync can be completed.</source>
         <source>Restoring failed!</source>
         <translation>復元できませんでした</translation>
     </message>
+    <message>
+        <source>Bookmarks</source>
+        <translation>ブックマーク</translation>
+    </message>
+    <message>
+        <source>Bookmarks Bar</source>
+        <translation>ブックマークバー</translation>
+    </message>
+    <message>
+        <source>Bookmarks Menu</source>
+        <translation>ブックマークメニュー</translation>
+    </message>
+    <message>
+        <source>Syncing Safari Bookmarks...</source>
+        <translation>Safari のブックマークを同期しています…</translation>
+    </message>
+    <message>
+        <source>Syncing Firefox Bookmarks...</source>
+        <translation>Firefox のブックマークを同期しています…</translation>
+    </message>
+    <message>
+        <source>Syncing OmniWeb Bookmarks...</source>
+        <translation>OmniWeb のブックマークを同期しています…</translation>
+    </message>
+    <message>
+        <source>Syncing Camino Bookmarks...</source>
+        <translation>Camino のブックマークを同期しています…</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Icons...</source>
+        <translation>連絡先の画像を同期しています…</translation>
+    </message>
+    <message>
+        <source>Syncing Contact Index...</source>
+        <translation>連絡先の一覧を同期しています…</translation>
+    </message>
 </context>
 </TS>

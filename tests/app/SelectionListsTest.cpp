@@ -6,6 +6,29 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+/// "identifier icon order size", the name in parentheses where it is another.
+std::string described(const QVariantList &rows)
+{
+    QStringList lines;
+    for (const QVariant &item : rows) {
+        const QVariantMap row = item.toMap();
+        QString line = row.value(QStringLiteral("identifier")).toString();
+        if (row.value(QStringLiteral("name")).toString() != line)
+            line += QStringLiteral(" (%1)").arg(row.value(QStringLiteral("name")).toString());
+        for (const char *key : {"icon", "order", "size"})
+            line += u' ' + row.value(QString::fromLatin1(key)).toString();
+        if (row.value(QStringLiteral("enabled")).toBool())
+            line += QStringLiteral(" enabled");
+        EXPECT_EQ(row.size(), row.contains(QStringLiteral("enabled")) ? 6 : 5);
+        lines.append(line);
+    }
+    return lines.join(QStringLiteral(", ")).toStdString();
+}
+
+} // namespace
+
 TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
 {
     using Library = MusicLibraryFile;
@@ -28,22 +51,9 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
     lists.setSelectedMusicIdentifiers(
         {QStringLiteral("Smart"), QStringLiteral("AC/DC: Live?"), QStringLiteral("Films")});
 
-    QStringList rows;
-    for (const QVariant &item : lists.musicItems()) {
-        const QVariantMap row = item.toMap();
-        EXPECT_EQ(row.value(QStringLiteral("name")), row.value(QStringLiteral("identifier")));
-        rows.append(QStringLiteral("%1 %2 %3 %4 %5")
-                        .arg(row.value(QStringLiteral("name")).toString(),
-                             row.value(QStringLiteral("icon")).toString())
-                        .arg(row.value(QStringLiteral("order")).toInt())
-                        .arg(row.value(QStringLiteral("size")).toInt())
-                        .arg(row.contains(QStringLiteral("enabled")) ? QStringLiteral("enabled")
-                                                                     : QStringLiteral("-")));
-    }
-    EXPECT_EQ(rows, (QStringList{QStringLiteral("Library iTunesLibrary 0 3 -"),
-                                 QStringLiteral("Talk iTunesPodcasts 1 0 -"),
-                                 QStringLiteral("Smart iTunesSmartPlaylist 2 2 enabled"),
-                                 QStringLiteral("AC/DC: Live? iTunesPlaylist 3 1 enabled")}));
+    EXPECT_EQ(described(lists.musicItems()),
+              "Library iTunesLibrary 0 3, Talk iTunesPodcasts 1 0, "
+              "Smart iTunesSmartPlaylist 2 2 enabled, AC/DC: Live? iTunesPlaylist 3 1 enabled");
     EXPECT_TRUE(treeOf(harness.home(QStringLiteral("Documents")))
                     .contains(QStringLiteral("Caravel/Dropboxes/Music/")));
 }
@@ -66,20 +76,31 @@ TEST(PhotosItems, OffersAlbumsByKind)
     writeFile(harness.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml")),
               library.contents());
     lists.setSelectedPhotosIdentifiers({QStringLiteral("Plain")});
-    QStringList rows;
-    for (const QVariant &item : lists.photosItems()) {
-        const QVariantMap row = item.toMap();
-        rows.append(
-            QStringLiteral("%1 %2 %3%4")
-                .arg(row.value(QStringLiteral("icon")).toString())
-                .arg(row.value(QStringLiteral("order")).toInt())
-                .arg(row.value(QStringLiteral("size")).toInt())
-                .arg(row.contains(QStringLiteral("enabled")) ? QStringLiteral("+") : QString()));
-    }
-    EXPECT_EQ(rows.join(u','),
-              QStringLiteral("iPhotoLibrary 0 2,iPhotoRoll 1 0,iPhotoMonth 2 0,iPhotoSmartAlbum 3 "
-                             "0,iPhotoAlbum 4 0,iPhotoBook 5 0,iPhotoSlideshow 6 0,iPhotoAlbum 7 "
-                             "0,iPhotoAlbum 7 1+"));
+    EXPECT_EQ(described(lists.photosItems()),
+              "All iPhotoLibrary 0 2, Special Roll iPhotoRoll 1 0, Special Month iPhotoMonth 2 0, "
+              "Smart iPhotoSmartAlbum 3 0, Regular iPhotoAlbum 4 0, Book iPhotoBook 5 0, "
+              "Slideshow iPhotoSlideshow 6 0, Calendar iPhotoAlbum 7 0, "
+              "Plain iPhotoAlbum 7 1 enabled");
+}
+
+TEST(BookmarksItems, OffersTopLevelFolders)
+{
+    SyncHarness harness;
+    const SelectionLists lists(harness.manager, harness.clock);
+    EXPECT_TRUE(lists.bookmarksItems().isEmpty());
+    const auto folder = [](const char *title, int size) {
+        return QByteArray("<dict><key>WebBookmarkType</key><string>WebBookmarkTypeList</string>"
+                          "<key>Title</key><string>") +
+               title + "</string><key>Children</key><array>" +
+               QByteArray("<dict/>").repeated(size) + "</array></dict>";
+    };
+    writeFile(harness.home(QStringLiteral("Library/Safari/Bookmarks.plist")),
+              "<plist><dict><key>Children</key><array>" + folder("BookmarksBar", 2) +
+                  folder("BookmarksMenu", 0) + folder("News", 1) + "</array></dict></plist>");
+    lists.setSelectedBookmarksIdentifiers({QStringLiteral("BookmarksMenu")});
+    EXPECT_EQ(described(lists.bookmarksItems()),
+              "BookmarksBar (Bookmarks Bar) BookmarksBar 0 2, "
+              "BookmarksMenu (Bookmarks Menu) BookmarksMenu 1 0 enabled, News Folder16 2 1");
 }
 
 TEST(Selections, RefuseIdentifiersThatNameOtherPlaces)

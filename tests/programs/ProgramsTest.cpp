@@ -138,7 +138,7 @@ TEST_F(ProgramsTest, StartOverGarbage)
     run({QStringLiteral("prefs"), QStringLiteral("organizeMusicBy"), QStringLiteral("3")});
     EXPECT_EQ(readFile(preferences + QStringLiteral(".unreadable")), "garbage");
     EXPECT_EQ(treeOf(programs.home(QStringLiteral("Library/Application Support/Caravel"))),
-              QStringList{QStringLiteral("other")});
+              QStringList({QStringLiteral("bookmarks.html"), QStringLiteral("other")}));
     for (const char *name : {"Music", "Photos", "Movies"})
         EXPECT_TRUE(
             QDir(programs.home(

@@ -1,0 +1,33 @@
+#include "util/TextFile.h"
+
+#include "platform/FileManager.h"
+#include "util/Log.h"
+
+#include <QStringDecoder>
+
+namespace {
+
+QString decoded(const QByteArray &bytes)
+{
+    const auto marked = QStringConverter::encodingForData(bytes);
+    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8),
+                           QStringConverter::Flag::Stateless);
+    const QString text = decoder.decode(bytes);
+    return decoder.hasError() && !marked ? QString::fromLatin1(bytes) : text;
+}
+
+} // namespace
+
+std::optional<QString> TextFile::read(const QString &path, quint64 limit)
+{
+    const FileManager &files = FileManager::defaultManager();
+    const std::optional<QByteArray> bytes = files.readFile(path, limit);
+    if (bytes)
+        return decoded(*bytes);
+    if (const FileStatus status = files.status(path); status.size > limit)
+        qCWarning(lcUtil).noquote()
+            << "Can't read" << path << "which is longer than" << limit << "bytes";
+    else if (status.exists())
+        qCWarning(lcUtil).noquote() << "Can't read" << path;
+    return std::nullopt;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace TextFile {
+
+/// Longest text that is read by default, in bytes.
+inline constexpr quint64 defaultLimit = 64ULL << 20;
+
+/// A whole file as text: in the encoding that its byte-order mark names (the mark itself is left
+/// out), else in UTF-8, else, where it is no valid UTF-8, in Latin-1. Nothing when the file is
+/// missing, or when it is longer than the limit or can't be read, which the system log then says.
+/// Any thread.
+std::optional<QString> read(const QString &path, quint64 limit = defaultLimit);
+
+} // namespace TextFile
