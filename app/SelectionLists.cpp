@@ -241,8 +241,7 @@ QVariantList SelectionLists::backupItems() const
             {QStringLiteral("name"), parameters ? value(*parameters, "TITLE") : save},
             {QStringLiteral("icon"), folder + QStringLiteral("/ICON0.PNG")},
             {QStringLiteral("description"), description},
-            {QStringLiteral("date"),
-             dateText(CVSyncBackup::latestTimestampForBackupIdentifier(save))},
+            {QStringLiteral("date"), dateText(CVSyncBackup::timestampOf(backups.last()))},
         });
     }
     return rows;

@@ -40,10 +40,8 @@ QString savedataFolder(const QString &volume)
 QStringList namesIn(const QString &folder)
 {
     QStringList names;
-    for (const FolderEntry &entry : files().subpaths(folder)) {
-        if (entry.parent < 0)
-            names.append(entry.path);
-    }
+    for (const FolderEntry &entry : files().entries(folder))
+        names.append(entry.path);
     return names;
 }
 

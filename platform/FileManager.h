@@ -83,6 +83,8 @@ public:
     /// be read counts as empty and is named in the system log, as is an entry that is left out
     /// because its name is no valid UTF-8 (no QString could lead back to it).
     virtual std::vector<FolderEntry> subpaths(const QString &folder) const;
+    /// The same without what lies deeper than the folder's own entries.
+    virtual std::vector<FolderEntry> entries(const QString &folder) const;
 
     /// Whether two files, or two folder trees entry by entry, hold the same bytes. Links are
     /// compared by their targets' texts and never followed. Sizes are compared before contents.

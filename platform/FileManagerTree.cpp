@@ -48,16 +48,17 @@ std::optional<std::vector<Entry>> entriesAt(const std::string &folder, Links lin
 class Lister
 {
 public:
-    explicit Lister(std::string top)
+    enum class Depth { Whole, Top };
+
+    Lister(std::string top, Depth depth)
         : m_top(std::move(top))
+        , m_depth(depth)
     {
     }
 
     std::vector<FolderEntry> list()
     {
-        struct stat status;
-        if (::stat(m_top.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
-            listFolder(m_top, QString(), -1, Links::Follow);
+        listFolder(m_top, QString(), -1, Links::Follow);
         return std::move(m_found);
     }
 
@@ -65,6 +66,8 @@ private:
     void listFolder(const std::string &folder, const QString &prefix, int parent, Links links)
     {
         const auto entries = entriesAt(folder, links);
+        if (!entries && parent < 0 && (errno == ENOENT || errno == ENOTDIR))
+            return;
         if (!entries) {
             qCWarning(lcPlatform, "Can't read the folder %s: %s", folder.c_str(),
                       qPrintable(Posix::reason(errno)));
@@ -86,11 +89,12 @@ private:
         const QString path = prefix + name.toString();
         m_found.push_back({path, isFolder, parent});
         const int index = static_cast<int>(m_found.size()) - 1;
-        if (isFolder)
+        if (isFolder && m_depth == Depth::Whole)
             listFolder(folder + '/' + entry.name, path + u'/', index, Links::Refuse);
     }
 
     const std::string m_top;
+    const Depth m_depth;
     std::vector<FolderEntry> m_found;
 };
 
@@ -451,7 +455,12 @@ private:
 
 std::vector<FolderEntry> FileManager::subpaths(const QString &folder) const
 {
-    return Lister(nativeText(folder)).list();
+    return Lister(nativeText(folder), Lister::Depth::Whole).list();
+}
+
+std::vector<FolderEntry> FileManager::entries(const QString &folder) const
+{
+    return Lister(nativeText(folder), Lister::Depth::Top).list();
 }
 
 bool FileManager::contentsEqual(const QString &first, const QString &second) const
