@@ -123,6 +123,8 @@ void CaravelHelperController::initialize()
         helperDidStartNotification(), this, [this] { helperDidStart(); },
         DistributedNotificationCenter::Own::Ignore);
     logDetail(QStringLiteral("Initializing SyncManager..."));
+    // The estimate's modules write into them.
+    createFolders();
     m_manager.refreshSyncBytesEstimate();
     logDetail(QStringLiteral("Creating helper connection..."));
     m_helperConnection.exportObject(QStringLiteral("/CaravelHelper"),
@@ -139,7 +141,6 @@ void CaravelHelperController::setUp()
 {
     logDetail(QStringLiteral("Setting up status item..."));
     m_status.setStatusText(localized("No PSP Connected"));
-    createFolders();
     removeLeftovers();
     changeStartOnLogin();
     m_manager.detectPSP();
@@ -262,7 +263,7 @@ void CaravelHelperController::restoreBackup(const QString &identifier)
         return;
     logDetail(filled(QStringLiteral("Restoring backup %@..."), {identifier}));
     if (!m_manager.pspIsMounted()) {
-        qCWarning(lcApp).noquote() << "No PSP is connected to restore to:" << identifier;
+        restoreFailed(identifier, localized("No PSP is connected. Nothing was changed."));
         return;
     }
     using Restored = CVSyncBackup::Restored;

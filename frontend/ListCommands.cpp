@@ -2,12 +2,15 @@
 
 #include "frontend/HelperClient.h"
 #include "frontend/Output.h"
+#include "frontend/Rows.h"
 #include "platform/UserDefaults.h"
 
 #include <QJsonArray>
 #include <QSet>
 
 #include <algorithm>
+
+using Rows::text;
 
 namespace {
 
@@ -18,11 +21,6 @@ const ListKind &kindNamed(const QString &name)
                                     [&](const ListKind &kind) { return kind.name == name; });
     Q_ASSERT(found != kinds.end());
     return *found;
-}
-
-QString text(const QVariantMap &row, QStringView key)
-{
-    return row.value(key.toString()).toString();
 }
 
 QStringList currentSelection(const ListKind &kind, const QVariantList &rows)

@@ -2,36 +2,19 @@
 
 #include "frontend/HelperClient.h"
 #include "frontend/Output.h"
+#include "frontend/Rows.h"
 
 #include <QFileInfo>
 
 namespace {
 
-QString text(const QVariantMap &row, QStringView key)
+/// Empty where there is no such row; the error is told, or remembered by the client.
+QVariantMap movieNamed(HelperClient &helper, const QString &id)
 {
-    return row.value(key.toString()).toString();
-}
-
-/// The one row that the user means; empty, with an error told, for none and for several.
-QVariantMap rowNamed(HelperClient &helper, const QString &id)
-{
-    QList<QVariantMap> byName;
-    for (const QVariant &each : helper.ask(QStringLiteral("moviesItems")).toList()) {
-        const QVariantMap row = each.toMap();
-        if (text(row, u"identifier") == id || text(row, u"identifier2") == id)
-            return row;
-        if (text(row, u"name") == id)
-            byName.append(row);
-    }
-    if (byName.size() == 1)
-        return byName.first();
-    if (!helper.failed())
-        Output::error(byName.isEmpty()
-                          ? QStringLiteral("there is no movie %1").arg(id)
-                          : QStringLiteral("several movies are called %1; name one by its "
-                                           "identifier, see list movies --json")
-                                .arg(id));
-    return {};
+    const QVariantList movies = helper.ask(QStringLiteral("moviesItems")).toList();
+    if (helper.failed())
+        return {};
+    return Rows::named(movies, id, QStringLiteral("movie"), QStringLiteral("movies"));
 }
 
 // Refused here, since the helper answers nothing.
@@ -65,7 +48,7 @@ ExitStatus runRemoveMovie(const QString &id)
 {
     HelperClient helper;
     helper.connectToHelper();
-    const QVariantMap row = rowNamed(helper, id);
+    const QVariantMap row = movieNamed(helper, id);
     if (!row.isEmpty())
         helper.ask(QStringLiteral("removeMovieItem"), {row});
     return row.isEmpty() && !helper.failed() ? Refused : helper.reportFailure();
@@ -79,7 +62,7 @@ ExitStatus runRenameMovie(const QString &id, const QString &title)
     }
     HelperClient helper;
     helper.connectToHelper();
-    const QVariantMap row = rowNamed(helper, id);
+    const QVariantMap row = movieNamed(helper, id);
     if (!row.isEmpty())
         helper.ask(QStringLiteral("renameMovieItem"), {row, title});
     return row.isEmpty() && !helper.failed() ? Refused : helper.reportFailure();

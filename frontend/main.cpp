@@ -2,6 +2,7 @@
 #include "frontend/MovieCommands.h"
 #include "frontend/Output.h"
 #include "frontend/PrefsCommand.h"
+#include "frontend/SaveCommands.h"
 #include "frontend/StatusCommands.h"
 #include "frontend/SyncCommand.h"
 #include "frontend/TerminalWindow.h"
@@ -33,6 +34,7 @@ struct Arguments
     bool remove = false;
     bool all = false;
     bool none = false;
+    bool yes = false;
     std::string kind;
     std::string id;
     std::string title;
@@ -56,6 +58,7 @@ private:
     void addList();
     void addSelect();
     void addMovies();
+    void addSaves();
     void addPrefs();
     ExitStatus select() const;
 
@@ -82,6 +85,7 @@ CommandLine::CommandLine()
     addList();
     addSelect();
     addMovies();
+    addSaves();
     addPrefs();
 }
 
@@ -89,7 +93,11 @@ CLI::App *CommandLine::add(CLI::App &parent, const std::string &name,
                            const std::string &description, Command command)
 {
     CLI::App *subcommand = parent.add_subcommand(name, description);
-    subcommand->callback([this, command = std::move(command)] { m_chosen = command; });
+    // A command's own callback comes after those of the commands below it.
+    subcommand->callback([this, subcommand, command = std::move(command)] {
+        if (subcommand->get_subcommands().empty())
+            m_chosen = command;
+    });
     return subcommand;
 }
 
@@ -171,6 +179,30 @@ void CommandLine::addMovies()
         command->add_option("ID", m_arguments.id, "Identifier, or a name that only one movie has")
             ->required();
     rename->add_option("TITLE", m_arguments.title, "The new title")->required();
+}
+
+void CommandLine::addSaves()
+{
+    CLI::App *saves =
+        addReading("saves", "Show the backups of a game save; restore or delete them", [this] {
+            if (m_arguments.id.empty()) {
+                Output::error(QStringLiteral("name a game save, see caravel list saves"));
+                return BadUsage;
+            }
+            return runSaves(QString::fromLocal8Bit(m_arguments.id), m_arguments.json);
+        });
+    saves->add_option("SAVE", m_arguments.id, "Identifier, or a name that only one save has");
+    saves->require_subcommand(0, 1);
+    CLI::App *restore =
+        add(*saves, "restore", "Put a backup back on the PSP; what is there is kept as a backup",
+            [this] { return runRestoreSave(QString::fromLocal8Bit(m_arguments.id)); });
+    restore->add_option("ID", m_arguments.id, "Identifier of the backup")->required();
+    CLI::App *remove =
+        add(*saves, "delete", "Move a backup, or all of a save, to the Trash", [this] {
+            return runDeleteSave(QString::fromLocal8Bit(m_arguments.id), m_arguments.yes);
+        });
+    remove->add_option("ID", m_arguments.id, "Identifier of the backup or of the save")->required();
+    remove->add_flag("--yes", m_arguments.yes, "Don't ask");
 }
 
 void CommandLine::addPrefs()

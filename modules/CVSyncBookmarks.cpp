@@ -114,7 +114,7 @@ std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
     QString reason;
     if (!FileManager::defaultManager().writeAtomically(staged, header + lines + "</DL><p>",
                                                        &reason))
-        qCWarning(lcModules).noquote() << "Can't write" << staged << reason;
+        qCWarning(lcModules).noquote().nospace() << "Can't write " << staged << ": " << reason;
     if (lines.isEmpty())
         return {};
     return {CVSyncItem(staged, rootSyncFolder() + name, progressText())};

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Shows the whole road once: a home with music, photos and a movie, a stick in a folder, the helper on a
-# private session bus, three syncs and an eject. Checks what came to lie on the stick and fails if it is
-# wrong.
+# Shows the whole road once: a home with music, photos, contacts, bookmarks and a movie, a stick with game
+# saves in a folder, the helper on a private session bus, three syncs and an eject. Checks what came to lie
+# on the stick and in the backups, and fails if it is wrong.
 set -euo pipefail
 
 usage() {
@@ -66,14 +66,15 @@ main() {
         cmake --build --preset release --parallel "$(nproc)" \
             --target caravel caravel-helper caravel_resources caravel_translations
     )
-    heading "A home with music, photos and a movie, and a stick, in $sample"
+    heading "A home full of media, and a stick, in $sample"
     mkdir -p "$sample/home" "$sample/volumes"
     "$project/scripts/demo/make_sample.py" "$sample/home" "$sample/volumes/MEMORYSTICK"
     (cd "$sample/home" && find . -type f -printf '%10s  %P\n' | sort -k 2)
 
     # Neither the user's own folders nor the user's own bus has a part in this.
     unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME CARAVEL_VOLUMES
-    HOME=$sample/home LC_ALL=C.UTF-8 \
+    mkdir -m 700 "$sample/run"
+    HOME=$sample/home XDG_RUNTIME_DIR=$sample/run LC_ALL=C.UTF-8 \
         dbus-run-session -- "$0" --on-private-bus "$project" "$sample"
 
     if [[ -n $keep ]]; then
@@ -139,12 +140,42 @@ expect_files() {
         fail "$1 on the stick is not what the selection wants (< wanted, > found)"
 }
 
+# The page, and a picture of 64 by 64 pixels for each contact that has one.
+expect_contacts() {
+    local ada joao picture
+    ada=$(printf ada | md5sum | cut -c 1-32).JPG
+    joao=$(printf joao | md5sum | cut -c 1-32).JPG
+    expect_files Caravel/Contacts < <(printf '%s\n' index.html "$ada" "$joao")
+    for picture in "$ada" "$joao"; do
+        [[ $(ffprobe -v error -show_entries stream=width,height -of csv=p=0 \
+            "$stick/Caravel/Contacts/$picture") == 64,64 ]] || fail "$picture is no picture of 64 by 64"
+    done
+    grep -q 'Ada Quill.*João Conceição.*The Mill & Sons' <(tr -d '\n' <"$stick/Caravel/Contacts/index.html") ||
+        fail "the contacts page lacks somebody"
+}
+
+expect_bookmarks() {
+    local file=$stick/PSP/SYSTEM/BROWSER/bookmarks.html
+    heading "The browser's bookmarks"
+    cat "$file" && echo
+    diff <(sed -n 's/.*<A HREF="\([^"]*\)".*>\(.*\)<\/A>$/\1 \2/p' "$file") - <<'EOF' ||
+file:///Caravel/Contacts/index.html Caravel Contacts
+http://tides.example.org/?port=7&unit=m Tides
+http://news.example.org/ Harbour News
+http://weather.example.org/ 海の天気
+EOF
+        fail "the bookmarks are not those of the chosen folders (> wanted, < found)"
+}
+
+# stick_save SAVE: a digest of the save's files on the stick.
+stick_save() { (cd "$stick/PSP/SAVEDATA/$1" && find . -type f | sort | xargs sha256sum | sha256sum); }
+
 movie_is_synced() {
     [[ -f $stick/MP_ROOT/100MNV01/M4V00001.MP4 ]] && "$caravel" status | grep -q 'Sync Successful'
 }
 
 foreign_files() {
-    (cd "$stick" && sha256sum MEMSTICK.IND PSP/GAME/PUZZLE/EBOOT.PBP PSP/SAVEDATA/PUZZLE00/DATA.BIN)
+    (cd "$stick" && sha256sum MEMSTICK.IND PSP/GAME/PUZZLE/EBOOT.PBP)
 }
 
 expect_icon() {
@@ -186,6 +217,8 @@ on_private_bus() {
     run_caravel select music "Road Trip" "AC/DC: Live?"
     run_caravel list photos
     run_caravel select photos "Holiday" "Trip / 2006"
+    run_caravel list bookmarks
+    run_caravel select bookmarks "News" "Bookmarks Bar"
     run_caravel estimate
     run_caravel sync
 
@@ -208,6 +241,8 @@ Holiday/Beach.JPG
 Trip _ 2006/Beach.JPG
 Trip _ 2006/Map_ harbour_bay.png
 EOF
+    expect_contacts
+    expect_bookmarks
     [[ $(foreign_files) == "$foreign" ]] || fail "another program's files were touched"
     [[ -f $stick/.caravel/MusicSyncIndex.plist && -f $stick/.caravel/LastSyncSize ]] ||
         fail "the stick has no record of the sync"
@@ -217,6 +252,9 @@ EOF
     kept_file="$stick/PSP/MUSIC/Harbour Lights/002. Who's at the Helm_.mp3"
     local kept_inode
     kept_inode=$(stat -c %i "$kept_file")
+    local save=ULUS10001SLOT0 older
+    older=$(stick_save "$save")
+    printf 'night 4' | dd of="$stick/PSP/SAVEDATA/$save/DATA.BIN" conv=notrunc status=none
     run_caravel select music --remove "Road Trip"
     run_caravel select music --add "Recently Added"
     run_caravel sync
@@ -234,6 +272,19 @@ Live/Encore.MP4|Documents/Caravel/Dropboxes/Music/Live/Encore.m4a
 EOF
     [[ $(stat -c %i "$kept_file") == "$kept_inode" ]] || fail "a file that was in place was copied again"
     [[ $(foreign_files) == "$foreign" ]] || fail "another program's files were touched"
+
+    heading "Both states of the game that was played on are kept; the older one comes back"
+    run_caravel list saves
+    run_caravel saves "$save"
+    local newer backups
+    newer=$(stick_save "$save")
+    [[ $newer != "$older" ]] || fail "the game save didn't change"
+    mapfile -t backups < <("$caravel" saves "$save" | awk '{print $1}')
+    ((${#backups[@]} == 2)) || fail "there are ${#backups[@]} backups of $save instead of two"
+    run_caravel saves restore "${backups[1]}"
+    [[ $(stick_save "$save") == "$older" ]] || fail "the older game save did not come back"
+    run_caravel saves "$save"
+    (cd "$HOME/Documents/Caravel/Backup/Game Saves" && find . -type f -printf '%10s  %P\n' | sort -k 2)
 
     heading "A movie is converted, and synced when it is ready"
     run_caravel movies add "$HOME/Movies/Sailing Day.avi"

@@ -298,5 +298,9 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <source>Syncing Contact Index...</source>
         <translation>Kontaktliste wird synchronisiert …</translation>
     </message>
+    <message>
+        <source>No PSP is connected. Nothing was changed.</source>
+        <translation>Es ist keine PSP angeschlossen. Nichts wurde geändert.</translation>
+    </message>
 </context>
 </TS>

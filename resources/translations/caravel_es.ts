@@ -298,5 +298,9 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <source>Syncing Contact Index...</source>
         <translation>Sincronizando la lista de contactos…</translation>
     </message>
+    <message>
+        <source>No PSP is connected. Nothing was changed.</source>
+        <translation>No hay ninguna PSP conectada. No se ha cambiado nada.</translation>
+    </message>
 </context>
 </TS>

@@ -298,5 +298,9 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <source>Syncing Contact Index...</source>
         <translation>Synchronisation de la liste des contacts…</translation>
     </message>
+    <message>
+        <source>No PSP is connected. Nothing was changed.</source>
+        <translation>Aucune PSP n’est connectée. Rien n’a été modifié.</translation>
+    </message>
 </context>
 </TS>

@@ -298,5 +298,9 @@ Please deselect some media to ensure the sync can be completed.</source>
         <source>Syncing Contact Index...</source>
         <translation>連絡先の一覧を同期しています…</translation>
     </message>
+    <message>
+        <source>No PSP is connected. Nothing was changed.</source>
+        <translation>PSP が接続されていません。何も変更されていません。</translation>
+    </message>
 </context>
 </TS>

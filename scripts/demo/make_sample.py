@@ -1,10 +1,13 @@
 #!/usr/bin/env python3
-"""Makes the demo's home folder (music and photo libraries, a movie) and its Memory Stick."""
+"""Makes the demo's home folder (music and photo libraries, contacts, bookmarks, a movie) and its Memory
+Stick, with game saves."""
 
 import argparse
+import base64
 import datetime
 import hashlib
 import plistlib
+import struct
 import subprocess
 import sys
 from dataclasses import dataclass
@@ -219,9 +222,69 @@ def make_photo_library(home: Path) -> None:
                        "Master Image List": images}, file, sort_keys=False)
 
 
+def folded(line: str) -> str:
+    """A vCard's line, in pieces of which each but the first begins with a blank."""
+    return "\r\n ".join(line[start:start + 74] for start in range(0, len(line), 74))
+
+
+def card(*lines: str) -> str:
+    return "\r\n".join(("BEGIN:VCARD", "VERSION:3.0", *map(folded, lines), "END:VCARD", ""))
+
+
+def make_contacts(home: Path) -> None:
+    folder = home / ".contacts"
+    portrait = folder / "portraits" / "ada.png"
+    make_video("gradients=size=200x200:c0=orange:c1=purple", 0, portrait)
+    inline = home / "portrait.jpg"
+    make_video("testsrc=size=120x160", 0, inline)
+    photo = base64.b64encode(inline.read_bytes()).decode()
+    inline.unlink()
+    cards = (
+        card("UID:ada", "N:Quill;Ada;;;", "FN:Ada Quill", "TEL;TYPE=CELL,PREF:+49 170 5550100",
+             "TEL;TYPE=HOME:+49 30 5550101", "EMAIL;TYPE=HOME:ada@example.org",
+             "IMPP;TYPE=HOME:xmpp:ada@jabber.example.org",
+             "ADR;TYPE=HOME:;;7 Café Lane;Seaside;Coast;12345;Germany",
+             "NOTE:Sings on Thursdays.\\nLikes tea.",
+             f"PHOTO;VALUE=uri:{portrait.as_uri()}"),
+        card("UID:joao", "N:Conceição;João;;;", "FN:João Conceição", "ORG:Harbour Lights",
+             "TEL;TYPE=WORK:+351 21 555 0102", "EMAIL;TYPE=WORK:joao@example.org",
+             f"PHOTO;ENCODING=b;TYPE=JPEG:{photo}"),
+        card("UID:mill", "ORG:The Mill & Sons", "FN:The Mill & Sons", "TEL;TYPE=MAIN:+44 20 5550103",
+             "ADR;TYPE=WORK:;;1 Mill Road;Millbridge;;AB1 2CD;UK"),
+        card("UID:nobody", "EMAIL:unnamed@example.org"),
+    )
+    (folder / "people.vcf").write_text("".join(cards), newline="")
+
+
+def bookmark(title: str, address: str) -> dict:
+    return {"WebBookmarkType": "WebBookmarkTypeLeaf", "URLString": address,
+            "URIDictionary": {"title": title, "": address}}
+
+
+def bookmark_folder(title: str, *children: dict) -> dict:
+    return {"WebBookmarkType": "WebBookmarkTypeList", "Title": title, "Children": list(children)}
+
+
+def make_bookmarks(home: Path) -> None:
+    folder = home / "Library" / "Safari"
+    folder.mkdir(parents=True)
+    root = bookmark_folder(
+        "",
+        bookmark_folder("BookmarksBar", bookmark("Tides", "http://tides.example.org/?port=7&unit=m")),
+        bookmark_folder("BookmarksMenu"),
+        bookmark_folder("News", bookmark("Harbour News", "http://news.example.org/"),
+                        bookmark_folder("Far", bookmark("海の天気", "http://weather.example.org/"))),
+        bookmark("Not in a folder", "http://loose.example.org/"),
+    )
+    with open(folder / "Bookmarks.plist", "wb") as file:
+        plistlib.dump(root, file, fmt=plistlib.FMT_BINARY)
+
+
 def make_home(home: Path) -> None:
     make_library(home)
     make_photo_library(home)
+    make_contacts(home)
+    make_bookmarks(home)
     make_video("mandelbrot=size=240x160:rate=25", 0,
                home / "Documents/Caravel/Dropboxes/Photos/Cards/front.png")
     make_video("testsrc2=size=640x360:rate=25", 8, home / "Movies/Sailing Day.avi",
@@ -229,12 +292,43 @@ def make_home(home: Path) -> None:
     make_sound(DROPPED, home / "Documents/Caravel/Dropboxes/Music/Live/Encore.m4a")
 
 
+PARAMETER_SIZES = {"SAVEDATA_DETAIL": 1024, "SAVEDATA_TITLE": 128, "TITLE": 128, "CATEGORY": 4}
+
+
+def parameters(values: dict[str, str]) -> bytes:
+    """A PARAM.SFO: a header, an entry for each key in order, the keys, the values."""
+    entries, keys, data = b"", b"", b""
+    for key, value in sorted(values.items()):
+        text = value.encode() + b"\0"
+        entries += struct.pack("<HBBIII", len(keys), 4, 2, len(text), PARAMETER_SIZES[key], len(data))
+        keys += key.encode() + b"\0"
+        data += text.ljust(PARAMETER_SIZES[key], b"\0")
+    keys += bytes(-len(keys) % 4)
+    keys_at = 20 + len(entries)
+    return struct.pack("<4sIIII", b"\0PSF", 0x101, keys_at, keys_at + len(keys), len(values)) + \
+        entries + keys + data
+
+
+def make_save(folder: Path, game: str, title: str, detail: str, picture: str, data: bytes) -> None:
+    make_video(picture, 0, folder / "ICON0.PNG")
+    (folder / "PARAM.SFO").write_bytes(parameters({
+        "CATEGORY": "MS", "TITLE": game, "SAVEDATA_TITLE": title, "SAVEDATA_DETAIL": detail}))
+    (folder / "DATA.BIN").write_bytes(data)
+
+
+def make_saves(stick: Path) -> None:
+    saves = stick / "PSP/SAVEDATA"
+    make_save(saves / "ULUS10001SLOT0", "Lighthouse Keeper", "Slot 1", "Night 3, 12 ships home",
+              "gradients=size=144x80:c0=navy:c1=gold", bytes(range(256)) * 4)
+    make_save(saves / "UCES00002", "Puzzle Harbour", "", "Level 7",
+              "testsrc=size=144x80", b"level 7" * 100)
+
+
 def make_stick(stick: Path) -> None:
     """A stick that has been in use: other programs' files, and music that nobody selects any more."""
     files = {
         "MEMSTICK.IND": b"",
         "PSP/GAME/PUZZLE/EBOOT.PBP": b"\0PBP" + bytes(2044),
-        "PSP/SAVEDATA/PUZZLE00/DATA.BIN": bytes(range(256)) * 4,
         "PSP/MUSIC/Old Record/Gone.mp3": b"ID3\3" + bytes(4092),
         "PSP/MUSIC/.DS_Store": b"\0\0\0\1Bud1" + bytes(248),
         "PSP/PHOTO/Old Album/gone.jpg": b"\xff\xd8" + bytes(1022),
@@ -244,6 +338,7 @@ def make_stick(stick: Path) -> None:
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_bytes(content)
     (stick / "PSP/MUSIC/Empty").mkdir()
+    make_saves(stick)
 
 
 def main() -> int:

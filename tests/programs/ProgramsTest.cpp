@@ -25,12 +25,13 @@ protected:
         programs.writeLibrary();
     }
 
-    void run(const QStringList &arguments, int expected = 0)
+    QString run(const QStringList &arguments, int expected = 0)
     {
         const auto outcome = programs.caravel(arguments);
         EXPECT_EQ(outcome.status, expected)
             << qPrintable(arguments.join(u' ')) << ":\n"
             << qPrintable(outcome.output) << qPrintable(programs.helperOutput());
+        return outcome.output;
     }
     void selectRoadTrip()
     {
@@ -69,6 +70,74 @@ TEST_F(ProgramsTest, SyncAStickEndToEnd)
     EXPECT_TRUE(statusHas(QStringLiteral("No PSP Connected")));
     run({QStringLiteral("nonsense")}, 2);
     EXPECT_EQ(programs.stopHelper(), 0);
+}
+
+TEST_F(ProgramsTest, PlaceContactsAndBookmarks)
+{
+    writeFile(programs.home(QStringLiteral(".contacts/all.vcf")),
+              "BEGIN:VCARD\r\nUID:a\r\nFN:Ada Quill\r\nPHOTO;ENCODING=b:AAAA\r\nEND:VCARD\r\n");
+    writeFile(programs.home(QStringLiteral("Library/Safari/Bookmarks.plist")),
+              "<plist><dict><key>Children</key><array><dict><key>WebBookmarkType</key>"
+              "<string>WebBookmarkTypeList</string><key>Title</key><string>BookmarksBar</string>"
+              "<key>Children</key><array><dict><key>WebBookmarkType</key>"
+              "<string>WebBookmarkTypeLeaf</string><key>URLString</key><string>http://a/</string>"
+              "</dict></array></dict></array></dict></plist>");
+    programs.insertStick();
+    programs.startHelper();
+    ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("Available")); }));
+    EXPECT_TRUE(run({QStringLiteral("select"), QStringLiteral("bookmarks"),
+                     QStringLiteral("Bookmarks Bar")})
+                    .contains(QStringLiteral("[x] Bookmarks Bar  1")));
+    run({QStringLiteral("sync")});
+    EXPECT_TRUE(readFile(programs.stick(QStringLiteral("Caravel/Contacts/index.html")))
+                    .contains(">Ada Quill</a>"));
+    EXPECT_TRUE(QFile::exists(
+        programs.stick(QStringLiteral("Caravel/Contacts/0cc175b9c0f1b6a831c399e269772661.JPG"))));
+    const QByteArray bookmarks =
+        readFile(programs.stick(QStringLiteral("PSP/SYSTEM/BROWSER/bookmarks.html")));
+    EXPECT_TRUE(bookmarks.contains("\"file:///Caravel/Contacts/index.html\""));
+    EXPECT_TRUE(bookmarks.contains("\"http://a/\""));
+}
+
+TEST_F(ProgramsTest, KeepAHistoryOfGameSaves)
+{
+    const auto saves = [](const char *what, const QString &which) {
+        return QStringList{QStringLiteral("saves"), QString::fromLatin1(what), which};
+    };
+    const QString save = programs.stick(QStringLiteral("PSP/SAVEDATA/GAME1/DATA.BIN"));
+    programs.insertStick();
+    writeFile(save, "first");
+    programs.startHelper();
+    ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("Available")); }));
+    run({QStringLiteral("sync")});
+    writeFile(save, "second");
+    run({QStringLiteral("sync")});
+    const QStringList history =
+        run({QStringLiteral("saves"), QStringLiteral("GAME1")}).split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(history.size(), 2);
+    const QString oldest = history.last().section(u' ', 0, 0);
+
+    for (const char *bad : {"GAME1/1", "GAME1", "GAME2/1", "../GAME1/1", "/", "GAME1/.."})
+        run(saves("restore", QString::fromLatin1(bad)), 1);
+    for (const char *bad : {"GAME1/1", "GAME2", "..", "/", "GAME1/.."})
+        run(saves("delete", QString::fromLatin1(bad)), 1);
+    run({QStringLiteral("saves"), QStringLiteral("GAME2")}, 1);
+    run({QStringLiteral("saves")}, 2);
+    run(saves("delete", oldest), 1); // nobody is there to confirm it
+    EXPECT_EQ(readFile(save), "second");
+
+    run(saves("restore", oldest));
+    EXPECT_EQ(readFile(save), "first");
+    run(saves("delete", oldest) << QStringLiteral("--yes"));
+    const QString left = run({QStringLiteral("saves"), QStringLiteral("GAME1")});
+    EXPECT_EQ(left.count(u'\n'), 2) << "the second state twice, as synced and as replaced";
+    EXPECT_FALSE(left.contains(oldest));
+    run(saves("delete", QStringLiteral("GAME1")) << QStringLiteral("--yes"));
+    EXPECT_EQ(run({QStringLiteral("list"), QStringLiteral("saves")}), QString());
+    EXPECT_EQ(readFile(save), "first");
+
+    run({QStringLiteral("eject")});
+    run(saves("restore", oldest), 1);
 }
 
 TEST_F(ProgramsTest, StartAHelperWhereNoneRuns)

@@ -11,11 +11,27 @@
 namespace {
 
 /// Starts the daemon with its output in the pipe; -1 where it can't be started.
-pid_t spawnDaemon(int output)
+pid_t spawnDaemon(int output, const QByteArray &home)
 {
-    const char *const arguments[] = {"setpriv",     "--pdeathsig",     "TERM",
-                                     "dbus-daemon", "--session",       "--nofork",
-                                     "--nopidfile", "--print-address", nullptr};
+    const QByteArray folders[] = {"HOME=" + home, "XDG_RUNTIME_DIR=" + home};
+    const char *const arguments[] = {"setpriv",
+                                     "--pdeathsig",
+                                     "TERM",
+                                     "env",
+                                     "-u",
+                                     "XDG_CONFIG_HOME",
+                                     "-u",
+                                     "XDG_DATA_HOME",
+                                     "-u",
+                                     "XDG_CACHE_HOME",
+                                     folders[0].constData(),
+                                     folders[1].constData(),
+                                     "dbus-daemon",
+                                     "--session",
+                                     "--nofork",
+                                     "--nopidfile",
+                                     "--print-address",
+                                     nullptr};
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
@@ -45,7 +61,7 @@ PrivateBus::PrivateBus()
     QByteArray address;
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) == 0) {
-        m_daemon = spawnDaemon(ends[1]);
+        m_daemon = spawnDaemon(ends[1], m_home.path().toLocal8Bit());
         ::close(ends[1]);
         address = firstLine(ends[0]);
         ::close(ends[0]);
