@@ -9,8 +9,7 @@ const std::vector<Key> &keys()
 {
     static const std::vector<Key> table = {
         // Generation of the PSP's system software: below 1 it plays MP3 and shows JPEG only, and
-        // knows
-        // neither bookmarks nor the contacts page.
+        // knows neither bookmarks nor the contacts page.
         {QStringLiteral("firmwareVersion"), 1},
         {QStringLiteral("CaravelFolder"), QStringLiteral("~/Documents")},
         // Selections are read from the stick's own copy; such a stick is never synced on mount.
