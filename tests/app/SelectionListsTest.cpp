@@ -1,8 +1,11 @@
 #include "app/SelectionLists.h"
 
 #include "support/MusicLibraryFile.h"
+#include "support/PSFFile.h"
 #include "support/PhotoLibraryFile.h"
 #include "support/SyncHarness.h"
+
+#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -101,6 +104,67 @@ TEST(BookmarksItems, OffersTopLevelFolders)
     EXPECT_EQ(described(lists.bookmarksItems()),
               "BookmarksBar (Bookmarks Bar) BookmarksBar 0 2, "
               "BookmarksMenu (Bookmarks Menu) BookmarksMenu 1 0 enabled, News Folder16 2 1");
+}
+
+TEST(BackupItems, TellWhatTheGameSays)
+{
+    SyncHarness harness;
+    const SelectionLists lists(harness.manager, harness.clock);
+    EXPECT_TRUE(lists.backupItems().isEmpty());
+    const QString root = harness.home(QStringLiteral("Documents/Caravel/Backup/Game Saves/"));
+    const qint64 now = harness.clock.current.toSecsSinceEpoch();
+    const auto put = [&](const char *save, qint64 ago, std::optional<QList<QByteArray>> texts) {
+        const QString name = QString::fromLatin1(save);
+        const QString folder = root + QStringLiteral("%1/%2/%1").arg(name).arg(now - ago);
+        PSFFile parameters;
+        for (int i = 0; texts && i < 3; ++i) {
+            const char *const keys[] = {"TITLE", "SAVEDATA_TITLE", "SAVEDATA_DETAIL"};
+            parameters.add(keys[i], 2, texts->at(i) + '\0');
+        }
+        writeFile(folder + QStringLiteral("/PARAM.SFO"),
+                  texts ? parameters.contents() : QByteArray("garbage"));
+    };
+    put("A", 86400, {{"Game", "Slot", "Detail"}});
+    put("A", 60, {{"Game", "", ""}});
+    put("A", 120, {{"Game", "Slot", ""}});
+    put("B", 60, std::nullopt);
+    put("C", 2 * 86400, {{"Other", "Slot 2", "Night 3"}});
+    for (const char *stray : {".DS_Store", "A/.DS_Store", "Empty/x"})
+        writeFile(root + QString::fromLatin1(stray), {});
+    QFile::remove(root + QStringLiteral("Empty/x"));
+
+    const auto texts = [](const QVariantList &rows, std::initializer_list<const char *> keys) {
+        QStringList lines;
+        for (const QVariant &row : rows) {
+            QStringList parts;
+            for (const char *key : keys)
+                parts.append(row.toMap().value(QString::fromLatin1(key)).toString());
+            lines.append(parts.join(u'|'));
+        }
+        return lines.join(u'\n').toStdString();
+    };
+    EXPECT_EQ(texts(lists.backupItems(), {"identifier", "name", "description", "date"}),
+              "A|Game|No description available|Today 03:08 PM\n"
+              "B|B|Unknown game save|Today 03:08 PM\n"
+              "C|Other|Slot 2|12-Mar-26 03:09 PM");
+    EXPECT_EQ(texts(lists.backupItems(), {"icon"}).substr(0, 400),
+              (root + QStringLiteral("A/%1/A/ICON0.PNG\n").arg(now - 60) + root +
+               QStringLiteral("B/%1/B/ICON0.PNG\n").arg(now - 60) + root +
+               QStringLiteral("C/%1/C/ICON0.PNG").arg(now - 2 * 86400))
+                  .toStdString());
+    EXPECT_EQ(texts(lists.backupSubItemsForIdentifier(QStringLiteral("A")),
+                    {"icon", "description", "date"}),
+              "Backup|Detail|Yesterday 03:09 PM\nBackup|Slot|Today 03:07 PM\n"
+              "Backup|Game|Today 03:08 PM");
+    EXPECT_EQ(lists.backupSubItemsForIdentifier(QStringLiteral("A"))[0],
+              QVariant(QVariantMap{
+                  {QStringLiteral("identifier"), QStringLiteral("A/%1").arg(now - 86400)},
+                  {QStringLiteral("icon"), QStringLiteral("Backup")},
+                  {QStringLiteral("description"), QStringLiteral("Detail")},
+                  {QStringLiteral("date"), QStringLiteral("Yesterday 03:09 PM")},
+                  {QStringLiteral("timestamp"), double(now - 86400)}}));
+    for (const char *bad : {"", "..", "/", "A/..", "../Game Saves/A"})
+        EXPECT_TRUE(lists.backupSubItemsForIdentifier(QString::fromLatin1(bad)).isEmpty()) << bad;
 }
 
 TEST(Selections, RefuseIdentifiersThatNameOtherPlaces)
