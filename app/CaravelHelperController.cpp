@@ -262,10 +262,6 @@ void CaravelHelperController::restoreBackup(const QString &identifier)
     if (m_isQuitting || !mayChangeBackups())
         return;
     logDetail(filled(QStringLiteral("Restoring backup %@..."), {identifier}));
-    if (!m_manager.pspIsMounted()) {
-        restoreFailed(identifier, localized("No PSP is connected. Nothing was changed."));
-        return;
-    }
     using Restored = CVSyncBackup::Restored;
     switch (CVSyncBackup::restoreBackupWithIdentifier(identifier, m_manager.pspVolume(),
                                                       m_services.clock)) {
@@ -273,6 +269,9 @@ void CaravelHelperController::restoreBackup(const QString &identifier)
         return;
     case Restored::NoBackup:
         qCWarning(lcApp).noquote() << "There is no backup to restore named" << identifier;
+        return;
+    case Restored::NoStick:
+        restoreFailed(identifier, localized("No PSP is connected. Nothing was changed."));
         return;
     case Restored::NotKept:
         restoreFailed(identifier,

@@ -215,8 +215,11 @@ CVSyncBackup::Restored CVSyncBackup::restoreBackupWithIdentifier(const QString &
                                                                  const QString &volume,
                                                                  const Clock &clock)
 {
-    if (!isBackup(identifier) || volume.isEmpty() || !files().exists(folderOf(identifier)))
+    if (!isBackup(identifier) || !files().exists(folderOf(identifier)))
         return Restored::NoBackup;
+    // A stick that was pulled may leave its mount point, which is no place to restore to.
+    if (volume.isEmpty() || !files().exists(volume + QStringLiteral("/MEMSTICK.IND")))
+        return Restored::NoStick;
     const QString save = identifier.section(u'/', 0, 0);
     const QString backup = folderOf(identifier);
     const QString target = savedataFolder(volume) + u'/' + save;

@@ -41,6 +41,7 @@ public:
     enum class Restored {
         Done,
         NoBackup, ///< there is none of that identifier; nothing was changed
+        NoStick,  ///< no PSP's stick lies at the volume; nothing was changed
         NotKept,  ///< the save on the stick could not be kept first; nothing was changed
         Failed    ///< the stick is without that save; what it had is the newest backup
     };

@@ -96,9 +96,27 @@ TEST_F(CVSyncBackupTest, ShowsNoCopyThatIsNotWhole)
     EXPECT_FALSE(harness.delegate.errors.empty());
     EXPECT_TRUE(history().isEmpty());
     QFile::remove(save(QStringLiteral("pipe")));
+    ASSERT_TRUE(QFile::link(QStringLiteral("nowhere"), save(QStringLiteral("dangling"))));
+    EXPECT_TRUE(harness.run());
+    EXPECT_EQ(QFile::symLinkTarget(root(QStringLiteral("GAME/%1/GAME/dangling").arg(begin)))
+                  .section(u'/', -1),
+              QStringLiteral("nowhere"));
+    harness.delegate.errors.clear();
+    pass(60);
     EXPECT_TRUE(harness.run());
     EXPECT_EQ(treeOf(root()).filter(QStringLiteral("half")), QStringList());
     EXPECT_EQ(history(), list({"0: first"}));
+}
+
+TEST_F(CVSyncBackupTest, KeepsASaveOfTenThousandFiles)
+{
+    for (int i = 0; i < 10000; ++i)
+        writeFile(save(QStringLiteral("many/%1").arg(i)), QByteArray::number(i));
+    EXPECT_TRUE(harness.run());
+    pass(60);
+    EXPECT_TRUE(harness.run());
+    ASSERT_EQ(history().size(), 1);
+    EXPECT_EQ(treeOf(root(QStringLiteral("GAME/%1/GAME").arg(begin))).size(), 10002);
 }
 
 TEST_F(CVSyncBackupTest, PrunesByThePreference)
@@ -129,18 +147,37 @@ TEST_F(CVSyncBackupTest, RestoresAndKeepsWhatWasThere)
     EXPECT_EQ(restore(identifier(0)), Restored::Done);
     EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "first");
     EXPECT_EQ(history(), list({"0: first", "60: newer"}));
+}
 
-    // A stick that takes nothing: what it had is in the history.
-    FailingFileManager files;
-    FileManager::setDefaultManager(&files);
-    files.writableBytes = 5; // room for the copy that is kept, and none for the one restored
-    const SystemLogCapture log;
+TEST_F(CVSyncBackupTest, LosesNothingWhenItCannotRestore)
+{
+    using Restored = CVSyncBackup::Restored;
+    EXPECT_TRUE(harness.run());
     putSave("other");
     pass(60);
-    EXPECT_NE(restore(identifier(0)), Restored::Done);
-    FileManager::setDefaultManager(nullptr);
-    const bool onStick = readFile(save(QStringLiteral("DATA.BIN"))) == "other";
-    EXPECT_TRUE(onStick || history().contains(QStringLiteral("120: other")));
+    const SystemLogCapture log;
+    const auto restoreWithRoomFor = [&](qint64 bytes) {
+        FailingFileManager files;
+        FileManager::setDefaultManager(&files);
+        files.writableBytes = bytes;
+        const Restored restored = restore(identifier(0));
+        FileManager::setDefaultManager(nullptr);
+        return restored;
+    };
+    EXPECT_EQ(restoreWithRoomFor(4), Restored::NotKept) << "no room on the computer";
+    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "other");
+    EXPECT_EQ(history(), list({"0: first"}));
+
+    EXPECT_EQ(restoreWithRoomFor(5), Restored::Failed) << "no room on the stick";
+    EXPECT_FALSE(QFile::exists(save()));
+    EXPECT_EQ(history(), list({"0: first", "60: other"}));
+    EXPECT_EQ(restore(identifier(60)), Restored::Done);
+    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "other");
+
+    QFile::remove(harness.stick(QStringLiteral("MEMSTICK.IND")));
+    EXPECT_EQ(restore(identifier(0)), Restored::NoStick) << "a mount point that was left";
+    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "other");
+    EXPECT_EQ(history().size(), 2);
 }
 
 TEST_F(CVSyncBackupTest, MovesBackupsToTheTrash)

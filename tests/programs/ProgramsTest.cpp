@@ -3,6 +3,7 @@
 #include "ProgramHarness.h"
 
 #include "platform/PropertyList.h"
+#include "platform/RemoteObject.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,6 +11,8 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -136,8 +139,28 @@ TEST_F(ProgramsTest, KeepAHistoryOfGameSaves)
     EXPECT_EQ(run({QStringLiteral("list"), QStringLiteral("saves")}), QString());
     EXPECT_EQ(readFile(save), "first");
 
+    // The helper itself holds back what the command would not have asked for.
+    writeFile(save, "third");
+    run({QStringLiteral("sync")});
+    writeFile(save, "fourth");
+    const QString third =
+        run({QStringLiteral("saves"), QStringLiteral("GAME1")}).section(u' ', 0, 0);
+    run({QStringLiteral("sync"), QStringLiteral("--no-wait")});
+    ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("Syncing:    yes")); }));
+    run(saves("restore", third), 1);
+    RemoteObject helper(ProgramHarness::helperBusName(), QStringLiteral("/CaravelHelper"),
+                        QStringLiteral("org.caravel.CaravelHelperProtocol"));
+    for (const char *method : {"restoreBackupWithIdentifier", "deleteBackupWithIdentifier"})
+        EXPECT_TRUE(helper.call(QString::fromLatin1(method), {third}, 10s).value);
+    EXPECT_EQ(readFile(save), "fourth");
+    EXPECT_EQ(
+        programs.log().count(QStringLiteral("Can't restore or delete backups during a sync.")), 2);
+    EXPECT_TRUE(run({QStringLiteral("saves"), QStringLiteral("GAME1")}).contains(third));
+    run({QStringLiteral("cancel")});
+    ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("Syncing:    no")); }));
+
     run({QStringLiteral("eject")});
-    run(saves("restore", oldest), 1);
+    run(saves("restore", third), 1);
 }
 
 TEST_F(ProgramsTest, StartAHelperWhereNoneRuns)
