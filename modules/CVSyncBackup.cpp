@@ -32,6 +32,26 @@ QString partialFolder()
     return backupFolder() + QStringLiteral("/.partial");
 }
 
+// Where a save grows that is being restored, on the stick.
+QString partialRestore(const QString &volume)
+{
+    return volume + QStringLiteral("/.caravel/Restore");
+}
+
+// Where one goes that is replaced.
+QString replacedSave(const QString &volume)
+{
+    return volume + QStringLiteral("/.caravel/Replaced");
+}
+
+void removeLeftovers(const QString &volume)
+{
+    for (const QString &leftover : {partialRestore(volume), replacedSave(volume)}) {
+        if (files().linkStatus(leftover).exists())
+            files().remove(leftover, nullptr);
+    }
+}
+
 QString savedataFolder(const QString &volume)
 {
     return volume + QStringLiteral("/PSP/SAVEDATA");
@@ -182,6 +202,7 @@ std::vector<CVSyncItem> CVSyncBackup::itemsToSync()
 
 void CVSyncBackup::cleanUp()
 {
+    removeLeftovers(pspVolume()); // of a restore that was interrupted
     cleanUp(pspVolume() + QStringLiteral("/PSP/GAME"), false);
     cleanUp(savedataFolder(pspVolume()), false);
     if (UserDefaults::standard().integerForKey(QStringLiteral("backupsToKeep")) >= 1)
@@ -224,19 +245,27 @@ CVSyncBackup::Restored CVSyncBackup::restoreBackupWithIdentifier(const QString &
     const QString backup = folderOf(identifier);
     const QString target = savedataFolder(volume) + u'/' + save;
     Errors errors;
+    removeLeftovers(volume);
     if (files().linkStatus(target).exists()) {
         if (files().contentsEqual(backup, target))
             return Restored::Done;
         // Kept first, and whole, before anything on the stick is touched.
         if (!copyWhole(target, newBackupFolder(save, clock), errors))
             return Restored::NotKept;
-        if (!files().remove(target, &errors))
-            return Restored::Failed;
+        // It goes in one step, too: what is left of half a save would be backed up as one.
+        FileManagerTools::createPath(volume + QStringLiteral("/.caravel"));
+        if (!files().move(target, replacedSave(volume), &errors))
+            return Restored::NotKept;
     }
+    // Half a save is worse than none: it comes to its place whole, in one step.
+    removeLeftovers(volume);
+    const QString partial = partialRestore(volume);
     FileManagerTools::createPath(savedataFolder(volume));
-    const bool done = files().copy(backup, target, &errors);
+    FileManagerTools::createPath(volume + QStringLiteral("/.caravel"));
+    const bool done =
+        files().copy(backup, partial, &errors) && files().move(partial, target, &errors);
     if (!done)
-        files().remove(target, &errors); // half a save is worse than none
+        removeLeftovers(volume);
     files().flush(savedataFolder(volume));
     return done ? Restored::Done : Restored::Failed;
 }

@@ -42,7 +42,7 @@ public:
         Done,
         NoBackup, ///< there is none of that identifier; nothing was changed
         NoStick,  ///< no PSP's stick lies at the volume; nothing was changed
-        NotKept,  ///< the save on the stick could not be kept first; nothing was changed
+        NotKept,  ///< the save on the stick could not be kept or moved away; it is as it was
         Failed    ///< the stick is without that save; what it had is the newest backup
     };
     /// Puts one backup back on the stick at `volume`. The save that is there, if it differs,

@@ -2,9 +2,8 @@
 
 #include "platform/Posix.h"
 
-#include <QRandomGenerator>
-
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -39,31 +38,28 @@ auto retryInterrupted(Operation operation)
     return result;
 }
 
-/// A new file that stands in for another until all of it is on the device. Removed again unless it
-/// was moved into place.
+/// A file that stands in for another until all of it is on the device. Removed again unless it was
+/// moved into place. It has one name for each target, so that what a killed process leaves is taken
+/// over by the next, and a lock, so that no two write it at once.
 class TemporaryFile
 {
 public:
     explicit TemporaryFile(const QByteArray &target)
     {
         const qsizetype slash = target.lastIndexOf('/');
-        const QByteArray stem = target.left(slash + 1) + '.' + target.mid(slash + 1) + '.';
-        do {
-            const quint32 random = QRandomGenerator::system()->generate() & 0xffffffU;
-            m_path = stem + QByteArray::number(random, 16).rightJustified(6, '0');
-            m_file =
-                ::open(m_path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, newFileMode);
-        } while (m_file < 0 && errno == EEXIST);
-        m_created = m_file >= 0;
+        m_path = target.left(slash + 1) + '.' + target.mid(slash + 1) + ".new";
+        while (!isOurs() && open())
+            ;
+        if (m_file >= 0 && ::ftruncate(m_file, 0) != 0)
+            close();
     }
 
     ~TemporaryFile()
     {
         const int error = errno;
         if (m_file >= 0)
-            ::close(m_file);
-        if (m_created && !m_inPlace)
             ::unlink(m_path.constData());
+        close();
         errno = error;
     }
 
@@ -74,17 +70,43 @@ public:
 
     bool moveIntoPlace(const QByteArray &target)
     {
-        if (::fsync(m_file) != 0 || ::close(std::exchange(m_file, -1)) != 0)
+        if (retryInterrupted([this] { return ::fsync(m_file); }) != 0 ||
+            std::rename(m_path.constData(), target.constData()) != 0)
             return false;
-        m_inPlace = std::rename(m_path.constData(), target.constData()) == 0;
-        return m_inPlace;
+        close(); // and unlocked, which must not come before the file has its place
+        return true;
     }
 
 private:
+    bool open()
+    {
+        close();
+        m_file =
+            ::open(m_path.constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, newFileMode);
+        // A file system without locks has to do without.
+        if (m_file >= 0)
+            retryInterrupted([this] { return ::flock(m_file, LOCK_EX); });
+        return m_file >= 0;
+    }
+
+    /// Whether the open file still has the name: whoever held the lock has moved it into place.
+    bool isOurs() const
+    {
+        struct stat file;
+        struct stat name;
+        return m_file >= 0 && ::fstat(m_file, &file) == 0 &&
+               ::lstat(m_path.constData(), &name) == 0 && file.st_ino == name.st_ino &&
+               file.st_dev == name.st_dev;
+    }
+
+    void close()
+    {
+        if (m_file >= 0)
+            ::close(std::exchange(m_file, -1));
+    }
+
     QByteArray m_path;
     int m_file = -1;
-    bool m_created = false;
-    bool m_inPlace = false;
 };
 
 bool writeAll(FileManager &files, int descriptor, const QByteArray &contents)
@@ -105,7 +127,8 @@ bool flushFolderOf(const QByteArray &path)
 {
     const QByteArray folder = path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
     const auto descriptor = Posix::openFolder(AT_FDCWD, folder.constData(), Posix::Links::Follow);
-    return descriptor && (::fsync(descriptor.get()) == 0 || errno == EINVAL);
+    return descriptor &&
+           (retryInterrupted([&] { return ::fsync(descriptor.get()); }) == 0 || errno == EINVAL);
 }
 
 } // namespace

@@ -346,7 +346,7 @@ PropertyListError PropertyListParts::readBinary(int descriptor, quint64 size, qu
         const ssize_t count = readSome(descriptor, bytes.data() + filled,
                                        static_cast<std::size_t>(bytes.size() - filled));
         if (count < 0)
-            return PropertyListError{Posix::reason(errno)};
+            return diskError();
         if (count == 0)
             bytes.truncate(filled);
         filled += count;

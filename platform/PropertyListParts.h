@@ -21,6 +21,9 @@ bool isValid(const PropertyListScalar &scalar);
 
 QString invalidScalarText(const PropertyListScalar &scalar);
 QString tooDeepText();
+/// Of the read that has just failed, by errno.
+PropertyListError diskError();
+
 QString tooLongText(quint64 limit);
 
 /// read(2), again when interrupted.

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <optional>
 #include <string_view>
 
 using namespace PropertyListParts;
@@ -20,6 +21,11 @@ ssize_t readSome(int descriptor, void *buffer, std::size_t size)
         count = ::read(descriptor, buffer, size);
     while (count < 0 && errno == EINTR);
     return count;
+}
+
+PropertyListError diskError()
+{
+    return {Posix::reason(errno), 0, true};
 }
 
 QString tooLongText(quint64 limit)
@@ -36,25 +42,34 @@ QString tooDeepText()
 
 namespace {
 
-bool isBinary(int descriptor)
+/// Nothing where the file can't be read.
+std::optional<bool> isBinary(int descriptor)
 {
     constexpr std::string_view magic = "bplist0";
     char start[magic.size()];
-    return ::pread(descriptor, start, sizeof start, 0) == ssize_t(sizeof start) &&
-           std::string_view(start, sizeof start) == magic;
+    ssize_t count = 0;
+    do
+        count = ::pread(descriptor, start, sizeof start, 0);
+    while (count < 0 && errno == EINTR);
+    if (count < 0)
+        return std::nullopt;
+    return std::string_view(start, static_cast<size_t>(count)) == magic;
 }
 
 PropertyListError readOpenFile(int descriptor, quint64 limit, PropertyListHandler &handler)
 {
     struct stat status;
     if (::fstat(descriptor, &status) != 0)
-        return PropertyListError{Posix::reason(errno)};
+        return diskError();
     const auto size = static_cast<quint64>(status.st_size);
     if (size == 0)
         return PropertyListError{QStringLiteral("the file is empty")};
     if (size > limit)
         return PropertyListError{tooLongText(limit)};
-    if (isBinary(descriptor))
+    const std::optional<bool> binary = isBinary(descriptor);
+    if (!binary)
+        return diskError();
+    if (*binary)
         return readBinary(descriptor, size, limit, handler);
     return readXml(descriptor, limit, handler);
 }
@@ -76,7 +91,7 @@ bool readPropertyList(const QString &path, quint64 limit, PropertyListHandler &h
     if (file)
         problem = readOpenFile(file.get(), limit, handler);
     else if (!isMissing)
-        problem = PropertyListError{Posix::reason(errno)};
+        problem = diskError();
     if (error)
         *error = problem;
     return file && !problem;

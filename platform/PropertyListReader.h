@@ -10,6 +10,8 @@ struct PropertyListError
 {
     QString text; ///< empty: no error
     int line = 0; ///< of the XML text, counted from 1; 0 where lines have no meaning
+    /// The file could not be read, which says nothing of what it holds.
+    bool isOfDisk = false;
 
     explicit operator bool() const { return !text.isEmpty(); }
 

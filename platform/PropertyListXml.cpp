@@ -168,7 +168,7 @@ PropertyListError XmlReader::read(int descriptor, quint64 limit)
             return PropertyListError{QStringLiteral("out of memory")};
         const ssize_t count = readSome(descriptor, buffer, chunkSize);
         if (count < 0)
-            return PropertyListError{Posix::reason(errno)};
+            return diskError();
         total += static_cast<quint64>(count);
         if (total > limit)
             return PropertyListError{tooLongText(limit)};

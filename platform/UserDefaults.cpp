@@ -459,6 +459,8 @@ std::optional<QVariantMap> UserDefaults::readOwnFile(bool locked)
         m_saidUnreadable = false;
         return contents.value_or(QVariantMap());
     }
+    if (error.isOfDisk)
+        return leftAlone(error.text);
     if (!locked) {
         // Another process may be setting the file aside or replacing it right now.
         const DomainLock lock(lockPath(m_domain));
@@ -474,7 +476,7 @@ std::optional<QVariantMap> UserDefaults::readOwnFile(bool locked)
 
 std::optional<QVariantMap> UserDefaults::leftAlone(const QString &reason)
 {
-    if (!std::exchange(m_saidUnreadable, true)) {
+    if (!m_saidUnreadable.exchange(true)) {
         qCWarning(lcPlatform).noquote() << "the preferences in" << filePath(m_domain)
                                         << "can't be read and are left alone:" << reason;
     }

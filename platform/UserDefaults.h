@@ -37,6 +37,10 @@ public:
     /// standard() build a new one from the current $HOME.
     static void setStandard(UserDefaults *store);
 
+    /// False while the file is there and can't be read: what is answered then are values read
+    /// before, or the registered ones.
+    bool isReadable() const { return !m_saidUnreadable; }
+
     /// Values for keys that nobody has set; kept in memory only.
     void registerDefaults(const QVariantMap &defaults);
 
@@ -60,8 +64,8 @@ public:
     /// file stays) and reads what others wrote. Atomic, and safe against other processes and
     /// threads that do the same. False when the file could not be written: the changes are kept for
     /// the next time. A file that can't be parsed is kept aside as "<name>.plist.unreadable", said
-    /// once in the system log; one that can't be opened is left as it is, and nothing is written
-    /// over it. Does not emit changed().
+    /// once in the system log; one that can't be read from the disk is left as it is, and nothing
+    /// is written over it. Does not emit changed().
     bool synchronize();
 
     /// Another domain, read from its file at each call; nothing where it is missing or unreadable
@@ -111,7 +115,7 @@ private:
 
     std::mutex m_synchronizing; // held through a synchronize(), before m_mutex; guards what follows
     std::optional<Stamp> m_lastRead;
-    bool m_saidUnreadable = false;
+    std::atomic<bool> m_saidUnreadable = false;
     bool m_saidUnwritable = false;
 
     mutable std::mutex m_mutex; // guards what follows; held for copies only

@@ -107,8 +107,10 @@ void CVSyncManager::setPSPIsMounted(bool mounted)
         return;
     }
     tell([volume = pspVolume()](CVSyncManagerDelegate &delegate) { delegate.pspDidMount(volume); });
-    if (UserDefaults::standard().boolForKey(QStringLiteral("syncOnMount")) && pspIsMounted() &&
-        !isFirstSync() && m_delegate->shouldSyncOnMount())
+    // Preferences that can't be read hold a selection that isn't known: a sync would remove it.
+    const UserDefaults &defaults = UserDefaults::standard();
+    if (defaults.boolForKey(QStringLiteral("syncOnMount")) && defaults.isReadable() &&
+        pspIsMounted() && !isFirstSync() && m_delegate->shouldSyncOnMount())
         sync();
 }
 

@@ -74,10 +74,14 @@ TEST(Workspace, StartsABundlesExecutable)
     writeFile(info, infoList("<string>tool</string>", "<string>1</string>"));
     EXPECT_TRUE(Workspace::openFile(folder / QStringLiteral("b")));
     EXPECT_TRUE(waitFor([&] { return QFile::exists(started); }));
+    // Without an executable it is a folder like any other, which some desktop might open.
+    const QByteArray programs = qgetenv("PATH");
+    qputenv("PATH", folder.path().toUtf8());
     for (const QByteArray name : {"<string>missing</string>", "<integer/>"}) {
         writeFile(info, infoList(name, "<string>1</string>"));
         EXPECT_FALSE(Workspace::openFile(folder / QStringLiteral("b"))) << name.toStdString();
     }
+    qputenv("PATH", programs);
 }
 
 TEST(Workspace, RecyclesIntoTheUsersTrash)

@@ -141,8 +141,9 @@ void RecordingDelegate::newSyncBytesEstimate(quint64 bytes)
     note(u"newSyncBytesEstimate", QString::number(bytes));
 }
 
-SyncHarness::SyncHarness(ModuleFactory modules)
-    : defaults(QStringLiteral("org.caravel.Caravel"), folder / QStringLiteral("preferences"))
+SyncHarness::SyncHarness(ModuleFactory modules, const QString &place)
+    : folder(place)
+    , defaults(QStringLiteral("org.caravel.Caravel"), folder / QStringLiteral("preferences"))
     , manager({volumes, notifications, clock, folder / QStringLiteral("resources")},
               std::move(modules))
 {

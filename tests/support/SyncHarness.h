@@ -101,7 +101,8 @@ private:
 class SyncHarness
 {
 public:
-    explicit SyncHarness(ModuleFactory modules = {});
+    /// In a folder of its own, or in `place`, where an earlier harness may have left things.
+    explicit SyncHarness(ModuleFactory modules = {}, const QString &place = {});
     ~SyncHarness();
 
     /// Mounts the stick (formatted for a PSP, and synced before unless told otherwise) without

@@ -25,10 +25,11 @@ void collectLine(QtMsgType, const QMessageLogContext &, const QString &message)
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder()
+TemporaryFolder::TemporaryFolder(QString given)
+    : m_given(std::move(given))
 {
-    if (!m_folder.isValid())
-        qFatal("no temporary folder: %s", qPrintable(m_folder.errorString()));
+    if (m_given.isEmpty() && !m_folder.emplace().isValid())
+        qFatal("no temporary folder: %s", qPrintable(m_folder->errorString()));
 }
 
 void writeFile(const QString &path, const QByteArray &contents)

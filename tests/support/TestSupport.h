@@ -6,17 +6,20 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 /// A folder that lives as long as the object, with paths below it.
 class TemporaryFolder
 {
 public:
-    TemporaryFolder();
-    QString path() const { return m_folder.path(); }
+    /// One that is given is used instead, and stays.
+    explicit TemporaryFolder(QString given = {});
+    QString path() const { return m_folder ? m_folder->path() : m_given; }
     QString operator/(const QString &relative) const { return path() + u'/' + relative; }
 
 private:
-    QTemporaryDir m_folder;
+    const QString m_given;
+    std::optional<QTemporaryDir> m_folder;
 };
 
 /// Writes a file, making the folders above it.
