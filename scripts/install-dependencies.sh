@@ -5,11 +5,12 @@ set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: install-dependencies.sh [--lint]
+Usage: install-dependencies.sh [--lint] [--fuzz]
 Installs the missing ones of the Debian packages that this project needs (as root or through sudo).
 
   --lint   also what scripts/lint.sh runs: clang-format, clang-tidy, git and the checkers of desktop
            files and man pages
+  --fuzz   also what scripts/fuzz.sh builds with: clang
 EOF
 }
 
@@ -19,7 +20,7 @@ packages=(
     libglib2.0-dev libexpat1-dev libplist-dev libcli11-dev librsvg2-bin python3
     libebook1.2-dev libssl-dev
     # Tests and benchmarks
-    libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs mount util-linux xvfb
+    libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs exfat-fuse mount util-linux xvfb
     evolution-data-server
     # The demo's sound files, and the helper at run time
     ffmpeg
@@ -27,6 +28,7 @@ packages=(
 while (($#)); do
     case $1 in
     --lint) packages+=(clang-format clang-tidy git desktop-file-utils appstream groff-base) ;;
+    --fuzz) packages+=(clang) ;;
     -h | --help) usage; exit 0 ;;
     *) usage >&2; exit 2 ;;
     esac

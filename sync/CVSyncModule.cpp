@@ -62,7 +62,8 @@ void CVSyncModule::prepare(bool filter)
     m_syncQueue.clear();
     m_syncIndex.clear();
     if (UserDefaults::standard().boolForKey(QStringLiteral("sync") + m_saveName))
-        m_syncQueue = fixDuplicateDestinations(itemsToSync());
+        m_syncQueue =
+            fixDuplicateDestinations(itemsToSync(), m_delegate->pspVolumeTellsCaseApart());
     m_syncEstimateSize = calculateFileSizes();
     if (!filter)
         return;
@@ -71,13 +72,14 @@ void CVSyncModule::prepare(bool filter)
     m_syncQueueSize = queuedBytes();
 }
 
-std::vector<CVSyncItem> CVSyncModule::fixDuplicateDestinations(std::vector<CVSyncItem> items)
+std::vector<CVSyncItem> CVSyncModule::fixDuplicateDestinations(std::vector<CVSyncItem> items,
+                                                               bool tellsCaseApart)
 {
     // The next number per destination is kept, so that many equal ones stay cheap.
     QHash<QString, int> timesSeen;
     timesSeen.reserve(static_cast<qsizetype>(items.size()));
     for (CVSyncItem &item : items) {
-        int &times = timesSeen[item.destination];
+        int &times = timesSeen[tellsCaseApart ? item.destination : item.destination.toCaseFolded()];
         if (times > 0)
             item.destination = PathComponents::numbered(item.destination, times);
         ++times;

@@ -43,8 +43,10 @@ public:
     /// is in place already is dropped from it, and what is there in another size is removed.
     void prepare(bool filter);
 
-    /// Destinations that occur again become "name.1.ext", "name.2.ext" and so on, in item order.
-    static std::vector<CVSyncItem> fixDuplicateDestinations(std::vector<CVSyncItem> items);
+    /// Destinations that occur again become "name.1.ext", "name.2.ext" and so on, in item order;
+    /// where the stick doesn't tell letter case apart, so do those that differ in case only.
+    static std::vector<CVSyncItem> fixDuplicateDestinations(std::vector<CVSyncItem> items,
+                                                            bool tellsCaseApart = true);
 
     /// Bytes still to copy, and bytes of the whole selection.
     quint64 syncQueueSize() const { return m_syncQueueSize; }

@@ -19,13 +19,14 @@ QStringList words(const char *text)
     return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
 }
 
-QStringList uniqueNames(const QStringList &destinations)
+QStringList uniqueNames(const QStringList &destinations, bool tellsCaseApart = true)
 {
     std::vector<CVSyncItem> items;
     for (const QString &destination : destinations)
         items.emplace_back(QString(), destination, QString());
     QStringList names;
-    for (const CVSyncItem &item : CVSyncModule::fixDuplicateDestinations(std::move(items)))
+    for (const CVSyncItem &item :
+         CVSyncModule::fixDuplicateDestinations(std::move(items), tellsCaseApart))
         names.append(item.destination);
     return names;
 }
@@ -67,6 +68,8 @@ TEST(DuplicateDestinations, AreNumberedInOrder)
 {
     EXPECT_EQ(uniqueNames(words("/a/S.mp3 /a/S.mp3 /b/S.mp3 /a/S.mp3 /a/s.mp3")),
               words("/a/S.mp3 /a/S.1.mp3 /b/S.mp3 /a/S.2.mp3 /a/s.mp3"));
+    EXPECT_EQ(uniqueNames(words("/a/S.mp3 /a/s.mp3 /A/S.mp3"), false),
+              words("/a/S.mp3 /a/s.1.mp3 /A/S.2.mp3"));
     EXPECT_EQ(uniqueNames(words("/a.b/name /a.b/name /a/.x /a/.x")),
               words("/a.b/name /a.b/name.1 /a/.x /a/.x.1"));
 

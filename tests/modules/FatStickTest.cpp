@@ -1,0 +1,139 @@
+// A stick with a FAT-like file system, which keeps names' case but doesn't tell it apart: a real
+// one, on a loop device, where mounting is allowed.
+
+#include "modules/CVSyncMusic.h"
+#include "support/MusicLibraryFile.h"
+#include "support/SyncHarness.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// What the command prints; nothing where it fails.
+std::optional<QString> outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0)
+        return std::nullopt;
+    return QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
+}
+
+class FatStickTest : public testing::Test
+{
+protected:
+    SyncHarness harness{ModuleFactory{.music = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncMusic>(delegate);
+    }}};
+    const QString image = harness.folder / QStringLiteral("stick.img");
+    std::optional<QString> device;
+    MusicLibraryFile library;
+    QList<int> ids;
+    std::vector<std::string> wanted; // the tracks' contents
+
+    void SetUp() override
+    {
+        writeFile(image, {});
+        QFile::resize(image, 64 << 20);
+        QDir().mkpath(harness.stick());
+        if (!outputOf(QStringLiteral("mkfs.exfat"), {image}))
+            GTEST_SKIP() << "mkfs.exfat is not there";
+        device = outputOf(QStringLiteral("losetup"),
+                          {QStringLiteral("-f"), QStringLiteral("--show"), image});
+        if (!device || !outputOf(QStringLiteral("mount.exfat-fuse"), {*device, harness.stick()}))
+            GTEST_SKIP() << "exFAT can't be mounted here";
+        harness.mountStick();
+        harness.defaults.setObject(QStringLiteral("sortMusicBy"), 1);
+    }
+    void TearDown() override
+    {
+        harness.settle();
+        outputOf(QStringLiteral("umount"), {QStringLiteral("-l"), harness.stick()});
+        if (device)
+            outputOf(QStringLiteral("losetup"), {QStringLiteral("-d"), *device});
+    }
+
+    void addTrack(const QString &album, const QString &title)
+    {
+        const int id = static_cast<int>(wanted.size());
+        // All of one size: only the names tell them apart.
+        const QByteArray contents = "track " + QByteArray::number(id).rightJustified(4, '0');
+        const QString file = harness.home(QStringLiteral("Music/%1.mp3").arg(id));
+        writeFile(file, contents);
+        library.addFile(id, file,
+                        MusicLibraryFile::string("Name", title) +
+                            MusicLibraryFile::string("Album", album));
+        wanted.push_back(contents.toStdString());
+        ids.append(id);
+    }
+    void writeLibrary()
+    {
+        MusicLibraryFile all = library;
+        all.addPlaylist(QStringLiteral("All"), ids);
+        writeFile(harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
+                  all.contents());
+        CVSyncMusic::setSelectedIdentifiers({QStringLiteral("All")}, harness.stick());
+    }
+    QStringList tree() const { return treeOf(harness.stick(QStringLiteral("PSP/MUSIC"))); }
+    std::vector<std::string> found() const
+    {
+        std::vector<std::string> contents;
+        for (const QString &path : tree()) {
+            if (!path.endsWith(u'/'))
+                contents.push_back(
+                    readFile(harness.stick(QStringLiteral("PSP/MUSIC/") + path)).toStdString());
+        }
+        std::sort(contents.begin(), contents.end());
+        return contents;
+    }
+    int copied() const
+    {
+        return static_cast<int>(
+            harness.delegate.events.filter(QStringLiteral("syncWillProcessItem")).size());
+    }
+};
+
+} // namespace
+
+TEST_F(FatStickTest, KeepsEveryFileAndItsNameFromRunToRun)
+{
+    for (const char *album : {"Mix", "MIX", "mix"})
+        for (const char *title : {"Song", "SONG", "song"})
+            addTrack(QString::fromLatin1(album), QString::fromLatin1(title));
+    for (const char *album : {"Café", "Cafe\u0301", "CAFÉ", "Live.", "Live. ", "Live", " Live",
+                              "...", "Straße", "STRASSE"})
+        addTrack(QString::fromUtf8(album), QStringLiteral("One"));
+    for (const QString &title :
+         {QString(300, QChar(0xE9)), QString(299, QChar(0xE9)) + u'x', QString(200, QChar(0x65E5)),
+          QString(255, u'x'), QString(251, u'y'), QStringLiteral("ends in a dot."),
+          QStringLiteral("ends in a blank ")})
+        addTrack(QStringLiteral("Long"), title);
+    writeLibrary();
+    ASSERT_TRUE(harness.run());
+    EXPECT_EQ(found(), wanted);
+    EXPECT_TRUE(harness.delegate.errors.empty());
+    const QStringList before = tree();
+
+    for (int again = 0; again < 2; ++again) {
+        ASSERT_TRUE(harness.run());
+        EXPECT_EQ(copied(), 0);
+        EXPECT_EQ(tree(), before);
+    }
+    // Another computer has spelled a folder in another case.
+    for (const char *step : {"Mix Mix_", "Mix_ MIX"}) {
+        const QStringList names = QString::fromLatin1(step).split(u' ');
+        const QString music = harness.stick(QStringLiteral("PSP/MUSIC/"));
+        ASSERT_TRUE(QDir().rename(music + names[0], music + names[1]));
+        ASSERT_TRUE(outputOf(QStringLiteral("umount"), {harness.stick()}));
+        ASSERT_TRUE(outputOf(QStringLiteral("mount.exfat-fuse"), {*device, harness.stick()}));
+    }
+    ASSERT_TRUE(tree().contains(QStringLiteral("MIX/")));
+    ASSERT_TRUE(harness.run());
+    EXPECT_EQ(copied(), 0);
+    EXPECT_EQ(found(), wanted);
+}
