@@ -224,3 +224,27 @@ TEST(Selection, LiesInThePreferencesAndOnSyncedSticks)
     writeFile(profile, "garbage");
     EXPECT_THAT(read(), ElementsAre(QStringLiteral("Two"))) << "garbage must not clear the stick";
 }
+
+TEST(SyncOnMount, WaitsWhileThePreferencesCannotBeRead)
+{
+    SyncHarness harness;
+    const QString preferences =
+        harness.folder / QStringLiteral("preferences/org.caravel.Caravel.plist");
+    harness.mountStick();
+    harness.defaults.setObject(QStringLiteral("syncOnMount"), true);
+    harness.defaults.synchronize();
+    harness.volumes.unmount(harness.stick());
+    QFile::remove(preferences);
+    writeFile(preferences + QStringLiteral("/no file"), {});
+    const SystemLogCapture log;
+    harness.defaults.synchronize();
+    harness.volumes.mount(harness.stick());
+    EXPECT_EQ(harness.delegate.count(QStringLiteral("syncWillStart")), 0);
+
+    harness.volumes.unmount(harness.stick());
+    QDir(preferences).removeRecursively();
+    harness.defaults.synchronize();
+    harness.volumes.mount(harness.stick());
+    harness.finishRun();
+    EXPECT_EQ(harness.delegate.count(QStringLiteral("syncWillStart")), 1);
+}
