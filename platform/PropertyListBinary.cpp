@@ -40,6 +40,8 @@ private:
         quint64 position; // of the contents
         quint64 count;    // of references in a container, else of bytes
         bool isContainer;
+        quint64 keys = 0;      // of a dictionary: the references in front
+        quint64 unitWidth = 0; // of a text: bytes of a unit
     };
 
     struct Measure
@@ -52,6 +54,7 @@ private:
     bool holds(quint64 position, quint64 count, quint64 width) const;
     bool readTrailer();
     std::optional<Object> object(quint64 index) const;
+    bool hasNul(quint64 index) const;
     std::optional<Measure> measure(quint64 index, std::size_t depth);
     std::optional<Measure> measureContents(const Object &container, std::size_t depth);
     std::nullopt_t fail(const QString &text);
@@ -146,7 +149,20 @@ std::optional<BinaryShape::Object> BinaryShape::object(quint64 index) const
     const quint64 parts = kind == 0x6 || kind == 0xD ? 2 : 1;
     if (!holds(position, count, parts * (isContainer ? m_referenceWidth : 1)))
         return std::nullopt;
-    return Object{position, count * parts, isContainer};
+    return Object{position, count * parts, isContainer, kind == 0xD ? count : 0,
+                  kind == 0x5 || kind == 0x6 ? parts : 0};
+}
+
+bool BinaryShape::hasNul(quint64 index) const
+{
+    const std::optional<Object> text = object(index);
+    if (!text || text->unitWidth == 0)
+        return false;
+    for (quint64 i = 0; i < text->count; i += text->unitWidth) {
+        if (number(text->position + i, text->unitWidth) == 0)
+            return true;
+    }
+    return false;
 }
 
 std::optional<BinaryShape::Measure> BinaryShape::measure(quint64 index, std::size_t depth)
@@ -184,6 +200,9 @@ std::optional<BinaryShape::Measure> BinaryShape::measureContents(const Object &c
         total.height = std::max(total.height, part->height);
         if (total.weight > m_budget)
             return fail(QStringLiteral("unfolds to more than %1 bytes").arg(m_budget));
+        // libplist ends the process over such a key.
+        if (i < container.keys && hasNul(reference))
+            return fail(QStringLiteral("a key with a NUL inside"));
     }
     ++total.height;
     return total;

@@ -216,6 +216,7 @@ TEST_F(PropertyListFile, DamagedBinaryListsAreRefused)
          "0: binary list: object 0 lies outside the file"},
         {binaryOfObjects({"5f13ffffffffffffffff"}),
          "0: binary list: object 0 lies outside the file"},
+        {binaryOfObjects({"d10102", "526100", "09"}), "0: binary list: a key with a NUL inside"},
         {binaryOfObjects(bomb), "0: binary list: unfolds to more than 67108864 bytes"},
         {"bplist00", "0: binary list: damaged trailer"},
         {"bplist00" + trailer, "0: binary list: damaged trailer"},
