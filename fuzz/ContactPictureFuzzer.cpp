@@ -1,0 +1,12 @@
+#include "fuzz/Home.h"
+#include "platform/ContactPicture.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QString mark = QStringLiteral("mark");
+    const QByteArray input = bytesOf(data, size);
+    ContactPicture::carriesMark(input, mark);
+    const ContactPicture::Rendered rendered = ContactPicture::render(input, mark);
+    promise(ContactPicture::carriesMark(rendered.jpeg, mark), "a picture carries its mark");
+    return 0;
+}
