@@ -27,27 +27,34 @@ public:
 
     void printRatios() const
     {
-        std::printf("\n%-36s %12s %12s %7s\n", "medians", "us (ms)", "peer (ms)", "ratio");
-        for (const auto &[what, pair] : m_pairs)
-            std::printf("%-36s %12.1f %12.1f %7.2f\n", what.c_str(), pair.us, pair.peer,
-                        pair.us / pair.peer);
+        std::printf("\n%-40s %-28s %10s %10s %6s\n", "medians", "beside", "us (ms)", "peer (ms)",
+                    "ratio");
+        for (const auto &[what, row] : m_rows) {
+            for (const auto &[name, milliseconds] : row.peers)
+                std::printf("%-40s %-28s %10.1f %10.1f %6.2f\n", what.c_str(), name.c_str(), row.us,
+                            milliseconds, row.us / milliseconds);
+        }
     }
 
 private:
-    struct Pair
+    struct Row
     {
         double us = 0;
-        double peer = 0;
+        std::map<std::string, double> peers;
     };
 
     void add(const std::string &name, double milliseconds)
     {
         const size_t slash = name.find('/');
-        Pair &pair = m_pairs[name.substr(0, slash)];
-        (name.compare(slash + 1, 5, "peer:") == 0 ? pair.peer : pair.us) = milliseconds;
+        Row &row = m_rows[name.substr(0, slash)];
+        const std::string who = name.substr(slash + 1);
+        if (who.starts_with("peer: "))
+            row.peers[who.substr(6)] = milliseconds;
+        else
+            row.us = milliseconds;
     }
 
-    std::map<std::string, Pair> m_pairs;
+    std::map<std::string, Row> m_rows;
 };
 
 } // namespace

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Workbench.h"
+#include "app/CaravelHelperController.h"
+#include "platform/UserDefaults.h"
+#include "support/FakeDesktop.h"
+#include "support/SyncHarness.h"
+
+/// The whole helper without its bus, on a home whose music dropbox holds a number of files, and
+/// with pauses that take no time. The sources lie in `sources()` as another program would copy
+/// them.
+class DropboxHome
+{
+public:
+    /// `perFolder` files of `bytes` each in a folder. Where an `image` of so many bytes is wanted,
+    /// the stick is a mounted one (as root only).
+    struct Shape
+    {
+        int files;
+        int perFolder;
+        qsizetype bytes;
+        qint64 image = 0;
+    };
+    explicit DropboxHome(const Shape &shape);
+    ~DropboxHome();
+
+    QString sources() const
+    {
+        return m_folder / QStringLiteral("home/Documents/Caravel/Dropboxes/Music");
+    }
+    QString volume() const { return m_folder / QStringLiteral("volumes/STICK"); }
+    QString music() const { return volume() + QStringLiteral("/PSP/MUSIC"); }
+
+    /// One run, to its end; stops the program where it did not complete.
+    void sync();
+    /// Selects what lies in the dropbox, or nothing.
+    void select(bool everything);
+    void emptyStick() const;
+
+private:
+    void fill(const Shape &shape) const;
+    void mountImage(qint64 bytes) const;
+
+    const Shape m_shape;
+    Workbench m_folder;
+    UserDefaults m_defaults;
+    FakeVolumes m_volumes;
+    FakeNotifications m_notifications;
+    FakeClock m_clock;
+    FakeStatusBar m_statusBar;
+    FakeAlerts m_alerts;
+    FakeSounds m_sounds;
+    std::unique_ptr<CaravelHelperController> m_helper;
+};
