@@ -3,6 +3,7 @@
 #include "platform/MainThread.h"
 #include "util/Preferences.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -39,6 +40,7 @@ DropboxHome::DropboxHome(const Shape &shape)
 
 DropboxHome::~DropboxHome()
 {
+    settle();
     m_helper.reset();
     UserDefaults::setStandard(nullptr);
     if (m_shape.image > 0)
@@ -87,8 +89,17 @@ void DropboxHome::select(bool everything)
 
 void DropboxHome::sync()
 {
+    m_sounds.played.clear();
     m_helper->syncManager().sync();
-    if (!Workers::serveUntilFinished(std::chrono::minutes(10)) ||
-        m_helper->status().statusText() != u"Sync Successful")
-        qFatal("the run ended with \"%s\"", qPrintable(m_helper->status().statusText()));
+    while (m_sounds.played.isEmpty()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        if (m_helper->status().statusText() == u"Sync Cancelled")
+            qFatal("the run did not complete");
+    }
+}
+
+void DropboxHome::settle() const
+{
+    if (!Workers::serveUntilFinished(std::chrono::minutes(1)))
+        qFatal("the estimate does not end");
 }

@@ -31,8 +31,10 @@ public:
     QString volume() const { return m_folder / QStringLiteral("volumes/STICK"); }
     QString music() const { return volume() + QStringLiteral("/PSP/MUSIC"); }
 
-    /// One run, to its end; stops the program where it did not complete.
+    /// One run, until the user hears that it is done; stops the program where it did not complete.
     void sync();
+    /// Lets the estimate end that follows a run.
+    void settle() const;
     /// Selects what lies in the dropbox, or nothing.
     void select(bool everything);
     void emptyStick() const;

@@ -73,7 +73,12 @@ void firstCopy(benchmark::State &state, const DropboxHome::Shape &shape)
 {
     DropboxHome home(shape);
     measure(
-        state, [&] { home.emptyStick(); }, [&] { home.sync(); });
+        state,
+        [&] {
+            home.emptyStick();
+            home.settle();
+        },
+        [&] { home.sync(); });
 }
 
 void firstCopyOf(benchmark::State &state, const DropboxHome::Shape &shape, Command command)
@@ -118,7 +123,7 @@ void nothingToDo(benchmark::State &state, const DropboxHome::Shape &shape)
     DropboxHome home(shape);
     home.sync();
     measure(
-        state, [] {}, [&] { home.sync(); });
+        state, [&] { home.settle(); }, [&] { home.sync(); });
 }
 
 void nothingToDoOf(benchmark::State &state, const DropboxHome::Shape &shape, Command command)
@@ -140,6 +145,7 @@ void cleanUp(benchmark::State &state, const DropboxHome::Shape &shape)
             home.select(true);
             home.sync();
             home.select(false);
+            home.settle();
         },
         [&] { home.sync(); });
     if (!QDir(home.music()).isEmpty())

@@ -34,7 +34,7 @@ void sayNotWritten(const QString &path, const QString &reason)
 /// In place: a picture that is cut off is told by its missing end, and made anew.
 void writePicture(const QString &path, const QByteArray &bytes)
 {
-    const int descriptor = files().createForWriting(path);
+    const int descriptor = files().createForWriting(path, FileManager::Existing::Truncate);
     qint64 done = 0;
     qint64 step = descriptor < 0 ? -1 : 1;
     while (step > 0 && done < bytes.size()) {

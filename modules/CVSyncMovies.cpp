@@ -248,15 +248,16 @@ void CVSyncMovies::addLibraryItems(std::vector<CVSyncItem> &items) const
 
 void CVSyncMovies::addDropboxItems(std::vector<CVSyncItem> &items) const
 {
-    for (const FolderEntry &entry : files().subpaths(dropbox())) {
+    const QString from = dropbox() + u'/';
+    for (const FolderEntry &entry : files().entries(dropbox())) {
         const QStringView extension = PathComponents::extensionOf(entry.path);
         const bool isWanted = extension.compare(u"MP4", Qt::CaseInsensitive) == 0 ||
                               extension.compare(u"THM", Qt::CaseInsensitive) == 0;
-        if (entry.parent >= 0 || entry.isFolder || !isWanted)
+        if (entry.isFolder || !isWanted)
             continue;
         const QString folder = entry.path.startsWith(u"MAQ") ? QStringLiteral("/100ANV01/")
                                                              : QStringLiteral("/101MNV01/");
-        items.emplace_back(dropbox() + u'/' + entry.path,
-                           rootSyncFolder() + folder + entry.path.toUpper(), entry.path);
+        items.emplace_back(from + entry.path, rootSyncFolder() + folder + entry.path.toUpper(),
+                           entry.path);
     }
 }

@@ -142,13 +142,14 @@ void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items) const
 void CVSyncMusic::addDropboxItems(std::vector<CVSyncItem> &items) const
 {
     const qint64 firmware = firmwareVersion();
+    const QString from = dropbox() + u'/';
+    const QString root = rootSyncFolder() + u'/';
     for (const FolderEntry &entry : FileManager::defaultManager().subpaths(dropbox())) {
         const QStringView extension = PathComponents::extensionOf(entry.path);
         if (entry.isFolder || !MusicNaming::isPlayable(extension, firmware))
             continue;
         const QString onStick =
             entry.path.chopped(extension.size()) + MusicNaming::extensionOnStick(extension);
-        items.emplace_back(dropbox() + u'/' + entry.path, rootSyncFolder() + u'/' + onStick,
-                           entry.path);
+        items.emplace_back(from + entry.path, root + onStick, entry.path);
     }
 }

@@ -37,12 +37,15 @@ QString dropbox()
     return Preferences::dropboxFolder(QStringLiteral("Photos"));
 }
 
-bool isShown(QStringView extension)
+qint64 firmwareVersion()
+{
+    return UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion"));
+}
+
+bool isShown(QStringView extension, qint64 firmware)
 {
     static constexpr QStringView formats[] = {u"JPG", u"JPEG", u"TIF", u"TIFF",
                                               u"PNG", u"GIF",  u"BMP"};
-    const qint64 firmware =
-        UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion"));
     constexpr ptrdiff_t formatsOfFirmware0 = 2;
     const auto *const end =
         firmware < 1 ? std::begin(formats) + formatsOfFirmware0 : std::end(formats);
@@ -129,6 +132,8 @@ void CVSyncPhotos::addAlbum(const PhotoLibrary &library, const PhotoLibrary::Alb
     const bool numbered =
         UserDefaults::standard().integerForKey(QStringLiteral("sortPhotosBy")) == numberedByAlbum;
     const QString folder = PathComponents::safe(FileManagerTools::makeFilename(*album.name));
+    const QString root = rootSyncFolder() + u'/';
+    const qint64 firmware = firmwareVersion();
     int position = 0;
     for (const QString &key : album.keys) {
         // What the PSP can't show has its number all the same.
@@ -137,22 +142,24 @@ void CVSyncPhotos::addAlbum(const PhotoLibrary &library, const PhotoLibrary::Alb
         if (!image || !image->path || !image->path->startsWith(u'/'))
             continue;
         const QStringView extension = PathComponents::extensionOf(*image->path);
-        if (!isShown(extension))
+        if (!isShown(extension, firmware))
             continue;
         QString name = FileManagerTools::makeFilename(captionOf(*image));
         if (numbered)
             name = QStringLiteral("%1. %2").arg(place, 3, 10, QChar(u'0')).arg(name);
         const QString suffix = u'.' + extension.toString();
         const QString relative = folder + u'/' + PathComponents::safe(name, suffix);
-        items.emplace_back(*image->path, rootSyncFolder() + u'/' + relative + suffix, relative);
+        items.emplace_back(*image->path, root + relative + suffix, relative);
     }
 }
 
 void CVSyncPhotos::addDropboxItems(std::vector<CVSyncItem> &items) const
 {
+    const QString from = dropbox() + u'/';
+    const QString root = rootSyncFolder() + u'/';
+    const qint64 firmware = firmwareVersion();
     for (const FolderEntry &entry : FileManager::defaultManager().subpaths(dropbox())) {
-        if (!entry.isFolder && isShown(PathComponents::extensionOf(entry.path)))
-            items.emplace_back(dropbox() + u'/' + entry.path, rootSyncFolder() + u'/' + entry.path,
-                               entry.path);
+        if (!entry.isFolder && isShown(PathComponents::extensionOf(entry.path), firmware))
+            items.emplace_back(from + entry.path, root + entry.path, entry.path);
     }
 }

@@ -122,6 +122,12 @@ bool writeAll(FileManager &files, int descriptor, const QByteArray &contents)
     return true;
 }
 
+void flushFileSystemOf(const Posix::Descriptor &any)
+{
+    if (!any || ::syncfs(any.get()) != 0)
+        ::sync();
+}
+
 /// Some file systems have nothing to flush for a folder and say EINVAL.
 bool flushFolderOf(const QByteArray &path)
 {
@@ -169,14 +175,12 @@ int FileManager::openForReading(const QString &path)
     return Posix::openRegularFile(Posix::native(path).constData());
 }
 
-int FileManager::createForWriting(const QString &path)
+int FileManager::createForWriting(const QString &path, Existing existing)
 {
     const QByteArray native = Posix::native(path);
-    return retryInterrupted([&native] {
-        return ::open(native.constData(),
-                      O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW,
-                      newFileMode);
-    });
+    const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW |
+                      (existing == Existing::Refuse ? O_EXCL : O_TRUNC);
+    return retryInterrupted([&] { return ::open(native.constData(), flags, newFileMode); });
 }
 
 qint64 FileManager::read(int descriptor, void *buffer, size_t count)
@@ -200,12 +204,20 @@ bool FileManager::close(int descriptor)
     return ::close(descriptor) == 0 || errno == EINTR;
 }
 
+bool FileManager::closeAndFlush(int descriptor)
+{
+    const Posix::Descriptor any(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
+    const bool isClosed = close(descriptor);
+    const int error = errno;
+    flushFileSystemOf(any);
+    errno = error;
+    return isClosed;
+}
+
 void FileManager::flush(const QString &path)
 {
-    const Posix::Descriptor any(
-        ::open(Posix::native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    if (!any || ::syncfs(any.get()) != 0)
-        ::sync();
+    flushFileSystemOf(Posix::Descriptor(
+        ::open(Posix::native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)));
 }
 
 bool FileManager::writeAtomically(const QString &path, const QByteArray &contents, QString *reason)

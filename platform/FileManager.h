@@ -95,12 +95,20 @@ public:
     virtual bool createFolder(const QString &path);
 
     /// Raw access for chunked copies, as POSIX: a descriptor or -1, a count or -1, errno set. Reads
-    /// and writes are retried when interrupted. `createForWriting` truncates (0644 less the umask).
+    /// and writes are retried when interrupted. Regular files only: reading another kind fails with
+    /// EISDIR or EINVAL. A new file has 0644 less the umask; where something is there already, a
+    /// link that leads nowhere too, `Refuse` fails with EEXIST.
+    enum class Existing { Truncate, Refuse };
     virtual int openForReading(const QString &path);
-    virtual int createForWriting(const QString &path);
+    virtual int createForWriting(const QString &path, Existing existing);
     virtual qint64 read(int descriptor, void *buffer, size_t count);
     virtual qint64 write(int descriptor, const void *buffer, size_t count);
     virtual bool close(int descriptor);
+
+    /// Closes a file that was written, then writes the buffers of its file system to the device
+    /// (syncfs), or those of every file system where that fails. Closing comes first: some file
+    /// systems write only then. The answer is the closing's.
+    virtual bool closeAndFlush(int descriptor);
 
     /// Moves up to so many bytes from one open file to another without taking them through memory
     /// of ours, and advances both. How many; 0 at the source's end; -1 where it can't be done or

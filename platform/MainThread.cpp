@@ -28,10 +28,15 @@ namespace {
 /// a waiting caller for as long as the main thread may take to wake.
 constexpr auto burstGap = std::chrono::microseconds(200);
 constexpr auto wakeTime = std::chrono::microseconds(250);
+constexpr auto longestBurst = std::chrono::microseconds(500);
 
 template <typename Condition>
 bool stayAwakeUntil(Condition condition, std::chrono::microseconds limit)
 {
+    for (int i = 0; i < 100; ++i) { // most waits are shorter than a system call
+        if (condition())
+            return true;
+    }
     const auto end = std::chrono::steady_clock::now() + limit;
     while (!condition()) {
         if (std::chrono::steady_clock::now() >= end)
@@ -75,14 +80,15 @@ struct Call
     std::shared_ptr<Completion> completion; // null where nobody waits
 };
 
-/// The calls on their way to the main thread. Workers touch nothing of Qt's: they queue a call and
-/// count an eventfd up, which the main thread's event loop watches. One count is one call, so that
-/// a nested event loop serves what comes after the call that runs it.
+/// The calls on their way to the main thread. Workers touch nothing of Qt's: they queue a call and,
+/// unless the main thread looks at the queue anyway, write to an eventfd, which its event loop
+/// watches. While a call is carried out it doesn't look: a nested event loop of the call's serves
+/// what comes meanwhile.
 class CallQueue
 {
 public:
     CallQueue()
-        : m_wakeup(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE))
+        : m_wakeup(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
     {
         if (m_wakeup < 0)
             qFatal("can't make an eventfd for the main thread's calls");
@@ -100,52 +106,79 @@ public:
 
     void append(Call call)
     {
+        bool isWatched = false;
         {
             const std::scoped_lock lock(m_mutex);
             m_calls.push_back(std::move(call));
             ++m_waiting;
+            isWatched = m_isWatched;
         }
-        const std::uint64_t one = 1;
-        while (::write(m_wakeup, &one, sizeof one) < 0 && errno == EINTR) {
-        }
+        if (!isWatched)
+            wakeMainThread();
     }
 
     void serveWaiting()
     {
         for (int count = m_waiting.load(std::memory_order_acquire); count > 0; --count)
             serveOne();
+        stopWatching();
     }
 
 private:
+    void wakeMainThread() const
+    {
+        const std::uint64_t one = 1;
+        while (::write(m_wakeup, &one, sizeof one) < 0 && errno == EINTR) {
+        }
+    }
+
     /// A burst of calls is served in one go, but never so long that timers and requests starve.
     void serveBurst()
     {
-        constexpr int longest = 8;
+        std::uint64_t count = 0;
+        [[maybe_unused]] const auto cleared = ::read(m_wakeup, &count, sizeof count);
+        const auto end = std::chrono::steady_clock::now() + longestBurst;
         const auto hasNext = [this] {
             return m_waiting.load(std::memory_order_acquire) > 0;
         };
-        int served = 0;
-        do {
-            serveOne();
-        } while (++served < longest && stayAwakeUntil(hasNext, burstGap));
+        while (serveOne() && std::chrono::steady_clock::now() < end &&
+               stayAwakeUntil(hasNext, burstGap)) {
+        }
+        stopWatching();
     }
 
-    void serveOne()
+    /// False where nothing waits. The queue is watched afterwards.
+    bool serveOne()
     {
-        std::uint64_t count = 0;
-        if (::read(m_wakeup, &count, sizeof count) < 0)
-            return;
         Call call;
         {
             const std::scoped_lock lock(m_mutex);
+            if (m_calls.empty())
+                return false;
             call = std::move(m_calls.front());
             m_calls.pop_front();
             --m_waiting;
+            m_isWatched = false;
+            if (!m_calls.empty())
+                wakeMainThread();
         }
         call.work();
         call.work = nullptr; // what it captured dies before its caller goes on
+        {
+            const std::scoped_lock lock(m_mutex);
+            m_isWatched = true;
+        }
         if (call.completion)
             call.completion->signal();
+        return true;
+    }
+
+    void stopWatching()
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_isWatched = false;
+        if (!m_calls.empty())
+            wakeMainThread();
     }
 
     const int m_wakeup;
@@ -155,6 +188,7 @@ private:
     std::atomic<int> m_waiting = 0; // calls in the queue
     std::mutex m_mutex;             // guards what follows
     std::deque<Call> m_calls;
+    bool m_isWatched = false; // the main thread looks at the queue by itself
 };
 
 /// Never destroyed: a detached worker may still call while the process ends. It then waits until

@@ -151,8 +151,11 @@ bool CVSyncModule::shouldCopy(const CVSyncItem &item, const Measured &source)
             qCInfo(lcSync).noquote() << "Dequeueing" << item.source << "(file does not exist)";
         return false;
     }
-    if (!isReachedWithoutLinks(item.destination))
+    const Reach folder = reachOf(folderOf(item.destination));
+    if (folder == Reach::ThroughLink)
         return false;
+    if (folder == Reach::Missing)
+        return true;
     const FileStatus destination = files().linkStatus(item.destination);
     if (!destination.exists())
         return true;
@@ -179,23 +182,25 @@ bool CVSyncModule::isInPlace(const CVSyncItem &item, const Measured &source,
 
 // A link among the folders leads off the stick: what lies behind it is the user's own, to be
 // neither removed nor overwritten.
-bool CVSyncModule::isReachedWithoutLinks(const QString &path)
+CVSyncModule::Reach CVSyncModule::reachOf(const QString &folder)
 {
-    const QString folder = folderOf(path);
     const QString volume = pspVolume();
     if (!StickFiles::isOnVolume(folder, volume) || folder.size() == volume.size())
-        return true;
-    if (const auto known = m_reachedFolders.constFind(folder); known != m_reachedFolders.constEnd())
+        return Reach::Present;
+    if (const auto known = m_reach.constFind(folder); known != m_reach.constEnd())
         return *known;
-    const bool isLink = files().linkStatus(folder).kind == FileStatus::Kind::Link;
-    if (isLink) {
+    const FileStatus status = files().linkStatus(folder);
+    Reach reach = status.exists() ? Reach::Present : Reach::Missing;
+    if (status.kind == FileStatus::Kind::Link) {
         fileManagerShouldProceedAfterError(
             {{QStringLiteral("Error"), QStringLiteral("Won't follow a link off the stick")},
              {QStringLiteral("Path"), folder}});
+        reach = Reach::ThroughLink;
+    } else if (reachOf(folderOf(folder)) == Reach::ThroughLink) {
+        reach = Reach::ThroughLink;
     }
-    const bool reached = !isLink && isReachedWithoutLinks(folder);
-    m_reachedFolders.insert(folder, reached);
-    return reached;
+    m_reach.insert(folder, reach);
+    return reach;
 }
 
 // --- Cleaning up
@@ -224,7 +229,7 @@ void CVSyncModule::cleanUp(const QString &folder, bool ownOnly)
 {
     if (folder == u"/" || folder == u"/Volumes" || !StickFiles::isOnVolume(folder, pspVolume()))
         return;
-    if (!isReachedWithoutLinks(folder + QStringLiteral("/.")))
+    if (reachOf(folder) == Reach::ThroughLink)
         return;
     CleanUp pass;
     const QString indexPath = StickFiles::syncIndex(pspVolume(), m_saveName);
@@ -313,7 +318,10 @@ void CVSyncModule::syncItem(const CVSyncItem &item)
 
 bool CVSyncModule::copyItem(const CVSyncItem &item)
 {
-    FileManagerTools::createPath(folderOf(item.destination));
+    const QString folder = folderOf(item.destination);
+    if (m_lastFolder != folder)
+        FileManagerTools::createPath(folder);
+    m_lastFolder = folder;
     return FileManagerTools::copyPath(item.source, item.destination, *this);
 }
 

@@ -94,7 +94,8 @@ private:
     bool shouldCopy(const CVSyncItem &item, const Measured &source);
     bool isInPlace(const CVSyncItem &item, const Measured &source,
                    const FileStatus &destination) const;
-    bool isReachedWithoutLinks(const QString &path);
+    enum class Reach { ThroughLink, Missing, Present };
+    Reach reachOf(const QString &folder);
     bool shouldRemove(const CleanUp &pass, size_t entry, const QString &path) const;
     void removeDuringCleanUp(CleanUp &pass, size_t entry, const QString &path);
     void collectSyncedFiles();
@@ -107,10 +108,11 @@ private:
     const QSet<QString> m_selected;
 
     std::vector<CVSyncItem> m_syncQueue;
-    std::vector<Measured> m_measured;      // one per item of the queue
-    QSet<QString> m_allSyncedFiles;        // as comparable() gives them
-    QStringList m_syncIndex;               // volume-relative
-    QHash<QString, bool> m_reachedFolders; // on the stick: whether no link leads there
+    std::vector<Measured> m_measured; // one per item of the queue
+    QSet<QString> m_allSyncedFiles;   // as comparable() gives them
+    QStringList m_syncIndex;          // volume-relative
+    QHash<QString, Reach> m_reach;    // of folders on the stick
+    QString m_lastFolder;             // that something was copied into
     bool m_logsInDetail = false;
     quint64 m_syncQueueSize = 0;
     quint64 m_syncEstimateSize = 0;

@@ -17,35 +17,42 @@ using StringTools::appendingPathComponent;
 
 namespace {
 
-/// What the copy of one file needs until both sides are closed.
+void reportTo(FileOperationHandler &handler, const QString &what, const QString &path, int error)
+{
+    ErrorInfo info{{QStringLiteral("Error"), what}, {QStringLiteral("Path"), path}};
+    if (error != 0)
+        info.insert(QStringLiteral("Reason"),
+                    QString::fromLocal8Bit(std::generic_category().message(error).c_str()));
+    handler.fileManagerShouldProceedAfterError(info);
+}
+
+/// What the copy of one file needs until both sides are closed. Takes the open source over.
 class ChunkedCopy
 {
 public:
-    ChunkedCopy(FileManager &files, QString source, QString destination,
+    ChunkedCopy(FileManager &files, int from, const QString &source, const QString &destination,
                 FileOperationHandler &handler)
         : m_files(files)
-        , m_source(std::move(source))
-        , m_destination(std::move(destination))
+        , m_source(source)
+        , m_destination(destination)
         , m_handler(handler)
+        , m_from(from)
     {
     }
 
     bool run()
     {
-        m_from = m_files.openForReading(m_source);
-        if (m_from < 0)
-            return false;
-        m_to = m_files.createForWriting(m_destination);
+        m_to = m_files.createForWriting(m_destination, FileManager::Existing::Refuse);
         if (m_to < 0) {
-            report(QStringLiteral("Couldn't create"), m_destination, errno);
+            if (errno != EEXIST)
+                report(QStringLiteral("Couldn't create"), m_destination, errno);
             m_files.close(m_from);
             return false;
         }
         copyChunks();
-        if (!m_files.close(m_to))
+        if (!m_files.closeAndFlush(m_to))
             reportWriteError(errno);
         m_files.close(m_from);
-        m_files.flush(m_destination);
         return true;
     }
 
@@ -112,18 +119,14 @@ private:
 
     void report(const QString &what, const QString &path, int error)
     {
-        ErrorInfo info{{QStringLiteral("Error"), what}, {QStringLiteral("Path"), path}};
-        if (error != 0)
-            info.insert(QStringLiteral("Reason"),
-                        QString::fromLocal8Bit(std::generic_category().message(error).c_str()));
-        m_handler.fileManagerShouldProceedAfterError(info);
+        reportTo(m_handler, what, path, error);
     }
 
     FileManager &m_files;
-    const QString m_source;
-    const QString m_destination;
+    const QString &m_source;
+    const QString &m_destination;
     FileOperationHandler &m_handler;
-    int m_from = -1;
+    const int m_from;
     int m_to = -1;
     bool m_canTransfer = true;
     bool m_writeErrorReported = false;
@@ -229,13 +232,16 @@ bool FileManagerTools::copyPath(const QString &source, const QString &toPath,
                                 FileOperationHandler &detailedHandler)
 {
     FileManager &files = FileManager::defaultManager();
-    const FileStatus from = files.status(source);
+    const int from = files.openForReading(source);
+    if (from >= 0)
+        return ChunkedCopy(files, from, source, toPath, detailedHandler).run();
+    const int error = errno;
     // A link that leads nowhere is in the way too: writing through it would land somewhere else.
-    if (!from.exists() || files.linkStatus(toPath).exists())
-        return false;
-    if (from.isFolder())
-        return files.copy(source, toPath, &detailedHandler);
-    return ChunkedCopy(files, source, toPath, detailedHandler).run();
+    if (files.status(source).isFolder())
+        return !files.linkStatus(toPath).exists() && files.copy(source, toPath, &detailedHandler);
+    if (error != ENOENT)
+        reportTo(detailedHandler, QStringLiteral("Couldn't read"), source, error);
+    return false;
 }
 
 QString FileManagerTools::pathByResolvingAliasesInPath(const QString &path)

@@ -19,7 +19,8 @@ void createPath(const QString &path);
 /// file system; a folder is copied as a tree without progress. An existing destination is left
 /// alone and answered with false, a missing source too. True also when the handler stopped the copy
 /// or a read or write failed midway: the destination is then shorter than its source. A destination
-/// that can't be made is reported once, with "Error" = "Couldn't create", and answered with false.
+/// that can't be made is reported once, with "Error" = "Couldn't create", and answered with false;
+/// a source that can't be opened likewise with "Couldn't read".
 bool copyPath(const QString &source, const QString &toPath, FileOperationHandler &detailedHandler);
 
 /// The path with every symbolic link along it followed. Where a link can't be resolved (a loop, a

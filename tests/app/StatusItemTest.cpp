@@ -121,6 +121,7 @@ TEST(StatusMenuTest, FollowsTheManager)
         }
     };
     harness.run();
+    ASSERT_TRUE(waitFor([&] { return chosen.size() == 2; }));
     EXPECT_EQ(chosen.last(), QStringLiteral("Cancel Sync")) << "as it was when it was chosen";
     EXPECT_EQ(during,
               (QStringList{QStringLiteral("Idle,Cancel Sync,(Eject PSP),Open Caravel,Quit"),

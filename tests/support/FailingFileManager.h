@@ -38,9 +38,9 @@ public:
     {
         return !isReadOnly(path) && FileManager::createFolder(path);
     }
-    int createForWriting(const QString &path) override
+    int createForWriting(const QString &path, Existing existing) override
     {
-        return isReadOnly(path) ? -1 : FileManager::createForWriting(path);
+        return isReadOnly(path) ? -1 : FileManager::createForWriting(path, existing);
     }
     qint64 transfer(int, int, size_t) override { return -1; }
     qint64 write(int descriptor, const void *buffer, size_t count) override
