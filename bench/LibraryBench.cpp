@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 
 #include <benchmark/benchmark.h>
 #include <expat.h>
@@ -161,12 +162,28 @@ void libraryExpat(benchmark::State &state)
     state.counters["fileMB"] = static_cast<double>(QFile(home.library).size()) / 1e6;
 }
 
+void libraryPlistlib(benchmark::State &state)
+{
+    const LibraryHome home;
+    const QString script =
+        QStringLiteral("import plistlib, sys; plistlib.load(open(sys.argv[1], 'rb'))");
+    for (auto _ : state) {
+        if (QProcess::execute(QStringLiteral("python3"),
+                              {QStringLiteral("-c"), script, home.library}) != 0)
+            state.SkipWithError("python3 failed");
+    }
+}
+
 BENCHMARK(libraryItems)
     ->Name("library of 100,000 tracks/itemsToSync")
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 BENCHMARK(libraryExpat)
     ->Name("library of 100,000 tracks/peer: bare expat pass")
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK(libraryPlistlib)
+    ->Name("library of 100,000 tracks/peer: Python's plistlib")
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 

@@ -55,6 +55,11 @@ QStringList cp(const QString &from, const QString &to)
     return {QStringLiteral("cp"), QStringLiteral("-r"), from + QStringLiteral("/."), to};
 }
 
+QStringList diff(const QString &from, const QString &to)
+{
+    return {QStringLiteral("diff"), QStringLiteral("-rq"), from, to};
+}
+
 QStringList rm(const QString & /*from*/, const QString &to)
 {
     return {QStringLiteral("rm"), QStringLiteral("-rf"), to};
@@ -126,10 +131,12 @@ void nothingToDo(benchmark::State &state, const DropboxHome::Shape &shape)
         state, [&] { home.settle(); }, [&] { home.sync(); });
 }
 
-void nothingToDoOf(benchmark::State &state, const DropboxHome::Shape &shape, Command command)
+/// The command once more over what lies there already.
+void againOf(benchmark::State &state, const DropboxHome::Shape &shape, Command command)
 {
     const DropboxHome home(shape);
-    run(command(home.sources(), home.music()));
+    run({QStringLiteral("cp"), QStringLiteral("-a"), home.sources() + QStringLiteral("/."),
+         home.music()}); // with its times, which some look at
     measure(
         state, [] {}, [&] { run(command(home.sources(), home.music())); });
 }
@@ -159,6 +166,23 @@ void cleanUpOf(benchmark::State &state, const DropboxHome::Shape &shape, Command
     measure(
         state, [&] { run(cp(home.sources(), home.music())); },
         [&] { run(command(nothing.path(), home.music())); });
+}
+
+// --- Comparing
+
+void comparison(benchmark::State &state, const DropboxHome::Shape &shape)
+{
+    const DropboxHome home(shape);
+    run(cp(home.sources(), home.music()));
+    bool equal = true;
+    measure(
+        state, [] {},
+        [&] {
+            equal =
+                equal && FileManager::defaultManager().contentsEqual(home.sources(), home.music());
+        });
+    if (!equal)
+        state.SkipWithError("a copy is no true one");
 }
 
 // --- The table
@@ -200,19 +224,22 @@ const bool registered = [] {
     const Peer cpPeer{"cp -r", cp};
     addRow("first copy of 20,000 files of 8 KiB", smallFiles, firstCopy, firstCopyOf,
            {rsyncPeer, rclonePeer, cpPeer});
-    addRow("nothing to do with 20,000 files", smallFiles, nothingToDo, nothingToDoOf,
+    addRow("nothing to do with 20,000 files", smallFiles, nothingToDo, againOf,
            {rsyncPeer, rclonePeer});
     addRow("clean-up of 20,000 files", smallFiles, cleanUp, cleanUpOf,
            {{"rm -rf", rm}, rsyncPeer, rclonePeer});
     addRow("first copy of 40 files of 16 MiB", largeFiles, firstCopy, firstCopyOf,
            {cpPeer, rsyncPeer, rclonePeer});
+    addRow("comparing 20,000 files of 8 KiB", smallFiles, comparison, againOf,
+           {{"diff -rq", diff}});
+    addRow("comparing 40 files of 16 MiB", largeFiles, comparison, againOf, {{"diff -rq", diff}});
     if (::geteuid() != 0)
         return false;
     addRow("image: first copy of 1,000 files", onImage, firstCopy, firstCopyOf,
            {rsyncPeer, rclonePeer});
     add("image: first copy of 1,000 files/peer: bare loop with syncfs",
         [](benchmark::State &state) { flushedCopy(state, onImage); });
-    addRow("image: nothing to do with 1,000 files", onImage, nothingToDo, nothingToDoOf,
+    addRow("image: nothing to do with 1,000 files", onImage, nothingToDo, againOf,
            {rsyncPeer, rclonePeer});
     return true;
 }();

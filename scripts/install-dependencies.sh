@@ -5,12 +5,13 @@ set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: install-dependencies.sh [--lint] [--fuzz]
+Usage: install-dependencies.sh [--lint] [--fuzz] [--bench]
 Installs the missing ones of the Debian packages that this project needs (as root or through sudo).
 
   --lint   also what scripts/lint.sh runs: clang-format, clang-tidy, git and the checkers of desktop
            files and man pages
   --fuzz   also what scripts/fuzz.sh builds with: clang
+  --bench  also what scripts/bench.sh compares with and looks through: rsync, rclone, strace
 EOF
 }
 
@@ -29,6 +30,7 @@ while (($#)); do
     case $1 in
     --lint) packages+=(clang-format clang-tidy git desktop-file-utils appstream groff-base) ;;
     --fuzz) packages+=(clang) ;;
+    --bench) packages+=(rsync rclone strace) ;;
     -h | --help) usage; exit 0 ;;
     *) usage >&2; exit 2 ;;
     esac
