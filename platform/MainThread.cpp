@@ -24,11 +24,12 @@
 namespace {
 
 /// Waking a sleeping thread takes far longer than most calls do (100 µs and more on virtual
-/// machines), and calls come in bursts. So the main thread stays awake for a moment after each, and
-/// a waiting caller for as long as the main thread may take to wake.
-constexpr auto burstGap = std::chrono::microseconds(200);
+/// machines), and calls come in bursts. So the main thread stays awake for a moment after each
+/// (that a chunk of a copy takes in memory; on a stick it takes a hundred times as long), and a
+/// waiting caller for as long as the main thread may take to wake.
+constexpr auto burstGap = std::chrono::microseconds(1000);
 constexpr auto wakeTime = std::chrono::microseconds(250);
-constexpr auto longestBurst = std::chrono::microseconds(500);
+constexpr auto longestBurst = std::chrono::microseconds(4000);
 
 template <typename Condition>
 bool stayAwakeUntil(Condition condition, std::chrono::microseconds limit)
