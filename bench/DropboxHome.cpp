@@ -1,9 +1,5 @@
 #include "DropboxHome.h"
 
-#include "platform/MainThread.h"
-#include "util/Preferences.h"
-
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -20,29 +16,21 @@ void execute(const QString &program, const QStringList &arguments)
 
 DropboxHome::DropboxHome(const Shape &shape)
     : m_shape(shape)
-    , m_defaults(QStringLiteral("org.caravel.Caravel"), m_folder / QStringLiteral("preferences"))
+    , m_helper(m_folder.path())
 {
-    qputenv("HOME", (m_folder / QStringLiteral("home")).toUtf8());
-    UserDefaults::setStandard(&m_defaults);
-    m_defaults.registerDefaults(Preferences::registeredDefaults());
-    m_defaults.setObject(QStringLiteral("syncOnMount"), false);
-    m_defaults.setObject(QStringLiteral("firmwareVersion"), 0);
+    m_helper.defaults.setObject(QStringLiteral("syncOnMount"), false);
+    m_helper.defaults.setObject(QStringLiteral("firmwareVersion"), 0);
     fill(shape);
     QDir().mkpath(volume());
     if (shape.image > 0)
         mountImage(shape.image);
     emptyStick();
-    m_helper = std::make_unique<CaravelHelperController>(CaravelHelperController::Services{
-        m_volumes, m_notifications, m_clock, m_statusBar, m_alerts, m_sounds,
-        Bundle(m_folder / QStringLiteral("Caravel/Contents/Helpers/CaravelHelper"))});
-    m_volumes.mount(volume());
+    m_helper.volumes.mount(volume());
 }
 
 DropboxHome::~DropboxHome()
 {
     settle();
-    m_helper.reset();
-    UserDefaults::setStandard(nullptr);
     if (m_shape.image > 0)
         execute(QStringLiteral("umount"), {volume()});
 }
@@ -84,22 +72,11 @@ void DropboxHome::emptyStick() const
 
 void DropboxHome::select(bool everything)
 {
-    m_defaults.setObject(QStringLiteral("syncDropboxes"), everything);
+    m_helper.defaults.setObject(QStringLiteral("syncDropboxes"), everything);
 }
 
 void DropboxHome::sync()
 {
-    m_sounds.played.clear();
-    m_helper->syncManager().sync();
-    while (m_sounds.played.isEmpty()) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        if (m_helper->status().statusText() == u"Sync Cancelled")
-            qFatal("the run did not complete");
-    }
-}
-
-void DropboxHome::settle() const
-{
-    if (!Workers::serveUntilFinished(std::chrono::minutes(1)))
-        qFatal("the estimate does not end");
+    if (!m_helper.sync())
+        qFatal("the run did not complete");
 }

@@ -1,14 +1,10 @@
 #pragma once
 
 #include "Workbench.h"
-#include "app/CaravelHelperController.h"
-#include "platform/UserDefaults.h"
-#include "support/FakeDesktop.h"
-#include "support/SyncHarness.h"
+#include "support/HelperHarness.h"
 
-/// The whole helper without its bus, on a home whose music dropbox holds a number of files, and
-/// with pauses that take no time. The sources lie in `sources()` as another program would copy
-/// them.
+/// The helper with a home whose music dropbox holds a number of files. They lie in `sources()` as
+/// another program would copy them.
 class DropboxHome
 {
 public:
@@ -34,7 +30,7 @@ public:
     /// One run, until the user hears that it is done; stops the program where it did not complete.
     void sync();
     /// Lets the estimate end that follows a run.
-    void settle() const;
+    static void settle() { HelperHarness::settle(); }
     /// Selects what lies in the dropbox, or nothing.
     void select(bool everything);
     void emptyStick() const;
@@ -45,12 +41,5 @@ private:
 
     const Shape m_shape;
     Workbench m_folder;
-    UserDefaults m_defaults;
-    FakeVolumes m_volumes;
-    FakeNotifications m_notifications;
-    FakeClock m_clock;
-    FakeStatusBar m_statusBar;
-    FakeAlerts m_alerts;
-    FakeSounds m_sounds;
-    std::unique_ptr<CaravelHelperController> m_helper;
+    HelperHarness m_helper;
 };

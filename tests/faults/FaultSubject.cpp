@@ -1,15 +1,12 @@
 // What the helper does with a stick, once, in a place that exists: `fault_subject PLACE WHAT`,
 // where WHAT is "sync", "restore" (the save GAME's oldest backup) or "store" (a converted movie
-// into the library). Waits for nothing and talks to nobody. Prints one line per event of the run.
+// into the library). Waits for nothing and talks to nobody. Prints the user's log, and a line
+// "alert: title" for each alert.
 
 #include "modules/CVSyncBackup.h"
-#include "modules/CVSyncBookmarks.h"
-#include "modules/CVSyncContacts.h"
 #include "modules/CVSyncMovies.h"
-#include "modules/CVSyncMusic.h"
-#include "modules/CVSyncPhotos.h"
 #include "platform/VCardAddressBook.h"
-#include "support/SyncHarness.h"
+#include "support/HelperHarness.h"
 
 #include <QCoreApplication>
 
@@ -17,14 +14,33 @@
 
 namespace {
 
-/// A disk of a fixed size, so that what is recorded of it is the same in each run.
+/// A disk of a fixed size, so that what is recorded of it is the same in each run; full from the
+/// first write that finds no room.
 class FixedSpace : public FileManager
 {
 public:
     std::optional<VolumeSpace> volumeSpace(const QString & /*path*/) const override
     {
-        return VolumeSpace{1ULL << 30, 1ULL << 29};
+        return VolumeSpace{1ULL << 30, m_isFull ? 0 : 1ULL << 29};
     }
+    int createForWriting(const QString &path, Existing existing) override
+    {
+        return static_cast<int>(noting(FileManager::createForWriting(path, existing)));
+    }
+    qint64 write(int descriptor, const void *buffer, size_t count) override
+    {
+        return noting(FileManager::write(descriptor, buffer, count));
+    }
+
+private:
+    qint64 noting(qint64 result)
+    {
+        if (result < 0 && errno == ENOSPC)
+            m_isFull = true;
+        return result;
+    }
+
+    std::atomic<bool> m_isFull = false;
 };
 
 class CardFolder : public AddressBook
@@ -36,22 +52,17 @@ public:
     }
 };
 
-template <typename Module>
-std::unique_ptr<CVSyncModule> make(CVSyncModuleDelegate *delegate)
+int sync(HelperHarness &harness)
 {
-    return std::make_unique<Module>(delegate);
-}
-
-int sync(SyncHarness &harness)
-{
-    const bool completed = harness.run();
-    for (const QString &event : harness.delegate.steps())
-        std::puts(event.toLocal8Bit().constData());
-    harness.defaults.synchronize();
+    const bool completed = harness.sync();
+    HelperHarness::settle();
+    std::fputs(harness.helper->logger().log().toLocal8Bit().constData(), stdout);
+    for (const QString &title : harness.alerts.titles)
+        std::printf("alert: %s\n", title.toLocal8Bit().constData());
     return completed ? 0 : 1;
 }
 
-int restore(const SyncHarness &harness)
+int restore(const HelperHarness &harness)
 {
     const QString save = QStringLiteral("GAME");
     const auto restored = CVSyncBackup::restoreBackupWithIdentifier(
@@ -75,17 +86,7 @@ int main(int argc, char **argv)
     FileManager::setDefaultManager(&files);
     CardFolder book;
     AddressBook::setSharedAddressBook(&book);
-    SyncHarness *place = nullptr;
-    ModuleFactory modules{make<CVSyncMusic>,
-                          make<CVSyncPhotos>,
-                          make<CVSyncMovies>,
-                          [&place](CVSyncModuleDelegate *delegate) {
-                              return std::make_unique<CVSyncBackup>(delegate, place->clock);
-                          },
-                          make<CVSyncBookmarks>,
-                          make<CVSyncContacts>};
-    SyncHarness harness(std::move(modules), arguments.value(1));
-    place = &harness;
+    HelperHarness harness(arguments.value(1));
     harness.volumes.mount(harness.stick());
     if (arguments.value(2) == u"restore")
         return restore(harness);

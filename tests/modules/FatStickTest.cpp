@@ -2,27 +2,15 @@
 // one, on a loop device, where mounting is allowed.
 
 #include "modules/CVSyncMusic.h"
+#include "support/FatImage.h"
 #include "support/MusicLibraryFile.h"
 #include "support/SyncHarness.h"
 
-#include <QDir>
 #include <QFile>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-/// What the command prints; nothing where it fails.
-std::optional<QString> outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit ||
-        process.exitCode() != 0)
-        return std::nullopt;
-    return QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
-}
 
 class FatStickTest : public testing::Test
 {
@@ -30,33 +18,19 @@ protected:
     SyncHarness harness{ModuleFactory{.music = [](CVSyncModuleDelegate *delegate) {
         return std::make_unique<CVSyncMusic>(delegate);
     }}};
-    const QString image = harness.folder / QStringLiteral("stick.img");
-    std::optional<QString> device;
+    FatImage image{harness.folder / QStringLiteral("stick.img"), 64 << 20};
     MusicLibraryFile library;
     QList<int> ids;
     std::vector<std::string> wanted; // the tracks' contents
 
     void SetUp() override
     {
-        writeFile(image, {});
-        QFile::resize(image, 64 << 20);
-        QDir().mkpath(harness.stick());
-        if (!outputOf(QStringLiteral("mkfs.exfat"), {image}))
-            GTEST_SKIP() << "mkfs.exfat is not there";
-        device = outputOf(QStringLiteral("losetup"),
-                          {QStringLiteral("-f"), QStringLiteral("--show"), image});
-        if (!device || !outputOf(QStringLiteral("mount.exfat-fuse"), {*device, harness.stick()}))
-            GTEST_SKIP() << "exFAT can't be mounted here";
+        if (!image.mount(harness.stick()))
+            GTEST_SKIP() << "skipped: exFAT can't be mounted here";
         harness.mountStick();
         harness.defaults.setObject(QStringLiteral("sortMusicBy"), 1);
     }
-    void TearDown() override
-    {
-        harness.settle();
-        outputOf(QStringLiteral("umount"), {QStringLiteral("-l"), harness.stick()});
-        if (device)
-            outputOf(QStringLiteral("losetup"), {QStringLiteral("-d"), *device});
-    }
+    void TearDown() override { harness.settle(); }
 
     void addTrack(const QString &album, const QString &title)
     {
@@ -129,8 +103,7 @@ TEST_F(FatStickTest, KeepsEveryFileAndItsNameFromRunToRun)
         const QStringList names = QString::fromLatin1(step).split(u' ');
         const QString music = harness.stick(QStringLiteral("PSP/MUSIC/"));
         ASSERT_TRUE(QDir().rename(music + names[0], music + names[1]));
-        ASSERT_TRUE(outputOf(QStringLiteral("umount"), {harness.stick()}));
-        ASSERT_TRUE(outputOf(QStringLiteral("mount.exfat-fuse"), {*device, harness.stick()}));
+        ASSERT_TRUE(image.remount());
     }
     ASSERT_TRUE(tree().contains(QStringLiteral("MIX/")));
     ASSERT_TRUE(harness.run());
