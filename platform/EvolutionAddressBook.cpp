@@ -92,6 +92,9 @@ public:
     ThreadContext() { g_main_context_push_thread_default(m_context); }
     ~ThreadContext()
     {
+        // What the objects left to be called here frees their subscriptions to the bus's signals.
+        while (g_main_context_iteration(m_context, FALSE)) {
+        }
         g_main_context_pop_thread_default(m_context);
         g_main_context_unref(m_context);
     }

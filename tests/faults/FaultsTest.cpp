@@ -226,8 +226,8 @@ void Faults::makeSample()
     photos.addAlbum(QStringLiteral("Trip"),
                     {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
     put("home/Pictures/iPhoto Library/AlbumData.xml", photos.contents());
-    put("home/Documents/Caravel/Movies/00001/Film/M4V00001.MP4", someBytes(20, 50000));
-    put("home/Documents/Caravel/Movies/00001/Film/M4V00001.THM", someBytes(21, 3000));
+    put("home/Documents/Caravel/Movies/M4V00001/Film/M4V00001.MP4", someBytes(20, 50000));
+    put("home/Documents/Caravel/Movies/M4V00001/Film/M4V00001.THM", someBytes(21, 3000));
     put("home/Documents/Caravel/Dropboxes/Music/Own/own.mp3", someBytes(22, 7000));
     put("home/Library/Application Support/Caravel/CONVERT.MP4", someBytes(23, 60000));
     put("home/Library/Application Support/Caravel/CONVERT.THM", someBytes(24, 2000));
@@ -252,7 +252,7 @@ void Faults::makeSample()
     put("preferences/org.caravel.Caravel.plist",
         "<plist><dict><key>enabledMusic</key><array><string>Mix</string></array>"
         "<key>enabledPhotos</key><array><string>Trip</string></array>"
-        "<key>enabledMovies</key><array><string>00001/Film/M4V00001</string></array>"
+        "<key>enabledMovies</key><array><string>M4V00001/Film</string></array>"
         "<key>sortMusicBy</key><integer>1</integer><key>syncOnMount</key><false/></dict></plist>");
     std::filesystem::rename(place.toStdString(), sample.toStdString());
 }
@@ -377,7 +377,7 @@ TEST_F(Faults, AConvertedMovieIsWholeOrNotInTheLibrary)
             run(plan);
             int whole = 0;
             for (const auto &[path, bytes] : snapshotOf(place)) {
-                const bool isNew = path.contains(u"/00002/") && path.endsWith(u".MP4");
+                const bool isNew = path.contains(u"/M4V00002/") && path.endsWith(u".MP4");
                 EXPECT_TRUE(!isNew || bytes == movie) << plan.toStdString();
                 whole += bytes == movie;
             }

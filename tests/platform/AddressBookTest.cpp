@@ -298,6 +298,16 @@ TEST_F(AddressBookService, ComesBeforeTheFiles)
     EXPECT_EQ(joined(people[0].instantMessaging[size_t(MessagingService::Jabber)]),
               QStringLiteral("home=a@b"));
     EXPECT_TRUE(log.lines().isEmpty()) << log.lines().join(u'\n').toStdString();
+
+    qint64 early = 0;
+    for (int round = 0; round < 60; ++round) {
+        ASSERT_EQ(evolutionPeople(30s).size(), 1U);
+        if (round == 10)
+            early = residentBytes();
+    }
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    EXPECT_LT(residentBytes() - early, 1 << 20) << "bytes that 50 readings left behind";
+#endif
 }
 
 TEST_F(AddressBookService, IsNotWaitedForWhenItHangsOrDies)

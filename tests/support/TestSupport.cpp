@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <malloc.h>
+
 #include <mutex>
 
 namespace {
@@ -58,6 +60,12 @@ bool waitFor(const std::function<bool()> &condition, std::chrono::milliseconds l
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     }
     return true;
+}
+
+qint64 residentBytes()
+{
+    ::malloc_trim(0);
+    return readFile(QStringLiteral("/proc/self/statm")).split(' ').value(1).toLongLong() * 4096;
 }
 
 QStringList treeOf(const QString &folder)

@@ -31,6 +31,9 @@ QByteArray readFile(const QString &path);
 bool waitFor(const std::function<bool()> &condition,
              std::chrono::milliseconds limit = std::chrono::seconds(60));
 
+/// The memory of this process that is in use and in place.
+qint64 residentBytes();
+
 /// Paths of everything below a folder, relative and sorted, folders with a trailing slash.
 QStringList treeOf(const QString &folder);
 

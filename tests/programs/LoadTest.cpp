@@ -1,0 +1,197 @@
+// A large home, and front-ends that never stop asking. CARAVEL_LOAD is the size in per cent, 2
+// unless it says otherwise.
+
+#include "ProgramHarness.h"
+
+#include "support/PhotoLibraryFile.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr qint64 callsPerSecond = 500;
+
+/// Asks as often as that from three connections, and notes how long each answer took.
+class FrontEnds
+{
+public:
+    FrontEnds()
+    {
+        for (size_t i = 0; i < m_connections.size(); ++i)
+            m_connections[i] = QDBusConnection::connectToBus(QDBusConnection::SessionBus,
+                                                             QStringLiteral("asking-%1").arg(i));
+        m_time.start();
+    }
+    ~FrontEnds()
+    {
+        for (const QDBusConnection &connection : m_connections)
+            QDBusConnection::disconnectFromBus(connection.name());
+    }
+    FrontEnds(const FrontEnds &) = delete;
+    FrontEnds &operator=(const FrontEnds &) = delete;
+
+    void askWhatIsDue()
+    {
+        while (asked < m_time.elapsed() * callsPerSecond / 1000)
+            ask();
+    }
+    double seconds() const { return static_cast<double>(m_time.elapsed()) / 1000; }
+
+    qint64 asked = 0;
+    std::vector<double> answered; ///< milliseconds
+    QStringList errors;
+
+private:
+    void ask()
+    {
+        static constexpr const char *polled[] = {"isSyncing", "syncBytes", "syncBytesTotal",
+                                                 "statusText", "statusSubText"};
+        const QDBusMessage call = QDBusMessage::createMethodCall(
+            ProgramHarness::helperBusName(), QStringLiteral("/CaravelHelper"),
+            QStringLiteral("org.caravel.CaravelHelperProtocol"),
+            QString::fromLatin1(polled[asked % std::ssize(polled)]));
+        QElapsedTimer since;
+        since.start();
+        auto *const watcher = new QDBusPendingCallWatcher(
+            m_connections[static_cast<size_t>(asked++) % m_connections.size()].asyncCall(call));
+        QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+                         [this, watcher, since] {
+                             answered.push_back(static_cast<double>(since.nsecsElapsed()) / 1e6);
+                             if (watcher->isError())
+                                 errors.append(watcher->error().message());
+                             watcher->deleteLater();
+                         });
+    }
+
+    std::array<QDBusConnection, 3> m_connections{
+        QDBusConnection(QString()), QDBusConnection(QString()), QDBusConnection(QString())};
+    QElapsedTimer m_time;
+};
+
+class LoadTest : public testing::Test
+{
+protected:
+    static int scaled(int full)
+    {
+        bool isSet = false;
+        const int percent = qEnvironmentVariableIntValue("CARAVEL_LOAD", &isSet);
+        return full / 100 * (isSet ? percent : 2);
+    }
+    const int tracks = scaled(100'000);
+    const int selected = scaled(10'000);
+    const int pictures = scaled(20'000);
+    const int movies = scaled(10'000);
+    ProgramHarness programs;
+
+    void SetUp() override
+    {
+        makeMusic();
+        makePhotos();
+        for (int i = 1; i <= movies; ++i) {
+            const QString id = QStringLiteral("M4V%1").arg(i, 5, 10, QChar(u'0'));
+            const QString movie = programs.home(
+                QStringLiteral("Documents/Caravel/Movies/%1/Film %2/%1").arg(id).arg(i));
+            writeFile(movie + QStringLiteral(".MP4"), "movie");
+            writeFile(movie + QStringLiteral(".THM"), "still");
+        }
+        programs.insertStick();
+    }
+    void makeMusic() const
+    {
+        MusicLibraryFile library;
+        QList<int> mix;
+        for (int id = 1; id <= tracks; ++id) {
+            const QString file = programs.home(QStringLiteral("Music/%1.mp3").arg(id));
+            library.addFile(
+                id, file,
+                MusicLibraryFile::string("Name", QStringLiteral("Song %1").arg(id)) +
+                    MusicLibraryFile::string("Artist", QStringLiteral("Artist %1").arg(id / 90)) +
+                    MusicLibraryFile::string("Album", QStringLiteral("Album %1").arg(id / 12)));
+            if (id > selected)
+                continue;
+            writeFile(file, QByteArray(2000, 'm'));
+            mix.append(id);
+        }
+        library.addPlaylist(QStringLiteral("Mix"), mix);
+        writeFile(programs.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
+                  library.contents());
+    }
+    void makePhotos() const
+    {
+        PhotoLibraryFile library;
+        QStringList keys;
+        for (int i = 1; i <= pictures; ++i) {
+            const QString file = programs.home(QStringLiteral("Pictures/%1.jpg").arg(i));
+            writeFile(file, QByteArray(1000, 'p'));
+            keys.append(QString::number(i));
+            library.addImage(keys.last(), file, QStringLiteral("Picture"));
+        }
+        library.addAlbum(QStringLiteral("All"), keys);
+        writeFile(programs.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml")),
+                  library.contents());
+    }
+    void run(const QStringList &words)
+    {
+        const auto outcome = programs.caravel(words);
+        EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.output);
+    }
+    qsizetype filesIn(const char *folder) const
+    {
+        const QStringList tree = treeOf(programs.stick(QString::fromLatin1(folder)));
+        return std::ranges::count_if(tree,
+                                     [](const QString &path) { return !path.endsWith(u'/'); });
+    }
+    QString memory(const char *field)
+    {
+        const QByteArray status =
+            readFile(QStringLiteral("/proc/%1/status").arg(programs.helper().processId()));
+        return QRegularExpression(QLatin1String(field) + QStringLiteral(":\\s+(.*)"))
+            .match(QString::fromLatin1(status))
+            .captured(1);
+    }
+};
+
+} // namespace
+
+TEST_F(LoadTest, SyncsALargeHomeWhileFrontEndsAsk)
+{
+    programs.startHelper();
+    run({QStringLiteral("select"), QStringLiteral("music"), QStringLiteral("Mix")});
+    run({QStringLiteral("select"), QStringLiteral("photos"), QStringLiteral("All")});
+    const auto listed = programs.caravel({QStringLiteral("list"), QStringLiteral("movies")});
+    EXPECT_EQ(listed.output.count(QStringLiteral("Film ")), movies);
+
+    const auto sync = programs.start({QStringLiteral("sync")});
+    FrontEnds frontEnds;
+    EXPECT_TRUE(waitFor(
+        [&] {
+            frontEnds.askWhatIsDue();
+            return sync->state() == QProcess::NotRunning;
+        },
+        std::chrono::minutes(10)));
+    EXPECT_EQ(sync->exitCode(), 0) << sync->readAll().constData();
+    const double seconds = frontEnds.seconds();
+    EXPECT_TRUE(waitFor([&] { return std::ssize(frontEnds.answered) == frontEnds.asked; }));
+    EXPECT_EQ(frontEnds.errors, QStringList());
+    EXPECT_GE(static_cast<double>(frontEnds.asked), 0.9 * seconds * callsPerSecond);
+    EXPECT_EQ(filesIn("PSP/MUSIC"), selected);
+    EXPECT_EQ(filesIn("PSP/PHOTO"), pictures);
+
+    std::ranges::sort(frontEnds.answered);
+    std::printf("%lld calls in %.1f s; an answer took %.2f ms (median), %.1f ms (slowest); "
+                "the helper's memory %s, at its peak %s\n",
+                static_cast<long long>(frontEnds.asked), seconds,
+                frontEnds.answered[frontEnds.answered.size() / 2], frontEnds.answered.back(),
+                qPrintable(memory("VmRSS")), qPrintable(memory("VmHWM")));
+}
