@@ -1,6 +1,7 @@
 #include "app/CaravelHelperController.h"
 #include "app/FrontEndProtocol.h"
-#include "fuzz/Home.h"
+#include "fuzz/InlineWorkers.h"
+#include "fuzz/StampedTree.h"
 #include "platform/AddressBook.h"
 #include "platform/MainThread.h"
 #include "platform/UserDefaults.h"
@@ -9,7 +10,6 @@
 #include "util/Preferences.h"
 
 #include <QCoreApplication>
-#include <QDirIterator>
 
 #include <fuzzer/FuzzedDataProvider.h>
 #include <map>
@@ -18,7 +18,6 @@ namespace {
 
 const QString user = QStringLiteral("users/somebody");
 const QString stick = QStringLiteral("volumes/STICK");
-const QString own = user + QStringLiteral("/Documents/Caravel/");
 
 // What the system's own files are called, and what is beside them: calls that name none of it are
 // refused long before they could do harm.
@@ -117,61 +116,115 @@ void checkAnswer(const QVariant &answer, const QString &type)
     promise(answer.typeId() == types.at(type), "an answer is of the declared type");
 }
 
-void write(const QString &relative)
+// What is in the home: the names tell whose a file is.
+const char *const files[] = {
+    "letter.txt",
+    "users/letter.txt",
+    "users/stranger/letter.txt",
+    "users/somebody/letter.txt",
+    "users/somebody/.config/autostart/letter.txt",
+    "users/somebody/Documents/letter.txt",
+    "users/somebody/Documents/Caravel/Backup/Game Saves/ULUS10041/1000/ULUS10041/DATA.BIN",
+    "users/somebody/Documents/Caravel/Movies/M4V00001/Film.MP4",
+    "users/somebody/Documents/Caravel/Movies/M4V00001/Film.THM",
+    "volumes/STICK/MEMSTICK.IND",
+    "volumes/STICK/PSP/SAVEDATA/ULUS10041/DATA.BIN",
+    "volumes/STICK/.caravel/mark",
+};
+
+/// What the system may do with a path below the home.
+StampedTree::Keep keepOf(const QString &relative)
 {
-    Home::instance().write(relative, relative.toUtf8());
+    if (relative == user || relative == stick)
+        return StampedTree::Keep::Itself;
+    if (!relative.startsWith(user + u'/') && !relative.startsWith(stick + u'/'))
+        return StampedTree::Keep::Entries;
+    return relative.endsWith(u"/letter.txt") ? StampedTree::Keep::Itself
+                                             : StampedTree::Keep::Nothing;
 }
 
-void makeUser()
+StampedTree makeTree()
 {
     const Home &home = Home::instance();
-    for (const QString &folder : {user, stick})
-        QDir(home / folder).removeRecursively();
-    for (const char *file :
-         {"/letter.txt", "/Documents/letter.txt", "/.config/autostart/letter.txt"})
-        write(user + QLatin1String(file));
-    for (const char *file : {"Backup/Game Saves/ULUS10041/1000/ULUS10041/DATA.BIN",
-                             "Movies/M4V00001/Film.MP4", "Movies/M4V00001/Film.THM"})
-        write(own + QLatin1String(file));
-    for (const char *file : {"/MEMSTICK.IND", "/PSP/SAVEDATA/ULUS10041/DATA.BIN", "/.caravel/mark"})
-        write(stick + QLatin1String(file));
-}
-
-// The user's letters, and everything outside of the home.
-std::map<QString, QByteArray> foreignFiles()
-{
-    const Home &home = Home::instance();
-    std::map<QString, QByteArray> found;
-    QDirIterator each(home.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                      QDirIterator::Subdirectories);
-    while (each.hasNext()) {
-        const QString path = each.next();
-        const bool isOwn =
-            path.startsWith(home / (user + u'/')) || path.startsWith(home / (stick + u'/'));
-        if (isOwn && !path.endsWith(u"/letter.txt"))
-            continue;
-        QFile file(path);
-        found[path] = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(folder)");
+    StampedTree tree;
+    tree.addFolder(home.path().toStdString(), StampedTree::Keep::Entries);
+    for (const char *file : files) {
+        const QString relative = QString::fromLatin1(file);
+        for (qsizetype end = relative.indexOf(u'/'); end >= 0;
+             end = relative.indexOf(u'/', end + 1))
+            tree.addFolder((home / relative.left(end)).toStdString(), keepOf(relative.left(end)));
+        tree.addFile((home / relative).toStdString(), file, keepOf(relative));
     }
-    return found;
+    return tree;
 }
 
-void call(CaravelHelperController &controller, FuzzedDataProvider &input)
+/// Makes the input's calls, between runs and in the middle of them.
+class Caller
 {
-    const std::vector<RemoteMethod> methods = FrontEndProtocol::methods(controller);
-    for (int left = 8; left > 0 && input.remaining_bytes() > 0; --left) {
+public:
+    Caller(CaravelHelperController &controller, FuzzedDataProvider &input)
+        : m_methods(FrontEndProtocol::methods(controller))
+        , m_input(input)
+    {
+        InlineWorkers::setInterlude([this] { comeBetween(); });
+    }
+    ~Caller() { InlineWorkers::setInterlude({}); }
+    Caller(const Caller &) = delete;
+    Caller &operator=(const Caller &) = delete;
+
+    void callAll()
+    {
+        while (m_left > 0 && m_input.remaining_bytes() > 0) {
+            call();
+            if (m_input.ConsumeBool())
+                finishRuns();
+        }
+        finishRuns();
+    }
+
+private:
+    void call()
+    {
+        --m_left;
         const RemoteMethod &method =
-            methods[input.ConsumeIntegralInRange<size_t>(0, methods.size() - 1)];
+            m_methods[m_input.ConsumeIntegralInRange<size_t>(0, m_methods.size() - 1)];
         RemoteRequest request{QStringLiteral(":1.1"), {}};
         for (const QString &type : method.in)
-            request.arguments.append(argumentFrom(input, type));
-        // It takes nothing from its caller, and starts a program.
-        if (method.name != u"openCaravel")
-            checkAnswer(method.call(request), method.out);
-        if (input.ConsumeBool())
-            promise(Workers::serveUntilFinished(std::chrono::seconds(5)), "runs come to an end");
+            request.arguments.append(argumentFrom(m_input, type));
+        // One takes nothing from its caller, and starts a program; one waits for what it
+        // interrupts.
+        if (method.name == u"openCaravel" || (m_isBetween && method.name == u"applicationWillQuit"))
+            return;
+        checkAnswer(method.call(request), method.out);
     }
-}
+
+    void finishRuns()
+    {
+        setNextPause();
+        promise(Workers::serveUntilFinished(std::chrono::seconds(5)), "runs come to an end");
+    }
+
+    void comeBetween()
+    {
+        if (m_pauses == 0 || --m_pauses > 0 || m_left == 0)
+            return;
+        m_isBetween = true;
+        call();
+        m_isBetween = false;
+        setNextPause();
+    }
+
+    void setNextPause()
+    {
+        m_pauses = Workers::live() > 0 ? m_input.ConsumeIntegralInRange(0, 127) : 0;
+    }
+
+    const std::vector<RemoteMethod> m_methods;
+    FuzzedDataProvider &m_input;
+    int m_left = 8;   // calls
+    int m_pauses = 0; // of a run's, up to the one in which the next call comes; 0: no call comes
+    bool m_isBetween = false;
+};
 
 void serve(FuzzedDataProvider &input)
 {
@@ -194,21 +247,18 @@ void serve(FuzzedDataProvider &input)
         defaults.setObject(QStringLiteral("useSyncProfiles"), input.ConsumeBool());
         if (input.ConsumeBool())
             volumes.mount(home / stick);
-        call(controller, input);
-        promise(Workers::serveUntilFinished(std::chrono::seconds(5)), "runs come to an end");
+        Caller(controller, input).callAll();
         controller.movies().close();
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+    serveWaitingCalls();
     UserDefaults::setStandard(nullptr);
 }
 
 void setUp()
 {
     const Home &home = Home::instance();
-    for (const char *file : {"users/stranger/letter.txt", "users/letter.txt", "letter.txt"})
-        write(QString::fromLatin1(file));
-    QDir().mkpath(home / QStringLiteral("volumes"));
     qputenv("HOME", (home / user).toUtf8());
     qputenv("PATH", "/nonexistent"); // no program is started
     static int argc = 1;
@@ -222,15 +272,15 @@ void setUp()
 
 } // namespace
 
-// Calls of a front-end, on a home and a stick that are made anew for each input.
+// Calls of a front-end, on a home and a stick that each input finds alike.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const bool isSetUp = (setUp(), true);
     Q_UNUSED(isSetUp)
-    makeUser();
-    const auto before = foreignFiles();
+    static StampedTree tree = makeTree();
+    tree.restore();
     FuzzedDataProvider input(data, size);
     serve(input);
-    promise(foreignFiles() == before, "what is no file of the system's own stays");
+    tree.check();
     return 0;
 }

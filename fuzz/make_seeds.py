@@ -87,15 +87,31 @@ write("ConversionProgress", "clock", b"1Duration: 00:10:05.2, start: 0.0\nOutput
 write("ConversionProgress", "movinfo", b"0Duration: x MOVINFO: 6000, 1, 2, 600 :MOVINFO Output\0"
       b"frame=75 q=0\0frame=-1 q=0")
 # Numbers are taken from the end of the input: the preference, whether a stick is there, then each
-# call's method and arguments, and whether to wait for what it has started.
+# call's method and arguments, and whether to wait for what it has started. Before a run comes the
+# number of its pause in which the next call is made, or 0.
 TEXT, MAP = (0, 1), (0, 1, 0, 0, 1)  # a text of the table, and a dictionary with one as identifier
 CALLS = {"select-movies": (30, 0, 1, 1, 8), "add-movies": (32, 0, 1, 1, 4),
          "remove-movie": (33, *MAP, 8), "rename-movie": (34, *MAP, 8, *TEXT, 6),
          "backups-of": (38, *TEXT, 10), "restore": (39, *TEXT, 11), "delete": (40, *TEXT, 11),
-         "sync": (4, *MAP, 5), "select-backups": (36, 0, 1, 1, 10),
+         "sync": (4, *MAP, 5, 1, 0), "cancel": (4, *MAP, 5, 1, 20, 4, 0, 1, 3, 0, 1, 5, 0),
+         "select-backups": (36, 0, 1, 1, 10),
          # The same with paths that lead out.
          "remove-movie-out": (33, *MAP, 9), "rename-movie-out": (34, *MAP, 8, *TEXT, 15),
          "backups-of-out": (38, *TEXT, 13), "restore-out": (39, *TEXT, 16),
          "delete-out": (40, *TEXT, 16)}
 for name, call in CALLS.items():
     write("FrontEndProtocol", name, bytes(reversed((0, 1, *call, 1, 35, 1))))
+# The same for values of any type: the method, three times 0 for a call as it should be, the arguments,
+# and the byte order. The texts are "title", "label", "clicked" and "Cancel Sync", the item the first.
+TITLE, LABEL, CLICKED, CANCEL, ITEM = (1, 1), (1, 5), (1, 2), (1, 8), (1, 3)
+MAP = (2, *TITLE, 0, 9, *CANCEL, *LABEL, 2, 0, 4, 1, *ITEM)  # a text and a list of numbers
+EVENT = (*ITEM, *CLICKED, 0, 4, *ITEM, 0, 0, 0, 9)
+ARGUMENTS = {"bool": (0, 1), "int": (1, *ITEM), "uint": (2, 0, 0, 0, 7), "long": (3, *range(8)),
+             "real": (4, *range(8)), "text": (5, *TITLE), "texts": (6, 2, *TITLE, *LABEL),
+             "map": (7, *MAP), "rows": (8, 2, *MAP, *MAP), "path": (9, 1, 0),
+             "two": (10, *MAP, *TITLE), "none": (11,), "oneway": (12, *MAP),
+             "layout": (13, *ITEM, *ITEM, 0), "properties": (14, 1, *ITEM, 1, *LABEL),
+             "property": (15, *ITEM, *LABEL), "event": (16, *EVENT),
+             "events": (17, 2, *EVENT, *EVENT), "show": (18, *ITEM), "show-group": (19, 1, *ITEM)}
+for name, (method, *values) in ARGUMENTS.items():
+    write("BusArguments", name, bytes(reversed((method, 0, 0, 0, *values, 0))))

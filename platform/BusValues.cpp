@@ -6,11 +6,18 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusSignature>
+#include <QDBusUnixFileDescriptor>
 #include <QDBusVariant>
 
 namespace {
 
 using Rows = QList<QVariantMap>;
+
+/// A byte is a number, and would become the character of that number.
+QString keyText(const QVariant &key)
+{
+    return key.userType() == QMetaType::UChar ? QString::number(key.toUInt()) : key.toString();
+}
 
 QVariantMap readMap(const QDBusArgument &argument)
 {
@@ -18,7 +25,7 @@ QVariantMap readMap(const QDBusArgument &argument)
     argument.beginMap();
     while (!argument.atEnd()) {
         argument.beginMapEntry();
-        const QString key = BusValues::toPlain(argument.asVariant()).toString();
+        const QString key = keyText(BusValues::toPlain(argument.asVariant()));
         map.insert(key, BusValues::toPlain(argument.asVariant()));
         argument.endMapEntry();
     }
@@ -62,13 +69,45 @@ QVariantMap plainMap(QVariantMap map)
     return map;
 }
 
+/// Without what the bus has no type for: it would end the process over it.
+QVariant sendable(const QVariant &value);
+
+QVariantMap sendable(const QVariantMap &map)
+{
+    QVariantMap entries;
+    for (auto entry = map.begin(); entry != map.end(); ++entry) {
+        if (const QVariant value = sendable(entry.value()); value.isValid())
+            entries.insert(entry.key(), value);
+    }
+    return entries;
+}
+
+QVariantList sendable(const QVariantList &list)
+{
+    QVariantList elements;
+    for (const QVariant &element : list) {
+        if (const QVariant value = sendable(element); value.isValid())
+            elements.append(value);
+    }
+    return elements;
+}
+
+QVariant sendable(const QVariant &value)
+{
+    if (value.userType() == QMetaType::QVariantMap)
+        return sendable(value.toMap());
+    if (value.userType() == QMetaType::QVariantList)
+        return sendable(value.toList());
+    return QDBusMetaType::typeToSignature(value.metaType()) ? value : QVariant();
+}
+
 QVariant rowsFrom(const QVariantList &list)
 {
     static const QMetaType registered = qDBusRegisterMetaType<Rows>();
     Q_UNUSED(registered)
     Rows rows;
     for (const QVariant &row : list)
-        rows.append(row.toMap());
+        rows.append(sendable(row.toMap()));
     return QVariant::fromValue(rows);
 }
 
@@ -85,6 +124,10 @@ QVariant BusValues::toPlain(const QVariant &value)
         return value.value<QDBusObjectPath>().path();
     if (type == qMetaTypeId<QDBusSignature>())
         return value.value<QDBusSignature>().signature();
+    // Where the bus passes no descriptors, they come as something that has no type on it.
+    if (type == qMetaTypeId<QDBusUnixFileDescriptor>() ||
+        !QDBusMetaType::typeToSignature(value.metaType()))
+        return {};
     if (type == QMetaType::QVariantMap)
         return plainMap(value.toMap());
     if (type == QMetaType::QVariantList)
@@ -115,7 +158,7 @@ QVariant BusValues::toBus(const QVariant &value, const QString &signature)
     if (signature == u"as")
         return value.toStringList();
     if (signature == u"a{sv}")
-        return value.toMap();
+        return sendable(value.toMap());
     if (signature == u"aa{sv}")
         return rowsFrom(value.toList());
     if (signature == u"o")
@@ -129,6 +172,8 @@ QVariant BusValues::toBus(const QVariant &value)
         return toBus(value.value<ObjectPath>().path, QStringLiteral("o"));
     if (value.userType() == QMetaType::QVariantList)
         return rowsFrom(value.toList());
+    if (value.userType() == QMetaType::QVariantMap)
+        return sendable(value.toMap());
     return value;
 }
 

@@ -288,7 +288,8 @@ void BinaryWalk::dictionary(plist_t node)
         if (m_handler.key(key ? std::string_view(key) : std::string_view()))
             value(item);
     }
-    m_handler.endDictionary();
+    if (m_problem.isEmpty()) // else it would end behind a key
+        m_handler.endDictionary();
 }
 
 void BinaryWalk::array(plist_t node)
@@ -304,7 +305,8 @@ void BinaryWalk::array(plist_t node)
             break;
         value(item);
     }
-    m_handler.endArray();
+    if (m_problem.isEmpty())
+        m_handler.endArray();
 }
 
 /// XML has no such type; there it is this dictionary.

@@ -10,7 +10,7 @@ Installs the missing ones of the Debian packages that this project needs (as roo
 
   --lint   also what scripts/lint.sh runs: clang-format, clang-tidy, git and the checkers of desktop
            files and man pages
-  --fuzz   also what scripts/fuzz.sh builds with: clang
+  --fuzz   also what scripts/fuzz.sh builds with: clang, its sanitizers and its symbolizer
   --bench  also what scripts/bench.sh compares with and looks through: rsync, rclone, strace
 EOF
 }
@@ -29,7 +29,7 @@ packages=(
 while (($#)); do
     case $1 in
     --lint) packages+=(clang-format clang-tidy git desktop-file-utils appstream groff-base) ;;
-    --fuzz) packages+=(clang) ;;
+    --fuzz) packages+=(clang libclang-rt-dev llvm) ;;
     --bench) packages+=(rsync rclone strace) ;;
     -h | --help) usage; exit 0 ;;
     *) usage >&2; exit 2 ;;

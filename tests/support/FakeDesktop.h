@@ -34,8 +34,8 @@ private:
         {
             m_bar.images.append(m_image + u'/' + name);
         }
-        void setMenu(Menu *menu) override { m_bar.menu = menu; }
-        void setEnabled(bool enabled) override { m_bar.enabled = enabled; }
+        void setMenu(Menu *shown) override { m_bar.menu = shown; }
+        void setEnabled(bool isEnabled) override { m_bar.enabled = isEnabled; }
 
     private:
         FakeStatusBar &m_bar;
