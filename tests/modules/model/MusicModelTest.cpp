@@ -1,0 +1,135 @@
+#include "modules/CVSyncMusic.h"
+#include "modules/model/Model.h"
+#include "support/MusicLibraryFile.h"
+
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+using namespace model;
+
+namespace {
+
+struct Track
+{
+    std::optional<QString> artist, album, name;
+    QString path; // of its file, which may be missing
+    bool isLossy;
+    bool isFile;      // else a stream
+    int disc, number; // 0: none
+};
+
+bool isPlayed(const QString &path, int firmware)
+{
+    return hasExtension(path, {"MP3"}) ||
+           (firmware >= 1 && hasExtension(path, {"M4A", "AAC", "WAV", "MP4"}));
+}
+
+QString stickExtension(const QString &extension)
+{
+    const QString upper = extension.toUpper();
+    return upper == u"M4A" || upper == u"AAC" ? QStringLiteral("MP4") : extension;
+}
+
+QString placeOf(const World &world, const QString &playlist, const Track &track, int position)
+{
+    const int sort = world.setting("sortMusicBy");
+    const int organize = world.setting("organizeMusicBy");
+    const QString a = cleanName(track.artist.value_or(QStringLiteral("Unsorted")));
+    const QString l = cleanName(track.album.value_or(QStringLiteral("Unsorted")));
+    const QString t = cleanName(track.name.value_or(QStringLiteral("Untitled")));
+    QString prefix;
+    if (sort == 0)
+        prefix = QStringLiteral("%1. ").arg(position, 3, 10, QChar(u'0'));
+    else if (sort != 1)
+        prefix = QStringLiteral("%1%2. ").arg(track.disc).arg(track.number, 2, 10, QChar(u'0'));
+    const QString folder = organize == 0   ? cleanName(playlist)
+                           : organize == 1 ? a
+                           : organize == 3 ? a + QStringLiteral(" - ") + l
+                                           : l;
+    const QString name = organize == 0 ? prefix + a + QStringLiteral(" - ") + t : prefix + t;
+    return asComponent(folder) + u'/' + asComponent(name) + u'.' +
+           stickExtension(extensionOf(track.path));
+}
+
+std::vector<Wish> wishesOf(const World &world, const std::map<int, Track> &tracks,
+                           const std::vector<Collection> &playlists)
+{
+    std::vector<Wish> wishes;
+    for (const Collection &playlist : playlists) {
+        if (!world.selected().contains(playlist.name))
+            continue;
+        int position = 0;
+        for (const int id : playlist.members) {
+            const auto track = tracks.find(id);
+            if (track == tracks.end() || !track->second.isFile || !track->second.isLossy ||
+                !isPlayed(track->second.path, world.setting("firmwareVersion")))
+                continue;
+            wishes.push_back(
+                {track->second.path, placeOf(world, playlist.name, track->second, position++)});
+        }
+    }
+    return wishes;
+}
+
+std::map<int, Track> rollTracks(World &world, Dice &dice, const QString &folder)
+{
+    std::map<int, Track> tracks;
+    for (const auto &[id, path] : rollFiles(
+             world, dice, folder, {"mp3", "MP3", "m4a", "aac", "wav", "mp4", "Mp3", "ogg", "aif"}))
+        tracks[id] = {dice.maybeWord(), dice.maybeWord(), dice.maybeWord(), path,
+                      !dice.once(8),    !dice.once(8),    dice.below(3),    dice.below(13)};
+    return tracks;
+}
+
+QByteArray insideOf(const Track &track)
+{
+    const auto text = [](const char *key, const std::optional<QString> &value) {
+        return value ? MusicLibraryFile::string(key, *value) : QByteArray();
+    };
+    const auto number = [](const char *key, int value) {
+        return value > 0 ? MusicLibraryFile::integer(key, value) : QByteArray();
+    };
+    return text("Artist", track.artist) + text("Album", track.album) + text("Name", track.name) +
+           text("Kind", track.isLossy ? QStringLiteral("MPEG audio file")
+                                      : QStringLiteral("Apple Lossless audio file")) +
+           text("Track Type", track.isFile ? QStringLiteral("File") : QStringLiteral("URL")) +
+           text("Location", QString::fromLatin1(QUrl::fromLocalFile(track.path).toEncoded())) +
+           number("Disc Number", track.disc) + number("Track Number", track.number);
+}
+
+std::vector<Wish> roll(World &world, Dice &dice, SyncHarness &harness)
+{
+    const auto tracks = rollTracks(world, dice, harness.home(QStringLiteral("files/Music")));
+    const auto playlists = rollCollections(world, dice);
+    MusicLibraryFile library;
+    for (const auto &[id, track] : tracks)
+        library.addTrack(id, insideOf(track));
+    for (const Collection &playlist : playlists)
+        library.addPlaylist(playlist.name, playlist.members);
+    put(world.home, harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
+        library.contents());
+
+    std::vector<Wish> wishes = wishesOf(world, tracks, playlists);
+    for (const auto &[source, place] :
+         drop(world, dice, QStringLiteral("Music"),
+              {"._0.mp3", "0.MP4", "0.aac", "0.m4a", "0.mp3", "0.ogg", "Band/1.wav",
+               "Own.mp3/in.Mp3", "x/x.1.mp3", "x/x.mp3"})) {
+        const QString extension = extensionOf(place);
+        if (isPlayed(place, world.setting("firmwareVersion")))
+            wishes.push_back({source, place.chopped(extension.size()) + stickExtension(extension)});
+    }
+    return wishes;
+}
+
+} // namespace
+
+TEST(Model, AgreesOnMusic)
+{
+    holdAgainstTheRules(
+        {.name = QStringLiteral("Music"),
+         .folder = QStringLiteral("PSP/MUSIC"),
+         .modules = {.music = make<CVSyncMusic>},
+         .settings = {{"sortMusicBy", {0, 1, 2, 7}}, {"organizeMusicBy", {0, 1, 2, 3}}},
+         .roll = roll});
+}
