@@ -241,6 +241,8 @@ const bool registered = [] {
         [](benchmark::State &state) { flushedCopy(state, onImage); });
     addRow("image: nothing to do with 1,000 files", onImage, nothingToDo, againOf,
            {rsyncPeer, rclonePeer});
+    addRow("image: clean-up of 1,000 files", onImage, cleanUp, cleanUpOf,
+           {{"rm -rf", rm}, rsyncPeer, rclonePeer});
     return true;
 }();
 
