@@ -107,7 +107,8 @@ def calls_of_helper(bundle, sample, settings):
         helper.ask("prefs", *setting)
     helper.ask("sync")
     helper.quit()
-    while f"{helper.process.pid} +++ exited" not in trace.read_text(errors="replace"):
+    ended = re.compile(rf"^{helper.process.pid} +\+\+\+ exited", re.MULTILINE)  # in columns
+    while not ended.search(trace.read_text(errors="replace")):
         time.sleep(0.1)
     counts = calls_by_thread(trace)
     own = counts[run_thread(trace)]
