@@ -6,9 +6,9 @@
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
 #include "app/SyncStatus.h"
-#include "modules/MovieQueue.h"
-#include "platform/Bundle.h"
-#include "platform/NamedConnection.h"
+#include "modules/movies/MovieQueue.h"
+#include "platform/bus/NamedConnection.h"
+#include "platform/lists/Bundle.h"
 #include "sync/CVSyncManager.h"
 #include "util/QMLogger.h"
 

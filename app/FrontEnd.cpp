@@ -1,6 +1,6 @@
 #include "app/FrontEnd.h"
 
-#include "platform/RemoteObject.h"
+#include "platform/bus/RemoteObject.h"
 
 FrontEnd::FrontEnd(QObject *parent)
     : QObject(parent)

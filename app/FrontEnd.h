@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Alerts.h"
+#include "platform/desktop/Alerts.h"
 
 #include <QObject>
 #include <QString>

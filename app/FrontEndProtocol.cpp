@@ -1,7 +1,7 @@
 #include "app/FrontEndProtocol.h"
 
 #include "app/CaravelHelperController.h"
-#include "platform/UserDefaults.h"
+#include "platform/lists/UserDefaults.h"
 #include "util/FileManagerTools.h"
 
 namespace FrontEndProtocol {

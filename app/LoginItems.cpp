@@ -1,8 +1,8 @@
 #include "app/LoginItems.h"
 
 #include "app/Log.h"
-#include "platform/Autostart.h"
-#include "platform/UserDefaults.h"
+#include "platform/desktop/Autostart.h"
+#include "platform/lists/UserDefaults.h"
 
 #include <QVariantMap>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Bundle.h"
+#include "platform/lists/Bundle.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "app/PrefsController.h"
 
-#include "platform/DistributedNotificationCenter.h"
-#include "platform/UserDefaults.h"
+#include "platform/bus/DistributedNotificationCenter.h"
+#include "platform/lists/UserDefaults.h"
 #include "util/Preferences.h"
 
 namespace PrefsController {

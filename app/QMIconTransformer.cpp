@@ -1,7 +1,7 @@
 #include "app/QMIconTransformer.h"
 
-#include "platform/FileManager.h"
-#include "platform/ImageDecoder.h"
+#include "platform/core/ImageDecoder.h"
+#include "platform/files/FileManager.h"
 
 namespace {
 

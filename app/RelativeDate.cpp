@@ -1,6 +1,6 @@
 #include "app/RelativeDate.h"
 
-#include "platform/Localized.h"
+#include "platform/core/Localized.h"
 
 #include <QLocale>
 

@@ -1,6 +1,6 @@
 #include "app/StatusMenu.h"
 
-#include "platform/Localized.h"
+#include "platform/core/Localized.h"
 #include "sync/CVSyncManager.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Menu.h"
+#include "platform/tray/Menu.h"
 
 #include <functional>
 

@@ -1,12 +1,12 @@
 #include "app/CaravelHelperController.h"
 #include "app/Log.h"
-#include "platform/Clock.h"
-#include "platform/DesktopApplication.h"
-#include "platform/DistributedNotificationCenter.h"
-#include "platform/Localized.h"
-#include "platform/QuitSignals.h"
-#include "platform/Sounds.h"
-#include "platform/Volumes.h"
+#include "platform/bus/DistributedNotificationCenter.h"
+#include "platform/core/Clock.h"
+#include "platform/core/Localized.h"
+#include "platform/core/QuitSignals.h"
+#include "platform/desktop/DesktopApplication.h"
+#include "platform/desktop/Sounds.h"
+#include "platform/volumes/Volumes.h"
 
 #include <CLI/CLI.hpp>
 

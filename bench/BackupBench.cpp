@@ -2,7 +2,7 @@
 // reading it.
 
 #include "app/SelectionLists.h"
-#include "modules/CVSyncBackup.h"
+#include "modules/saves/CVSyncBackup.h"
 #include "support/PSFFile.h"
 #include "support/SyncHarness.h"
 #include "util/PSFParser.h"

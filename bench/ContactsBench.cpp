@@ -2,9 +2,9 @@
 // they were in the last run.
 
 #include "Workbench.h"
-#include "modules/CVSyncContacts.h"
-#include "platform/ContactPicture.h"
-#include "platform/VCardAddressBook.h"
+#include "modules/contacts/CVSyncContacts.h"
+#include "platform/people/ContactPicture.h"
+#include "platform/people/own/VCardAddressBook.h"
 #include "support/SyncHarness.h"
 #include "sync/SyncRun.h"
 

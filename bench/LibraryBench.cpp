@@ -2,8 +2,8 @@
 // file.
 
 #include "Workbench.h"
-#include "modules/CVSyncMusic.h"
-#include "platform/UserDefaults.h"
+#include "modules/music/CVSyncMusic.h"
+#include "platform/lists/UserDefaults.h"
 #include "sync/CVSyncModuleDelegate.h"
 #include "util/Preferences.h"
 

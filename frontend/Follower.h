@@ -2,7 +2,7 @@
 
 #include "frontend/FrontEndObject.h"
 #include "frontend/HelperClient.h"
-#include "platform/QuitSignals.h"
+#include "platform/core/QuitSignals.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

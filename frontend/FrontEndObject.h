@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/NamedConnection.h"
+#include "platform/bus/NamedConnection.h"
 
 #include <QObject>
 

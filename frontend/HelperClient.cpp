@@ -1,9 +1,9 @@
 #include "frontend/HelperClient.h"
 
 #include "frontend/Output.h"
-#include "platform/Bundle.h"
-#include "platform/Localized.h"
-#include "platform/NamedConnection.h"
+#include "platform/bus/NamedConnection.h"
+#include "platform/core/Localized.h"
+#include "platform/lists/Bundle.h"
 
 #include <QDir>
 #include <QEventLoop>

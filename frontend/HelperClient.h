@@ -1,7 +1,7 @@
 #pragma once
 
 #include "frontend/ExitStatus.h"
-#include "platform/RemoteObject.h"
+#include "platform/bus/RemoteObject.h"
 
 #include <QObject>
 #include <QVariantList>

@@ -3,7 +3,7 @@
 #include "frontend/HelperClient.h"
 #include "frontend/Output.h"
 #include "frontend/Rows.h"
-#include "platform/UserDefaults.h"
+#include "platform/lists/UserDefaults.h"
 
 #include <QJsonArray>
 #include <QSet>

@@ -2,9 +2,9 @@
 
 #include "frontend/HelperClient.h"
 #include "frontend/Output.h"
-#include "platform/DistributedNotificationCenter.h"
-#include "platform/NamedConnection.h"
-#include "platform/UserDefaults.h"
+#include "platform/bus/DistributedNotificationCenter.h"
+#include "platform/bus/NamedConnection.h"
+#include "platform/lists/UserDefaults.h"
 #include "util/Preferences.h"
 
 #include <QLocale>

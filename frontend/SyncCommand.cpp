@@ -3,7 +3,7 @@
 #include "frontend/Follower.h"
 #include "frontend/Output.h"
 #include "frontend/ProgressDisplay.h"
-#include "platform/DistributedNotificationCenter.h"
+#include "platform/bus/DistributedNotificationCenter.h"
 
 using namespace std::chrono_literals;
 

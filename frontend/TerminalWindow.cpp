@@ -1,6 +1,6 @@
 #include "frontend/TerminalWindow.h"
 
-#include "platform/Bundle.h"
+#include "platform/lists/Bundle.h"
 
 #include <QProcess>
 #include <QStandardPaths>

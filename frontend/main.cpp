@@ -7,7 +7,7 @@
 #include "frontend/SyncCommand.h"
 #include "frontend/TerminalWindow.h"
 #include "frontend/WatchCommand.h"
-#include "platform/Bundle.h"
+#include "platform/lists/Bundle.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,8 +1,8 @@
 #include "fuzz/Home.h"
-#include "modules/CaminoBookmarks.h"
-#include "modules/FirefoxBookmarks.h"
-#include "modules/OmniWebBookmarks.h"
-#include "modules/SafariBookmarks.h"
+#include "modules/bookmarks/own/CaminoBookmarks.h"
+#include "modules/bookmarks/own/FirefoxBookmarks.h"
+#include "modules/bookmarks/own/OmniWebBookmarks.h"
+#include "modules/bookmarks/own/SafariBookmarks.h"
 
 #include <QSet>
 

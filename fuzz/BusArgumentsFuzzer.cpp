@@ -1,8 +1,8 @@
 #include "fuzz/AnyBusValue.h"
 #include "fuzz/PlayedBus.h"
-#include "platform/BusMenu.h"
-#include "platform/Menu.h"
-#include "platform/NamedConnection.h"
+#include "platform/bus/NamedConnection.h"
+#include "platform/tray/Menu.h"
+#include "platform/tray/own/BusMenu.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -1,5 +1,5 @@
 #include "fuzz/Home.h"
-#include "platform/ContactPicture.h"
+#include "platform/people/ContactPicture.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -1,5 +1,5 @@
 #include "fuzz/Home.h"
-#include "modules/ConversionProgress.h"
+#include "modules/movies/ConversionProgress.h"
 
 // The first byte decides the quality; a NUL ends a chunk.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

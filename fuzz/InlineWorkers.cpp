@@ -1,7 +1,7 @@
 #include "fuzz/InlineWorkers.h"
 
 #include "fuzz/Home.h"
-#include "platform/MainThread.h"
+#include "platform/core/MainThread.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #include "fuzz/Home.h"
-#include "modules/MusicLibrary.h"
-#include "modules/PhotoLibrary.h"
+#include "modules/music/MusicLibrary.h"
+#include "modules/photos/PhotoLibrary.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "fuzz/Home.h"
-#include "platform/NumberArchive.h"
+#include "platform/lists/NumberArchive.h"
 
 #include <cstring>
 

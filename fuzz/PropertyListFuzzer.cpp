@@ -1,5 +1,5 @@
 #include "fuzz/Home.h"
-#include "platform/PropertyList.h"
+#include "platform/lists/PropertyList.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "fuzz/Home.h"
-#include "platform/PropertyListReader.h"
+#include "platform/lists/PropertyListReader.h"
 
 #include <vector>
 

@@ -1,5 +1,5 @@
 #include "fuzz/Home.h"
-#include "platform/VCardAddressBook.h"
+#include "platform/people/own/VCardAddressBook.h"
 
 #include <glib.h>
 

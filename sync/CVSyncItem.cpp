@@ -1,6 +1,6 @@
 #include "sync/CVSyncItem.h"
 
-#include "platform/Localized.h"
+#include "platform/core/Localized.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #include "sync/CVSyncManager.h"
 
-#include "platform/DistributedNotificationCenter.h"
-#include "platform/NumberArchive.h"
-#include "platform/UserDefaults.h"
+#include "platform/bus/DistributedNotificationCenter.h"
+#include "platform/lists/NumberArchive.h"
+#include "platform/lists/UserDefaults.h"
 #include "sync/StickFiles.h"
 
 #include <utility>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/MainThread.h"
-#include "platform/VolumeIdentity.h"
-#include "platform/Volumes.h"
+#include "platform/core/Clock.h"
+#include "platform/core/MainThread.h"
+#include "platform/volumes/VolumeIdentity.h"
+#include "platform/volumes/Volumes.h"
 #include "sync/CVSyncManagerDelegate.h"
 #include "sync/ModuleFactory.h"
 

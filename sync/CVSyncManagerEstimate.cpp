@@ -1,6 +1,6 @@
 #include "sync/CVSyncManager.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/lists/UserDefaults.h"
 #include "sync/SyncRun.h"
 
 void CVSyncManager::refreshSyncBytesEstimate()

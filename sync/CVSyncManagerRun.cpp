@@ -3,9 +3,9 @@
 
 #include "sync/CVSyncManager.h"
 
-#include "platform/FileManager.h"
-#include "platform/NumberArchive.h"
-#include "platform/UserDefaults.h"
+#include "platform/files/FileManager.h"
+#include "platform/lists/NumberArchive.h"
+#include "platform/lists/UserDefaults.h"
 #include "sync/DeviceIcon.h"
 #include "sync/Log.h"
 #include "sync/StickFiles.h"

@@ -1,7 +1,7 @@
 #include "sync/CVSyncModule.h"
 
-#include "platform/PropertyList.h"
-#include "platform/UserDefaults.h"
+#include "platform/lists/PropertyList.h"
+#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
 #include "sync/StickFiles.h"

@@ -1,8 +1,8 @@
 #include "sync/DeviceIcon.h"
 
-#include "platform/FileManager.h"
-#include "platform/FinderInfo.h"
-#include "platform/Workspace.h"
+#include "platform/desktop/Workspace.h"
+#include "platform/files/FileManager.h"
+#include "platform/files/FinderInfo.h"
 
 namespace DeviceIcon {
 

@@ -3,3 +3,5 @@
 #include <QLoggingCategory>
 
 Q_DECLARE_LOGGING_CATEGORY(lcSync)
+/// For what the kinds of media have to say.
+Q_DECLARE_LOGGING_CATEGORY(lcModules)

@@ -1,8 +1,8 @@
 #include "sync/ModuleSelection.h"
 
-#include "platform/FileManager.h"
-#include "platform/PropertyList.h"
-#include "platform/UserDefaults.h"
+#include "platform/files/FileManager.h"
+#include "platform/lists/PropertyList.h"
+#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "sync/StickFiles.h"
 

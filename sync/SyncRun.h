@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/VolumeIdentity.h"
+#include "platform/volumes/VolumeIdentity.h"
 #include "sync/CVSyncModuleDelegate.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 #include "util/FileManagerTools.h"
 
-#include "platform/Localized.h"
-#include "platform/Workspace.h"
+#include "platform/core/Localized.h"
+#include "platform/desktop/Workspace.h"
 #include "util/StringTools.h"
 
 #include <QFileInfo>

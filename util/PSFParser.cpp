@@ -1,6 +1,6 @@
 #include "util/PSFParser.h"
 
-#include "platform/FileManager.h"
+#include "platform/files/FileManager.h"
 #include "util/Log.h"
 #include "util/Preferences.h"
 

@@ -1,6 +1,6 @@
 #include "util/Preferences.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/lists/UserDefaults.h"
 #include "util/StringTools.h"
 
 namespace Preferences {

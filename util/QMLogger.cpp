@@ -1,6 +1,6 @@
 #include "util/QMLogger.h"
 
-#include "platform/MainThread.h"
+#include "platform/core/MainThread.h"
 #include "util/Log.h"
 #include "util/Preferences.h"
 #include "util/TextFormat.h"

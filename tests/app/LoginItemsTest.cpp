@@ -1,7 +1,7 @@
 #include "app/LoginItems.h"
 
-#include "platform/PropertyList.h"
-#include "platform/UserDefaults.h"
+#include "platform/lists/PropertyList.h"
+#include "platform/lists/UserDefaults.h"
 #include "support/TestSupport.h"
 
 #include <QFile>

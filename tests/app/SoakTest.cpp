@@ -1,6 +1,6 @@
 // Days of sticks that come and go, in seconds: the clock is the test's own.
 
-#include "platform/AddressBook.h"
+#include "platform/people/AddressBook.h"
 #include "support/HelperHarness.h"
 
 #include <QDir>

@@ -3,9 +3,9 @@
 // into the library). Waits for nothing and talks to nobody. Prints the user's log, and a line
 // "alert: title" for each alert.
 
-#include "modules/CVSyncBackup.h"
-#include "modules/CVSyncMovies.h"
-#include "platform/VCardAddressBook.h"
+#include "modules/movies/CVSyncMovies.h"
+#include "modules/saves/CVSyncBackup.h"
+#include "platform/people/own/VCardAddressBook.h"
 #include "support/HelperHarness.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "frontend/PrefsCommand.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/lists/UserDefaults.h"
 #include "support/TestSupport.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 // A stick with a FAT-like file system, which keeps names' case but doesn't tell it apart: a real
 // one, on a loop device, where mounting is allowed.
 
-#include "modules/CVSyncMusic.h"
+#include "modules/music/CVSyncMusic.h"
 #include "support/FatImage.h"
 #include "support/MusicLibraryFile.h"
 #include "support/SyncHarness.h"

@@ -2,8 +2,8 @@
 
 #include "ProgramHarness.h"
 
-#include "modules/ConversionProgress.h"
-#include "platform/ChildProcess.h"
+#include "modules/movies/ConversionProgress.h"
+#include "platform/core/ChildProcess.h"
 
 #include <QDir>
 #include <QFile>

@@ -5,9 +5,9 @@
 #include "FakeTray.h"
 #include "ProgramHarness.h"
 
-#include "platform/Localized.h"
-#include "platform/NamedConnection.h"
-#include "platform/RemoteObject.h"
+#include "platform/bus/NamedConnection.h"
+#include "platform/bus/RemoteObject.h"
+#include "platform/core/Localized.h"
 #include "support/PrivateBus.h"
 
 #include <QDBusConnection>

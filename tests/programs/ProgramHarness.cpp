@@ -1,8 +1,8 @@
 #include "ProgramHarness.h"
 
-#include "platform/Bundle.h"
-#include "platform/NamedConnection.h"
-#include "platform/RemoteObject.h"
+#include "platform/bus/NamedConnection.h"
+#include "platform/bus/RemoteObject.h"
+#include "platform/lists/Bundle.h"
 
 #include <QDir>
 

@@ -2,8 +2,8 @@
 
 #include "ProgramHarness.h"
 
-#include "platform/PropertyList.h"
-#include "platform/RemoteObject.h"
+#include "platform/bus/RemoteObject.h"
+#include "platform/lists/PropertyList.h"
 
 #include <QDir>
 #include <QFile>

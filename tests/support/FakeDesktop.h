@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Alerts.h"
-#include "platform/Menu.h"
-#include "platform/Sounds.h"
-#include "platform/StatusItem.h"
+#include "platform/desktop/Alerts.h"
+#include "platform/desktop/Sounds.h"
+#include "platform/tray/Menu.h"
+#include "platform/tray/StatusItem.h"
 
 #include <QStringList>
 

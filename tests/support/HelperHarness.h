@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/CaravelHelperController.h"
-#include "platform/MainThread.h"
+#include "platform/core/MainThread.h"
 #include "support/FakeDesktop.h"
 #include "support/SyncHarness.h"
 #include "util/Preferences.h"

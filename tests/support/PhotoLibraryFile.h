@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PropertyList.h"
+#include "platform/lists/PropertyList.h"
 
 #include <QVariantMap>
 

@@ -1,8 +1,8 @@
 #include "support/SyncHarness.h"
 
-#include "platform/MainThread.h"
-#include "platform/NumberArchive.h"
-#include "platform/PropertyList.h"
+#include "platform/core/MainThread.h"
+#include "platform/lists/NumberArchive.h"
+#include "platform/lists/PropertyList.h"
 #include "util/Preferences.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/DistributedNotificationCenter.h"
-#include "platform/UserDefaults.h"
-#include "platform/Volumes.h"
+#include "platform/bus/DistributedNotificationCenter.h"
+#include "platform/core/Clock.h"
+#include "platform/lists/UserDefaults.h"
+#include "platform/volumes/Volumes.h"
 #include "support/TestSupport.h"
 #include "sync/CVSyncItem.h"
 #include "sync/CVSyncManager.h"

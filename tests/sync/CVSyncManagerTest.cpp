@@ -1,7 +1,7 @@
 // Detection, mount state, estimate and the device icon.
 
-#include "platform/NumberArchive.h"
-#include "platform/PropertyList.h"
+#include "platform/lists/NumberArchive.h"
+#include "platform/lists/PropertyList.h"
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"

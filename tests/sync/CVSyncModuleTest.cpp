@@ -1,6 +1,6 @@
 // What a module queues, drops, removes and writes down.
 
-#include "platform/PropertyList.h"
+#include "platform/lists/PropertyList.h"
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"

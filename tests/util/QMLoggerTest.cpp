@@ -1,5 +1,5 @@
 #include "util/QMLogger.h"
-#include "platform/UserDefaults.h"
+#include "platform/lists/UserDefaults.h"
 #include "support/TestSupport.h"
 
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
-#include "modules/CVSyncBookmarks.h"
+#include "modules/bookmarks/CVSyncBookmarks.h"
 #include "modules/model/Model.h"
-#include "platform/PropertyList.h"
+#include "platform/lists/PropertyList.h"
 
 #include <gtest/gtest.h>
 

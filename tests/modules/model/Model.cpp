@@ -1,6 +1,6 @@
 #include "modules/model/Model.h"
 
-#include "platform/PropertyList.h"
+#include "platform/lists/PropertyList.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,5 +1,5 @@
-#include "modules/CVSyncMovies.h"
 #include "modules/model/Model.h"
+#include "modules/movies/CVSyncMovies.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "modules/CVSyncMusic.h"
 #include "modules/model/Model.h"
+#include "modules/music/CVSyncMusic.h"
 #include "support/MusicLibraryFile.h"
 
 #include <QUrl>

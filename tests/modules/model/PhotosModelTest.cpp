@@ -1,5 +1,5 @@
-#include "modules/CVSyncPhotos.h"
 #include "modules/model/Model.h"
+#include "modules/photos/CVSyncPhotos.h"
 #include "support/PhotoLibraryFile.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,0 @@
-#include "modules/Log.h"
-
-Q_LOGGING_CATEGORY(lcModules, "caravel.modules")

@@ -1,0 +1,32 @@
+#include "modules/bookmarks/own/BookmarkList.h"
+
+#include "platform/lists/PropertyList.h"
+#include "sync/Log.h"
+
+QVariantList BookmarkList::topLevelEntries(const QString &path)
+{
+    PropertyListError error;
+    const auto root = PropertyList::read(path, PropertyList::defaultLimit, &error);
+    if (root && root->typeId() != QMetaType::QVariantMap)
+        error = {QStringLiteral("its root is no dictionary")};
+    if (error)
+        qCWarning(lcModules).noquote() << "Can't read the bookmarks" << error.in(path);
+    return children(dictionary(root.value_or(QVariant())));
+}
+
+QVariantList BookmarkList::children(const QVariantMap &entry)
+{
+    const QVariant value = entry.value(QStringLiteral("Children"));
+    return value.typeId() == QMetaType::QVariantList ? value.toList() : QVariantList();
+}
+
+std::optional<QString> BookmarkList::text(const QVariantMap &entry, const QString &key)
+{
+    const QVariant value = entry.value(key);
+    return value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt;
+}
+
+QVariantMap BookmarkList::dictionary(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QVariantMap ? value.toMap() : QVariantMap();
+}

@@ -1,0 +1,136 @@
+#include "modules/bookmarks/CVSyncBookmarks.h"
+
+#include "modules/bookmarks/own/CaminoBookmarks.h"
+#include "modules/bookmarks/own/FirefoxBookmarks.h"
+#include "modules/bookmarks/own/OmniWebBookmarks.h"
+#include "modules/bookmarks/own/SafariBookmarks.h"
+#include "platform/core/Localized.h"
+#include "platform/lists/UserDefaults.h"
+#include "sync/Log.h"
+#include "sync/ModuleSelection.h"
+#include "util/Preferences.h"
+
+namespace {
+
+// Values of "bookmarkSource".
+enum class Source : qint64 { Safari = 0, Firefox = 1, OmniWeb = 2, Camino = 3 };
+
+Source chosenSource()
+{
+    return Source(UserDefaults::standard().integerForKey(QStringLiteral("bookmarkSource")));
+}
+
+QString progressText()
+{
+    switch (chosenSource()) {
+    case Source::Safari:
+        return localized("Syncing Safari Bookmarks...");
+    case Source::Firefox:
+        return localized("Syncing Firefox Bookmarks...");
+    case Source::OmniWeb:
+        return localized("Syncing OmniWeb Bookmarks...");
+    case Source::Camino:
+        return localized("Syncing Camino Bookmarks...");
+    }
+    return {};
+}
+
+constexpr char header[] =
+    "<!--Ver.01-->\n"
+    "<!DOCTYPE Bookmark-file-1>\n"
+    "<!-- This is an automatically generated file.\n"
+    "    It will be read and overwritten.\n"
+    "    Do Not Edit! -->\n"
+    "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=UTF-8\">\n"
+    "<TITLE>Bookmarks</TITLE>\n"
+    "<H1>Bookmarks</H1>\n"
+    "<DL><p>\n";
+
+// The PSP's browser takes both texts as they are, without escapes.
+QByteArray lineFor(const Bookmark &bookmark)
+{
+    return "\t<DT><A HREF=\"" + bookmark.address.toUtf8() +
+           "\" ADD_DATE=\"0\" LAST_VISIT=\"0\" LAST_MODIFIED=\"0\" LAST_CHARSET=\"UTF-8\">" +
+           bookmark.title.toUtf8() + "</A>\n";
+}
+
+} // namespace
+
+CVSyncBookmarks::CVSyncBookmarks(CVSyncModuleDelegate *delegate)
+    : CVSyncModule(delegate, saveName())
+{
+}
+
+QString CVSyncBookmarks::saveName()
+{
+    return QStringLiteral("Bookmarks");
+}
+
+std::vector<BookmarkFolder> CVSyncBookmarks::availableIdentifiers()
+{
+    switch (chosenSource()) {
+    case Source::Safari:
+        return readSafariBookmarks();
+    case Source::Firefox:
+        return parseFirefoxBookmarks();
+    case Source::OmniWeb:
+        return parseOmniWebBookmarks();
+    case Source::Camino:
+        return parseCaminoBookmarks();
+    }
+    return {};
+}
+
+std::optional<QStringList> CVSyncBookmarks::selectedIdentifiersForPSP(const QString &volume)
+{
+    return ModuleSelection::read(saveName(), volume);
+}
+
+void CVSyncBookmarks::setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP)
+{
+    ModuleSelection::store(identifiers, saveName(), forPSP);
+}
+
+QString CVSyncBookmarks::moduleName() const
+{
+    return localized("Bookmarks");
+}
+
+QString CVSyncBookmarks::rootSyncFolder() const
+{
+    return pspVolume() + QStringLiteral("/PSP/SYSTEM/BROWSER");
+}
+
+bool CVSyncBookmarks::shouldClearUnsyncedFiles() const
+{
+    return false;
+}
+
+std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
+{
+    const QString name = QStringLiteral("/bookmarks.html");
+    const QString staged = Preferences::supportFolder() + name;
+    const QByteArray lines = bookmarkLines();
+    QString reason;
+    if (!FileManager::defaultManager().writeAtomically(staged, header + lines + "</DL><p>",
+                                                       &reason))
+        qCWarning(lcModules).noquote().nospace() << "Can't write " << staged << ": " << reason;
+    if (lines.isEmpty())
+        return {};
+    return {CVSyncItem(staged, rootSyncFolder() + name, progressText())};
+}
+
+QByteArray CVSyncBookmarks::bookmarkLines() const
+{
+    QByteArray lines;
+    if (UserDefaults::standard().boolForKey(QStringLiteral("syncContacts")))
+        lines += lineFor({QStringLiteral("Caravel Contacts"),
+                          QStringLiteral("file:///Caravel/Contacts/index.html")});
+    for (const BookmarkFolder &folder : availableIdentifiers()) {
+        if (!folder.title || !isSelected(*folder.title))
+            continue;
+        for (const Bookmark &bookmark : folder.bookmarks)
+            lines += lineFor(bookmark);
+    }
+    return lines;
+}

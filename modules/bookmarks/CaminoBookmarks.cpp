@@ -1,0 +1,51 @@
+#include "modules/bookmarks/own/CaminoBookmarks.h"
+
+#include "modules/bookmarks/own/BookmarkList.h"
+#include "util/StringTools.h"
+
+using namespace BookmarkList;
+
+namespace {
+
+std::optional<Bookmark> bookmarkOf(const QVariantMap &entry)
+{
+    const auto address = text(entry, QStringLiteral("URL"));
+    if (!address)
+        return std::nullopt;
+    return Bookmark{text(entry, QStringLiteral("Title")).value_or(*address), *address};
+}
+
+void addBookmarksOf(const QVariantMap &folder, BookmarkFolderMap &folders)
+{
+    for (const QVariant &child : children(folder)) {
+        if (const auto bookmark = bookmarkOf(dictionary(child)))
+            folders.add(*bookmark);
+    }
+}
+
+void addChild(const QVariantMap &child, BookmarkFolderMap &folders)
+{
+    if (const auto bookmark = bookmarkOf(child))
+        folders.add(*bookmark);
+    else if (child.contains(QStringLiteral("FolderType")))
+        addBookmarksOf(child, folders);
+}
+
+} // namespace
+
+std::vector<BookmarkFolder> parseCaminoBookmarks()
+{
+    const QString path = StringTools::expandingTilde(
+        QStringLiteral("~/Library/Application Support/Camino/bookmarks.plist"));
+    BookmarkFolderMap folders;
+    for (const QVariant &value : topLevelEntries(path)) {
+        const QVariantMap entry = dictionary(value);
+        const auto title = text(entry, QStringLiteral("Title"));
+        if (!title)
+            continue;
+        folders.store(*title);
+        for (const QVariant &child : children(entry))
+            addChild(dictionary(child), folders);
+    }
+    return folders.takeFolders();
+}

@@ -1,0 +1,137 @@
+#include "modules/contacts/CVSyncContacts.h"
+
+#include "modules/contacts/own/ContactsPage.h"
+#include "platform/core/Localized.h"
+#include "platform/people/ContactPicture.h"
+#include "sync/Log.h"
+#include "util/Preferences.h"
+#include "util/QMMD5Hasher.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <tuple>
+
+namespace {
+
+constexpr quint64 maximumStagedBytes = 1 << 20; // of a picture; it has a few thousand
+
+FileManager &files()
+{
+    return FileManager::defaultManager();
+}
+
+QString staged(const QString &name)
+{
+    return Preferences::supportFolder() + u'/' + name;
+}
+
+void sayNotWritten(const QString &path, const QString &reason)
+{
+    qCWarning(lcModules).noquote().nospace() << "Can't write " << path << ": " << reason;
+}
+
+/// In place: a picture that is cut off is told by its missing end, and made anew.
+void writePicture(const QString &path, const QByteArray &bytes)
+{
+    const int descriptor = files().createForWriting(path, FileManager::Existing::Truncate);
+    qint64 done = 0;
+    qint64 step = descriptor < 0 ? -1 : 1;
+    while (step > 0 && done < bytes.size()) {
+        step = files().write(descriptor, bytes.constData() + done,
+                             static_cast<size_t>(bytes.size() - done));
+        done += std::max<qint64>(step, 0);
+    }
+    const int error = errno;
+    const bool isClosed = descriptor >= 0 && files().close(descriptor);
+    if (done < bytes.size() || !isClosed)
+        sayNotWritten(path, QString::fromLocal8Bit(std::strerror(isClosed ? error : errno)));
+}
+
+void stagePicture(const QByteArray &image, const QString &path, const QString &person)
+{
+    const QString mark = QMMD5Hasher::hashFromBytes(image);
+    const auto before = files().readFile(path, maximumStagedBytes);
+    if (before && ContactPicture::carriesMark(*before, mark))
+        return;
+    const ContactPicture::Rendered rendered = ContactPicture::render(image, mark);
+    if (!rendered.problem.isEmpty())
+        qCWarning(lcModules).noquote().nospace() << "The picture of the contact \"" << person
+                                                 << "\" can't be shown: " << rendered.problem;
+    writePicture(path, rendered.jpeg);
+}
+
+void stagePage(const ContactsPage &page, const QString &path)
+{
+    QString reason;
+    if (!files().writeAtomically(path, page.html().toUtf8(), &reason))
+        sayNotWritten(path, reason);
+}
+
+/// By first name, then organization; nobody's name comes first.
+std::vector<Person> sortedPeople()
+{
+    std::vector<Person> people = CVSyncContacts::availableIdentifiers();
+    std::ranges::stable_sort(people, [](const Person &first, const Person &second) {
+        return std::tie(first.firstName, first.organization) <
+               std::tie(second.firstName, second.organization);
+    });
+    return people;
+}
+
+} // namespace
+
+CVSyncContacts::CVSyncContacts(CVSyncModuleDelegate *delegate)
+    : CVSyncModule(delegate, saveName())
+{
+}
+
+QString CVSyncContacts::saveName()
+{
+    return QStringLiteral("Contacts");
+}
+
+std::vector<Person> CVSyncContacts::availableIdentifiers()
+{
+    return AddressBook::sharedAddressBook().people();
+}
+
+QString CVSyncContacts::moduleName() const
+{
+    return QStringLiteral("Contacts");
+}
+
+QString CVSyncContacts::rootSyncFolder() const
+{
+    return pspVolume() + QStringLiteral("/Caravel/Contacts");
+}
+
+bool CVSyncContacts::shouldClearUnsyncedFiles() const
+{
+    return true;
+}
+
+std::vector<CVSyncItem> CVSyncContacts::itemsToSync()
+{
+    std::vector<CVSyncItem> items;
+    ContactsPage page;
+    for (const Person &person : sortedPeople()) {
+        const auto name = ContactsPage::displayName(person);
+        if (!name)
+            continue;
+        const QString hash = QMMD5Hasher::hashFromString(person.uid);
+        QString picture;
+        if (const QByteArray image = person.image.data(); !image.isEmpty()) {
+            picture = hash + QStringLiteral(".JPG");
+            stagePicture(image, staged(picture), *name);
+            items.emplace_back(staged(picture), rootSyncFolder() + u'/' + picture,
+                               localized("Syncing Contact Icons..."));
+        }
+        page.add(person, *name, hash, picture);
+    }
+    const QString path = staged(QStringLiteral("contacts_index.html"));
+    stagePage(page, path);
+    items.emplace_back(path, rootSyncFolder() + QStringLiteral("/index.html"),
+                       localized("Syncing Contact Index..."));
+    return items;
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "modules/movies/ConversionProgress.h"
+#include "platform/core/ChildProcess.h"
+
+#include <QTimer>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <memory>
+
+class Clock;
+class CVSyncManager;
+class QMLogger;
+class Sounds;
+
+/// What the queue tells a front-end. Main thread.
+class MovieQueueDelegate
+{
+public:
+    virtual ~MovieQueueDelegate() = default;
+    /// The rows of moviesItems() have changed.
+    virtual void reloadMoviesView() = 0;
+    virtual void startConversionAnimation() = 0;
+    virtual void stopConversionAnimation() = 0;
+    /// Something that the user must know.
+    virtual void movieAlert(const QString &title, const QString &message) = 0;
+};
+
+/// The movies that wait for their conversion, one conversion at a time, and the list of all movies.
+/// A finished movie goes to the library (CVSyncMovies) and into the mounted PSP's selection.
+///
+/// A row is a map with "identifier" (the source's path, or of a movie in the library its
+/// identifier), "name", "icon", "order", "ready", "size", "enabled" (absent where a movie of the
+/// library isn't selected), and of a queued or failed one also "identifier2", by which it is found
+/// again, and "converting". Nothing of the queue survives the process. Main thread.
+class MovieQueue : public QObject
+{
+    Q_OBJECT
+public:
+    /// Not owned, outliving the queue.
+    struct Services
+    {
+        CVSyncManager &manager;
+        QMLogger &logger;
+        Sounds &sounds;
+        const Clock &clock;
+        MovieQueueDelegate &delegate;
+        QString resourceFolder; ///< holds "convert.sh"
+    };
+    explicit MovieQueue(Services services, QObject *parent = nullptr);
+    ~MovieQueue() override;
+
+    /// Rows of the library, of the queue, and of what failed.
+    QVariantList moviesItems();
+    /// Queues movies by the absolute paths of their sources; others are said in the system log.
+    void addMoviesFromArray(const QStringList &paths);
+    /// Takes a row out of the queue or of what failed (ending its conversion), or moves the
+    /// library's movie to the Trash.
+    void removeMovieItem(const QVariantMap &row);
+    void renameMovieItem(const QVariantMap &row, const QString &newName);
+
+    bool isConvertingMovie() const { return m_convertTask && m_convertTask->isRunning(); }
+    QString percentConverted() const { return m_percentConverted; }
+
+    /// For a helper that quits: ends the conversion and waits until the converter has cleaned up.
+    void close();
+
+private:
+    void manageMovieQueue();
+    void startHead();
+    void movieConversionOutput(const QByteArray &chunk);
+    void movieConversionCompleted(int exitStatus, const QString &error);
+    void storeConverted(QVariantMap &row);
+    void fail(QVariantMap &row, const QString &error);
+    void refreshEnabled();
+    void queueRanEmpty();
+    QStringList selection() const;
+    void select(const QStringList &identifiers) const;
+    QVariantMap queuedRow(const QString &path) const;
+    QVariantMap libraryRow(const QString &identifier, const QStringList &selected) const;
+
+    const Services m_services;
+    QList<QVariantMap> m_moviesQueue; // the head is the one being converted
+    QList<QVariantMap> m_moviesFailed;
+    QTimer m_movieQueueTimer;
+    std::unique_ptr<ChildProcess> m_convertTask; // while one runs or has just ended
+    ConversionProgress m_progress{0};
+    bool m_movieQueueDidAbort = false;
+    QString m_percentConverted = ConversionProgress::initialText();
+};

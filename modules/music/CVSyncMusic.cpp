@@ -1,0 +1,155 @@
+#include "modules/music/CVSyncMusic.h"
+
+#include "modules/music/own/MusicNaming.h"
+#include "platform/core/Localized.h"
+#include "platform/lists/UserDefaults.h"
+#include "sync/Log.h"
+#include "sync/ModuleSelection.h"
+#include "util/FileManagerTools.h"
+#include "util/FileUrl.h"
+#include "util/PathComponents.h"
+#include "util/Preferences.h"
+#include "util/StringTools.h"
+
+#include <utility>
+
+namespace {
+
+QString libraryPath()
+{
+    return FileManagerTools::pathByResolvingAliasesInPath(
+        StringTools::expandingTilde(QStringLiteral("~/Music/iTunes/iTunes Music Library.xml")));
+}
+
+QString dropbox()
+{
+    return Preferences::dropboxFolder(QStringLiteral("Music"));
+}
+
+qint64 firmwareVersion()
+{
+    return UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion"));
+}
+
+bool isPlayable(const MusicLibrary::Track &track, qint64 firmware)
+{
+    if (!track.isFile || track.isLossless || !track.location)
+        return false;
+    const auto dot = track.location->rfind('.');
+    if (dot == std::string_view::npos || track.location->size() - dot > 5)
+        return false;
+    const std::string_view extension = track.location->substr(dot + 1);
+    return MusicNaming::isPlayable(
+        QString::fromUtf8(extension.data(), static_cast<qsizetype>(extension.size())), firmware);
+}
+
+} // namespace
+
+CVSyncMusic::CVSyncMusic(CVSyncModuleDelegate *delegate)
+    : CVSyncModule(delegate, saveName())
+{
+}
+
+QString CVSyncMusic::saveName()
+{
+    return QStringLiteral("Music");
+}
+
+std::optional<std::vector<MusicLibrary::Playlist>> CVSyncMusic::availableIdentifiers()
+{
+    FileManagerTools::createPath(dropbox());
+    const auto library = MusicLibrary::read(libraryPath(), MusicLibrary::Part::PlaylistsOnly);
+    return library ? std::optional(library->playlists()) : std::nullopt;
+}
+
+std::optional<QStringList> CVSyncMusic::selectedIdentifiersForPSP(const QString &volume)
+{
+    return ModuleSelection::read(saveName(), volume);
+}
+
+void CVSyncMusic::setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP)
+{
+    ModuleSelection::store(identifiers, saveName(), forPSP);
+}
+
+QString CVSyncMusic::moduleName() const
+{
+    return localized("Music");
+}
+
+QString CVSyncMusic::rootSyncFolder() const
+{
+    return pspVolume() + QStringLiteral("/PSP/MUSIC");
+}
+
+bool CVSyncMusic::shouldClearUnsyncedFiles() const
+{
+    return true;
+}
+
+std::vector<CVSyncItem> CVSyncMusic::itemsToSync()
+{
+    std::vector<CVSyncItem> items;
+    addLibraryItems(items);
+    if (UserDefaults::standard().boolForKey(QStringLiteral("syncDropboxes")))
+        addDropboxItems(items);
+    return items;
+}
+
+void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items) const
+{
+    const auto library = MusicLibrary::read(libraryPath(), MusicLibrary::Part::Everything);
+    if (!library)
+        return;
+    const UserDefaults &defaults = UserDefaults::standard();
+    const bool detailed = Preferences::useDetailedLogging();
+    const qint64 firmware = firmwareVersion();
+    const QString root = rootSyncFolder() + u'/';
+    MusicNaming naming(defaults.integerForKey(QStringLiteral("organizeMusicBy")),
+                       defaults.integerForKey(QStringLiteral("sortMusicBy")));
+    for (const MusicLibrary::Playlist &playlist : library->playlists()) {
+        const QString name = playlist.name.value_or(QString());
+        if (detailed)
+            qCInfo(lcModules).noquote() << "Found playlist:" << name;
+        if (!playlist.name || !isSelected(name))
+            continue;
+        if (detailed)
+            qCInfo(lcModules).noquote() << "Processing playlist:" << name;
+        naming.beginPlaylist(name);
+        int position = 0;
+        for (const std::int64_t id : playlist.tracks) {
+            const auto track = library->track(id);
+            if (!track || !isPlayable(*track, firmware))
+                continue;
+            if (detailed)
+                qCInfo(lcModules) << "Track" << id << "is valid and will be synced";
+            const int place = position++;
+            // What lies elsewhere has its number all the same, but there is nothing to copy.
+            const auto source = FileUrl::path(*track->location);
+            if (!source)
+                continue;
+            const QString suffix =
+                u'.' + MusicNaming::extensionOnStick(PathComponents::extensionOf(*source));
+            const QString relative = naming.relativePath(*track, place, suffix);
+            QString destination;
+            destination.reserve(root.size() + relative.size() + suffix.size());
+            destination.append(root).append(relative).append(suffix);
+            items.emplace_back(*source, std::move(destination), relative);
+        }
+    }
+}
+
+void CVSyncMusic::addDropboxItems(std::vector<CVSyncItem> &items) const
+{
+    const qint64 firmware = firmwareVersion();
+    const QString from = dropbox() + u'/';
+    const QString root = rootSyncFolder() + u'/';
+    for (const FolderEntry &entry : FileManager::defaultManager().subpaths(dropbox())) {
+        const QStringView extension = PathComponents::extensionOf(entry.path);
+        if (entry.isFolder || !MusicNaming::isPlayable(extension, firmware))
+            continue;
+        const QString onStick =
+            entry.path.chopped(extension.size()) + MusicNaming::extensionOnStick(extension);
+        items.emplace_back(from + entry.path, root + onStick, entry.path);
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "modules/music/MusicLibrary.h"
+#include "sync/CVSyncModule.h"
+
+#include <optional>
+#include <vector>
+
+/// Puts the chosen iTunes playlists and the music dropbox into "PSP/MUSIC". The library is only
+/// read.
+class CVSyncMusic : public CVSyncModule
+{
+public:
+    explicit CVSyncMusic(CVSyncModuleDelegate *delegate);
+
+    static QString saveName();
+
+    /// The library's playlists in file order; nothing where no library can be read. Makes the music
+    /// dropbox folder where it is missing. Any thread.
+    static std::optional<std::vector<MusicLibrary::Playlist>> availableIdentifiers();
+    static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
+    static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
+
+    QString moduleName() const override;
+    QString rootSyncFolder() const override;
+    bool shouldClearUnsyncedFiles() const override;
+    std::vector<CVSyncItem> itemsToSync() override;
+
+private:
+    void addLibraryItems(std::vector<CVSyncItem> &items) const;
+    void addDropboxItems(std::vector<CVSyncItem> &items) const;
+};

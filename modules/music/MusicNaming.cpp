@@ -1,0 +1,117 @@
+#include "modules/music/own/MusicNaming.h"
+
+#include "util/FileManagerTools.h"
+#include "util/PathComponents.h"
+
+#include <algorithm>
+
+namespace {
+
+QString toQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Decimal with at least so many digits, as printf's "%0<width>i".
+void appendPadded(QString &text, int number, qsizetype width)
+{
+    const QString digits = QString::number(number);
+    text.resize(text.size() + std::max<qsizetype>(width - digits.size(), 0), u'0');
+    text += digits;
+}
+
+bool isOneOf(QStringView extension, std::initializer_list<QStringView> known)
+{
+    if (extension.size() != 3) // as all of them have; most that is asked about is one of them
+        return false;
+    for (const QStringView candidate : known) {
+        if (extension.compare(candidate, Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+MusicNaming::MusicNaming(qint64 organizeBy, qint64 sortBy)
+    : m_organizeBy(organizeBy)
+    , m_sortBy(sortBy)
+    , m_unsorted{QStringLiteral("Unsorted"), QStringLiteral("Unsorted")}
+{
+}
+
+void MusicNaming::beginPlaylist(const QString &name)
+{
+    m_playlist = nameOf(name).folder;
+}
+
+MusicNaming::Name MusicNaming::nameOf(const QString &text)
+{
+    const QString sanitized = FileManagerTools::makeFilename(text);
+    return {sanitized, PathComponents::safe(sanitized)};
+}
+
+const MusicNaming::Name &MusicNaming::nameOf(const MusicLibrary::Text &text)
+{
+    if (!text)
+        return m_unsorted;
+    const auto [place, isNew] = m_names.try_emplace(*text);
+    if (isNew)
+        place->second = nameOf(toQString(*text));
+    return place->second;
+}
+
+QString MusicNaming::folder(const MusicLibrary::Track &track)
+{
+    switch (m_organizeBy) {
+    case Playlist:
+        return m_playlist;
+    case Artist:
+        return nameOf(track.artist).folder;
+    case ArtistAndAlbum:
+        return PathComponents::safe(nameOf(track.artist).sanitized + QStringLiteral(" - ") +
+                                    nameOf(track.album).sanitized);
+    default:
+        return nameOf(track.album).folder;
+    }
+}
+
+void MusicNaming::appendPrefix(QString &file, const MusicLibrary::Track &track, int position) const
+{
+    if (m_sortBy == Nothing)
+        return;
+    if (m_sortBy == Position) {
+        appendPadded(file, position, 3);
+    } else {
+        appendPadded(file, track.discNumber, 1);
+        appendPadded(file, track.trackNumber, 2);
+    }
+    file += QStringLiteral(". ");
+}
+
+QString MusicNaming::relativePath(const MusicLibrary::Track &track, int position,
+                                  QStringView suffix)
+{
+    QString file;
+    file.reserve(64);
+    appendPrefix(file, track, position);
+    if (m_organizeBy == Playlist)
+        file.append(nameOf(track.artist).sanitized).append(QStringLiteral(" - "));
+    file += track.name ? FileManagerTools::makeFilename(toQString(*track.name))
+                       : QStringLiteral("Untitled");
+
+    QString path = folder(track);
+    path.reserve(path.size() + 1 + file.size());
+    return path.append(u'/').append(PathComponents::safe(file, suffix));
+}
+
+QString MusicNaming::extensionOnStick(QStringView extension)
+{
+    return isOneOf(extension, {u"M4A", u"AAC"}) ? QStringLiteral("MP4") : extension.toString();
+}
+
+bool MusicNaming::isPlayable(QStringView extension, qint64 firmwareVersion)
+{
+    return isOneOf(extension, {u"MP3"}) ||
+           (firmwareVersion >= 1 && isOneOf(extension, {u"M4A", u"AAC", u"WAV", u"MP4"}));
+}

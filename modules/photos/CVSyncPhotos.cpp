@@ -1,0 +1,165 @@
+#include "modules/photos/CVSyncPhotos.h"
+
+#include "platform/core/Localized.h"
+#include "platform/lists/UserDefaults.h"
+#include "sync/ModuleSelection.h"
+#include "util/FileManagerTools.h"
+#include "util/PathComponents.h"
+#include "util/Preferences.h"
+#include "util/StringTools.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr qint64 numberedByAlbum = 1; // of "sortPhotosBy"
+
+// Where iPhoto itself says that its library lies, else where it lies by default.
+QString libraryPath()
+{
+    const QString name = QStringLiteral("AlbumData.xml");
+    const QVariant root = UserDefaults::standard()
+                              .persistentDomain(QStringLiteral("com.apple.iPhoto"))
+                              .value_or(QVariantMap())
+                              .value(QStringLiteral("RootDirectory"));
+    if (root.typeId() == QMetaType::QString && root.toString().startsWith(u'/')) {
+        const QString own = StringTools::appendingPathComponent(root.toString(), name);
+        if (FileManager::defaultManager().exists(own))
+            return FileManagerTools::pathByResolvingAliasesInPath(own);
+    }
+    return FileManagerTools::pathByResolvingAliasesInPath(
+        StringTools::expandingTilde(QStringLiteral("~/Pictures/iPhoto Library/")) + name);
+}
+
+QString dropbox()
+{
+    return Preferences::dropboxFolder(QStringLiteral("Photos"));
+}
+
+qint64 firmwareVersion()
+{
+    return UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion"));
+}
+
+bool isShown(QStringView extension, qint64 firmware)
+{
+    static constexpr QStringView formats[] = {u"JPG", u"JPEG", u"TIF", u"TIFF",
+                                              u"PNG", u"GIF",  u"BMP"};
+    constexpr ptrdiff_t formatsOfFirmware0 = 2;
+    const auto *const end =
+        firmware < 1 ? std::begin(formats) + formatsOfFirmware0 : std::end(formats);
+    return std::any_of(std::begin(formats), end, [&](QStringView format) {
+        return extension.compare(format, Qt::CaseInsensitive) == 0;
+    });
+}
+
+QString captionOf(const PhotoLibrary::Image &image)
+{
+    if (image.caption)
+        return *image.caption;
+    const QString name = image.path->section(u'/', -1);
+    const qsizetype extension = PathComponents::extensionOf(name).size();
+    return extension > 0 ? name.chopped(extension + 1) : name;
+}
+
+} // namespace
+
+CVSyncPhotos::CVSyncPhotos(CVSyncModuleDelegate *delegate)
+    : CVSyncModule(delegate, saveName())
+{
+}
+
+QString CVSyncPhotos::saveName()
+{
+    return QStringLiteral("Photos");
+}
+
+std::optional<std::vector<PhotoLibrary::Album>> CVSyncPhotos::availableIdentifiers()
+{
+    const auto library = PhotoLibrary::read(libraryPath(), PhotoLibrary::Part::AlbumsOnly);
+    return library ? std::optional(library->albums()) : std::nullopt;
+}
+
+std::optional<QStringList> CVSyncPhotos::selectedIdentifiersForPSP(const QString &volume)
+{
+    return ModuleSelection::read(saveName(), volume);
+}
+
+void CVSyncPhotos::setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP)
+{
+    ModuleSelection::store(identifiers, saveName(), forPSP);
+}
+
+QString CVSyncPhotos::moduleName() const
+{
+    return localized("Photos");
+}
+
+QString CVSyncPhotos::rootSyncFolder() const
+{
+    return pspVolume() + QStringLiteral("/PSP/PHOTO");
+}
+
+bool CVSyncPhotos::shouldClearUnsyncedFiles() const
+{
+    return true;
+}
+
+std::vector<CVSyncItem> CVSyncPhotos::itemsToSync()
+{
+    std::vector<CVSyncItem> items;
+    addAlbumItems(items);
+    if (UserDefaults::standard().boolForKey(QStringLiteral("syncDropboxes")))
+        addDropboxItems(items);
+    return items;
+}
+
+void CVSyncPhotos::addAlbumItems(std::vector<CVSyncItem> &items) const
+{
+    const auto library = PhotoLibrary::read(libraryPath(), PhotoLibrary::Part::Everything);
+    if (!library)
+        return;
+    for (const PhotoLibrary::Album &album : library->albums()) {
+        if (album.name && isSelected(*album.name))
+            addAlbum(*library, album, items);
+    }
+}
+
+void CVSyncPhotos::addAlbum(const PhotoLibrary &library, const PhotoLibrary::Album &album,
+                            std::vector<CVSyncItem> &items) const
+{
+    const bool numbered =
+        UserDefaults::standard().integerForKey(QStringLiteral("sortPhotosBy")) == numberedByAlbum;
+    const QString folder = PathComponents::safe(FileManagerTools::makeFilename(*album.name));
+    const QString root = rootSyncFolder() + u'/';
+    const qint64 firmware = firmwareVersion();
+    int position = 0;
+    for (const QString &key : album.keys) {
+        // What the PSP can't show has its number all the same.
+        const int place = position++;
+        const PhotoLibrary::Image *image = library.image(key);
+        if (!image || !image->path || !image->path->startsWith(u'/'))
+            continue;
+        const QStringView extension = PathComponents::extensionOf(*image->path);
+        if (!isShown(extension, firmware))
+            continue;
+        QString name = FileManagerTools::makeFilename(captionOf(*image));
+        if (numbered)
+            name = QStringLiteral("%1. %2").arg(place, 3, 10, QChar(u'0')).arg(name);
+        const QString suffix = u'.' + extension.toString();
+        const QString relative = folder + u'/' + PathComponents::safe(name, suffix);
+        items.emplace_back(*image->path, root + relative + suffix, relative);
+    }
+}
+
+void CVSyncPhotos::addDropboxItems(std::vector<CVSyncItem> &items) const
+{
+    const QString from = dropbox() + u'/';
+    const QString root = rootSyncFolder() + u'/';
+    const qint64 firmware = firmwareVersion();
+    for (const FolderEntry &entry : FileManager::defaultManager().subpaths(dropbox())) {
+        if (!entry.isFolder && isShown(PathComponents::extensionOf(entry.path), firmware))
+            items.emplace_back(from + entry.path, root + entry.path, entry.path);
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "modules/photos/PhotoLibrary.h"
+#include "sync/CVSyncModule.h"
+
+#include <optional>
+#include <vector>
+
+/// Puts the chosen iPhoto albums and the photo dropbox into "PSP/PHOTO". The library is only read.
+class CVSyncPhotos : public CVSyncModule
+{
+public:
+    explicit CVSyncPhotos(CVSyncModuleDelegate *delegate);
+
+    static QString saveName();
+
+    /// The library's albums in file order; nothing where no library can be read. Any thread.
+    static std::optional<std::vector<PhotoLibrary::Album>> availableIdentifiers();
+    static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
+    static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
+
+    QString moduleName() const override;
+    QString rootSyncFolder() const override;
+    bool shouldClearUnsyncedFiles() const override;
+    std::vector<CVSyncItem> itemsToSync() override;
+
+private:
+    void addAlbumItems(std::vector<CVSyncItem> &items) const;
+    void addAlbum(const PhotoLibrary &library, const PhotoLibrary::Album &album,
+                  std::vector<CVSyncItem> &items) const;
+    void addDropboxItems(std::vector<CVSyncItem> &items) const;
+};

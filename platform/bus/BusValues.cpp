@@ -1,0 +1,186 @@
+#include "platform/bus/own/BusValues.h"
+
+#include "platform/bus/RemoteObject.h"
+
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusSignature>
+#include <QDBusUnixFileDescriptor>
+#include <QDBusVariant>
+
+namespace {
+
+using Rows = QList<QVariantMap>;
+
+/// A byte is a number, and would become the character of that number.
+QString keyText(const QVariant &key)
+{
+    return key.userType() == QMetaType::UChar ? QString::number(key.toUInt()) : key.toString();
+}
+
+QVariantMap readMap(const QDBusArgument &argument)
+{
+    QVariantMap map;
+    argument.beginMap();
+    while (!argument.atEnd()) {
+        argument.beginMapEntry();
+        const QString key = keyText(BusValues::toPlain(argument.asVariant()));
+        map.insert(key, BusValues::toPlain(argument.asVariant()));
+        argument.endMapEntry();
+    }
+    argument.endMap();
+    return map;
+}
+
+QVariantList readElements(const QDBusArgument &argument)
+{
+    QVariantList elements;
+    while (!argument.atEnd())
+        elements.append(BusValues::toPlain(argument.asVariant()));
+    return elements;
+}
+
+QVariant readArgument(const QDBusArgument &argument)
+{
+    QVariantList elements;
+    switch (argument.currentType()) {
+    case QDBusArgument::MapType:
+        return readMap(argument);
+    case QDBusArgument::ArrayType:
+        argument.beginArray();
+        elements = readElements(argument);
+        argument.endArray();
+        return elements;
+    case QDBusArgument::StructureType:
+        argument.beginStructure();
+        elements = readElements(argument);
+        argument.endStructure();
+        return elements;
+    default:
+        return BusValues::toPlain(argument.asVariant());
+    }
+}
+
+QVariantMap plainMap(QVariantMap map)
+{
+    for (QVariant &value : map)
+        value = BusValues::toPlain(value);
+    return map;
+}
+
+/// Without what the bus has no type for: it would end the process over it.
+QVariant sendable(const QVariant &value);
+
+QVariantMap sendable(const QVariantMap &map)
+{
+    QVariantMap entries;
+    for (auto entry = map.begin(); entry != map.end(); ++entry) {
+        if (const QVariant value = sendable(entry.value()); value.isValid())
+            entries.insert(entry.key(), value);
+    }
+    return entries;
+}
+
+QVariantList sendable(const QVariantList &list)
+{
+    QVariantList elements;
+    for (const QVariant &element : list) {
+        if (const QVariant value = sendable(element); value.isValid())
+            elements.append(value);
+    }
+    return elements;
+}
+
+QVariant sendable(const QVariant &value)
+{
+    if (value.userType() == QMetaType::QVariantMap)
+        return sendable(value.toMap());
+    if (value.userType() == QMetaType::QVariantList)
+        return sendable(value.toList());
+    return QDBusMetaType::typeToSignature(value.metaType()) ? value : QVariant();
+}
+
+QVariant rowsFrom(const QVariantList &list)
+{
+    static const QMetaType registered = qDBusRegisterMetaType<Rows>();
+    Q_UNUSED(registered)
+    Rows rows;
+    for (const QVariant &row : list)
+        rows.append(sendable(row.toMap()));
+    return QVariant::fromValue(rows);
+}
+
+} // namespace
+
+QVariant BusValues::toPlain(const QVariant &value)
+{
+    const int type = value.userType();
+    if (type == qMetaTypeId<QDBusArgument>())
+        return readArgument(value.value<QDBusArgument>());
+    if (type == qMetaTypeId<QDBusVariant>())
+        return toPlain(value.value<QDBusVariant>().variant());
+    if (type == qMetaTypeId<QDBusObjectPath>())
+        return value.value<QDBusObjectPath>().path();
+    if (type == qMetaTypeId<QDBusSignature>())
+        return value.value<QDBusSignature>().signature();
+    // Where the bus passes no descriptors, they come as something that has no type on it.
+    if (type == qMetaTypeId<QDBusUnixFileDescriptor>() ||
+        !QDBusMetaType::typeToSignature(value.metaType()))
+        return {};
+    if (type == QMetaType::QVariantMap)
+        return plainMap(value.toMap());
+    if (type == QMetaType::QVariantList)
+        return toPlain(value.toList());
+    return value;
+}
+
+QVariantList BusValues::toPlain(const QVariantList &values)
+{
+    QVariantList plain;
+    for (const QVariant &value : values)
+        plain.append(toPlain(value));
+    return plain;
+}
+
+QVariant BusValues::toBus(const QVariant &value, const QString &signature)
+{
+    if (signature == u"b")
+        return value.toBool();
+    if (signature == u"i")
+        return value.toInt();
+    if (signature == u"u")
+        return value.toUInt();
+    if (signature == u"t")
+        return value.toULongLong();
+    if (signature == u"d")
+        return value.toDouble();
+    if (signature == u"as")
+        return value.toStringList();
+    if (signature == u"a{sv}")
+        return sendable(value.toMap());
+    if (signature == u"aa{sv}")
+        return rowsFrom(value.toList());
+    if (signature == u"o")
+        return QVariant::fromValue(QDBusObjectPath(value.toString()));
+    return value.toString();
+}
+
+QVariant BusValues::toBus(const QVariant &value)
+{
+    if (value.userType() == qMetaTypeId<ObjectPath>())
+        return toBus(value.value<ObjectPath>().path, QStringLiteral("o"));
+    if (value.userType() == QMetaType::QVariantList)
+        return rowsFrom(value.toList());
+    if (value.userType() == QMetaType::QVariantMap)
+        return sendable(value.toMap());
+    return value;
+}
+
+QVariantList BusValues::toBus(const QVariantList &values)
+{
+    QVariantList typed;
+    for (const QVariant &value : values)
+        typed.append(toBus(value));
+    return typed;
+}

@@ -1,0 +1,70 @@
+#include "platform/desktop/Alerts.h"
+
+#include "platform/core/Log.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QHash>
+#include <QVariantMap>
+
+namespace {
+
+QString iconName(AlertStyle style)
+{
+    switch (style) {
+    case AlertStyle::Warning:
+        return QStringLiteral("dialog-warning");
+    case AlertStyle::Informational:
+        return QStringLiteral("dialog-information");
+    case AlertStyle::Critical:
+        return QStringLiteral("dialog-error");
+    }
+    return {};
+}
+
+/// Through the bus service "org.freedesktop.Notifications".
+class AlertNotifications : public Alerts
+{
+public:
+    void show(const QString &title, const QString &message, AlertStyle style) override
+    {
+        const QString service = QStringLiteral("org.freedesktop.Notifications");
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            service, QStringLiteral("/org/freedesktop/Notifications"), service,
+            QStringLiteral("Notify"));
+        // Urgency: 1 is normal, 2 stays until it is dismissed. An alert is never to be missed.
+        const QVariantMap hints{
+            {QStringLiteral("urgency"), QVariant::fromValue<uchar>(2)},
+            {QStringLiteral("desktop-entry"), QStringLiteral("org.caravel.Caravel")}};
+        constexpr int neverExpires = 0;
+        call.setArguments({QStringLiteral("Caravel"), m_shown.value(title, 0U), iconName(style),
+                           title, message.toHtmlEscaped(), QStringList(), hints, neverExpires});
+        auto *watcher =
+            new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), &m_calls);
+        QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &m_calls,
+                         [this, title, message, watcher] { answered(title, message, *watcher); });
+    }
+
+private:
+    void answered(const QString &title, const QString &message, QDBusPendingCallWatcher &watcher)
+    {
+        const QDBusPendingReply<uint> reply = watcher;
+        if (reply.isError())
+            qCWarning(lcPlatform).noquote() << "An alert that can't be shown:" << title << message;
+        else
+            m_shown.insert(title, reply.value());
+        watcher.deleteLater();
+    }
+
+    QHash<QString, uint> m_shown; // the service's number of the last notification of that title
+    QObject m_calls;              // owns those under way
+};
+
+} // namespace
+
+std::unique_ptr<Alerts> makeAlertNotifications()
+{
+    return std::make_unique<AlertNotifications>();
+}

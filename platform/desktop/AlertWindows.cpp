@@ -1,0 +1,73 @@
+#include "platform/desktop/Alerts.h"
+
+#include <QApplication>
+#include <QHash>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTextDocument>
+
+namespace {
+
+QMessageBox::Icon icon(AlertStyle style)
+{
+    switch (style) {
+    case AlertStyle::Warning:
+        return QMessageBox::Warning;
+    case AlertStyle::Informational:
+        return QMessageBox::Information;
+    case AlertStyle::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::Warning;
+}
+
+class AlertWindows : public Alerts
+{
+public:
+    ~AlertWindows() override
+    {
+        for (const auto &window : m_windows)
+            delete window;
+    }
+
+    void show(const QString &title, const QString &message, AlertStyle style) override
+    {
+        QPointer<QMessageBox> &window = m_windows[title];
+        if (!window)
+            window = newWindow(title);
+        // The box asks for no text format here: it would take what looks like markup for it.
+        window->setInformativeText(Qt::convertFromPlainText(message));
+        window->setIcon(icon(style));
+        window->show();
+        window->raise();
+        window->activateWindow();
+    }
+
+private:
+    static QMessageBox *newWindow(const QString &title)
+    {
+        auto *window = new QMessageBox;
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowTitle(QStringLiteral("Caravel"));
+        window->setTextFormat(Qt::PlainText);
+        window->setText(title);
+        window->setModal(false);
+        return window;
+    }
+
+    QHash<QString, QPointer<QMessageBox>> m_windows; // by title; null once closed
+};
+
+} // namespace
+
+std::unique_ptr<Alerts> makeAlertWindows()
+{
+    return std::make_unique<AlertWindows>();
+}
+
+std::unique_ptr<Alerts> makeAlerts()
+{
+    const bool hasDisplay = QGuiApplication::platformName() != u"offscreen" &&
+                            QGuiApplication::platformName() != u"minimal";
+    return hasDisplay ? makeAlertWindows() : makeAlertNotifications();
+}

@@ -1,0 +1,81 @@
+#include "platform/desktop/Autostart.h"
+
+#include "platform/core/Log.h"
+#include "platform/files/FileManager.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+QString folder()
+{
+    return qEnvironmentVariable("HOME") + QStringLiteral("/.config/autostart");
+}
+
+QString pathOf(const QString &entry)
+{
+    return folder() + u'/' + entry + QStringLiteral(".desktop");
+}
+
+// An argument of the key Exec: quoted for the command line, its percent signs doubled since they
+// mark fields, and then all of it escaped as a string of the file is.
+QString quoted(const QString &argument)
+{
+    QString text;
+    for (const QChar c : argument) {
+        if (c == u'"' || c == u'`' || c == u'$' || c == u'\\')
+            text += u'\\';
+        if (c == u'%')
+            text += u'%';
+        text += c;
+    }
+    text.replace(u'\\', QStringLiteral("\\\\"));
+    text.replace(u'\n', QStringLiteral("\\n"));
+    return u'"' + text + u'"';
+}
+
+QByteArray contents(const QString &name, const QString &executable)
+{
+    return QStringLiteral("[Desktop Entry]\n"
+                          "Type=Application\n"
+                          "Name=%1\n"
+                          "Icon=org.caravel.Caravel\n"
+                          "Exec=%2\n"
+                          "NoDisplay=true\n"
+                          "X-GNOME-Autostart-enabled=true\n")
+        .arg(name, quoted(executable))
+        .toUtf8();
+}
+
+bool hasContents(const QString &path, const QByteArray &wanted)
+{
+    const auto limit = static_cast<quint64>(wanted.size());
+    return FileManager::defaultManager().readFile(path, limit) == wanted;
+}
+
+} // namespace
+
+bool Autostart::add(const QString &entry, const QString &name, const QString &executable)
+{
+    const QString path = pathOf(entry);
+    const QByteArray wanted = contents(name, executable);
+    if (hasContents(path, wanted))
+        return true;
+    QDir().mkpath(folder());
+    QString reason;
+    if (FileManager::defaultManager().writeAtomically(path, wanted, &reason))
+        return true;
+    qCWarning(lcPlatform).noquote() << "Can't write" << path << "-" << reason;
+    return false;
+}
+
+bool Autostart::remove(const QString &entry)
+{
+    QFile file(pathOf(entry));
+    if (!file.exists() || file.remove())
+        return true;
+    qCWarning(lcPlatform).noquote()
+        << "Can't remove" << file.fileName() << "-" << file.errorString();
+    return false;
+}

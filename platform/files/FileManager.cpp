@@ -1,0 +1,273 @@
+#include "platform/files/FileManager.h"
+
+#include "platform/core/own/Posix.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/sendfile.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+
+namespace {
+
+constexpr mode_t newFileMode = 0644;
+constexpr mode_t newFolderMode = 0755;
+
+std::atomic<FileManager *> replacement = nullptr;
+
+FileStatus statusFrom(const struct stat &status)
+{
+    const auto kind = S_ISDIR(status.st_mode)   ? FileStatus::Kind::Folder
+                      : S_ISLNK(status.st_mode) ? FileStatus::Kind::Link
+                                                : FileStatus::Kind::File;
+    return {kind, static_cast<quint64>(status.st_size)};
+}
+
+template <typename Operation>
+auto retryInterrupted(Operation operation)
+{
+    auto result = operation();
+    while (result < 0 && errno == EINTR)
+        result = operation();
+    return result;
+}
+
+/// A file that stands in for another until all of it is on the device. Removed again unless it was
+/// moved into place. It has one name for each target, so that what a killed process leaves is taken
+/// over by the next, and a lock, so that no two write it at once.
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const QByteArray &target)
+    {
+        const qsizetype slash = target.lastIndexOf('/');
+        m_path = target.left(slash + 1) + '.' + target.mid(slash + 1) + ".new";
+        while (!isOurs() && open())
+            ;
+        if (m_file >= 0 && ::ftruncate(m_file, 0) != 0)
+            close();
+    }
+
+    ~TemporaryFile()
+    {
+        const int error = errno;
+        if (m_file >= 0)
+            ::unlink(m_path.constData());
+        close();
+        errno = error;
+    }
+
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    int descriptor() const { return m_file; }
+
+    bool moveIntoPlace(const QByteArray &target)
+    {
+        if (retryInterrupted([this] { return ::fsync(m_file); }) != 0 ||
+            std::rename(m_path.constData(), target.constData()) != 0)
+            return false;
+        close(); // and unlocked, which must not come before the file has its place
+        return true;
+    }
+
+private:
+    bool open()
+    {
+        close();
+        m_file =
+            ::open(m_path.constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, newFileMode);
+        // A file system without locks has to do without.
+        if (m_file >= 0)
+            retryInterrupted([this] { return ::flock(m_file, LOCK_EX); });
+        return m_file >= 0;
+    }
+
+    /// Whether the open file still has the name: whoever held the lock has moved it into place.
+    bool isOurs() const
+    {
+        struct stat file;
+        struct stat name;
+        return m_file >= 0 && ::fstat(m_file, &file) == 0 &&
+               ::lstat(m_path.constData(), &name) == 0 && file.st_ino == name.st_ino &&
+               file.st_dev == name.st_dev;
+    }
+
+    void close()
+    {
+        if (m_file >= 0)
+            ::close(std::exchange(m_file, -1));
+    }
+
+    QByteArray m_path;
+    int m_file = -1;
+};
+
+bool writeAll(FileManager &files, int descriptor, const QByteArray &contents)
+{
+    qsizetype written = 0;
+    while (written < contents.size()) {
+        const qint64 count = files.write(descriptor, contents.constData() + written,
+                                         static_cast<size_t>(contents.size() - written));
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
+void flushFileSystemOf(const Posix::Descriptor &any)
+{
+    if (!any || ::syncfs(any.get()) != 0)
+        ::sync();
+}
+
+/// Some file systems have nothing to flush for a folder and say EINVAL.
+bool flushFolderOf(const QByteArray &path)
+{
+    const QByteArray folder = path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+    const auto descriptor = Posix::openFolder(AT_FDCWD, folder.constData(), Posix::Links::Follow);
+    return descriptor &&
+           (retryInterrupted([&] { return ::fsync(descriptor.get()); }) == 0 || errno == EINVAL);
+}
+
+} // namespace
+
+FileManager &FileManager::defaultManager()
+{
+    static auto *real = new FileManager; // never destroyed: workers may outlast the statics
+    FileManager *manager = replacement.load();
+    return manager ? *manager : *real;
+}
+
+void FileManager::setDefaultManager(FileManager *manager)
+{
+    replacement = manager;
+}
+
+FileStatus FileManager::status(const QString &path) const
+{
+    struct stat status;
+    return ::stat(Posix::native(path).constData(), &status) == 0 ? statusFrom(status)
+                                                                 : FileStatus();
+}
+
+FileStatus FileManager::linkStatus(const QString &path) const
+{
+    struct stat status;
+    return ::lstat(Posix::native(path).constData(), &status) == 0 ? statusFrom(status)
+                                                                  : FileStatus();
+}
+
+bool FileManager::createFolder(const QString &path)
+{
+    return ::mkdir(Posix::native(path).constData(), newFolderMode) == 0;
+}
+
+int FileManager::openForReading(const QString &path)
+{
+    return Posix::openRegularFile(Posix::native(path).constData());
+}
+
+int FileManager::createForWriting(const QString &path, Existing existing)
+{
+    const QByteArray native = Posix::native(path);
+    const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW |
+                      (existing == Existing::Refuse ? O_EXCL : O_TRUNC);
+    return retryInterrupted([&] { return ::open(native.constData(), flags, newFileMode); });
+}
+
+qint64 FileManager::read(int descriptor, void *buffer, size_t count)
+{
+    return retryInterrupted([=] { return ::read(descriptor, buffer, count); });
+}
+
+qint64 FileManager::write(int descriptor, const void *buffer, size_t count)
+{
+    return retryInterrupted([=] { return ::write(descriptor, buffer, count); });
+}
+
+qint64 FileManager::transfer(int from, int to, size_t count)
+{
+    return retryInterrupted([=] { return ::sendfile(to, from, nullptr, count); });
+}
+
+bool FileManager::close(int descriptor)
+{
+    // Linux has let go of the descriptor even when it says EINTR.
+    return ::close(descriptor) == 0 || errno == EINTR;
+}
+
+bool FileManager::closeAndFlush(int descriptor)
+{
+    const Posix::Descriptor any(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
+    const bool isClosed = close(descriptor);
+    const int error = errno;
+    flushFileSystemOf(any);
+    errno = error;
+    return isClosed;
+}
+
+void FileManager::flush(const QString &path)
+{
+    flushFileSystemOf(Posix::Descriptor(
+        ::open(Posix::native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)));
+}
+
+bool FileManager::writeAtomically(const QString &path, const QByteArray &contents, QString *reason)
+{
+    const QByteArray target = Posix::native(path);
+    const auto fail = [reason] {
+        if (reason)
+            *reason = Posix::reason(errno);
+        return false;
+    };
+    TemporaryFile temporary(target);
+    if (temporary.descriptor() < 0 || !writeAll(*this, temporary.descriptor(), contents))
+        return fail();
+    if (!temporary.moveIntoPlace(target) || !flushFolderOf(target))
+        return fail();
+    return true;
+}
+
+std::optional<QByteArray> FileManager::readFile(const QString &path, quint64 limit) const
+{
+    const Posix::Descriptor file(Posix::openRegularFile(Posix::native(path).constData()));
+    struct stat status;
+    if (!file || ::fstat(file.get(), &status) != 0 || static_cast<quint64>(status.st_size) > limit)
+        return std::nullopt;
+    QByteArray contents;
+    qint64 count = 0;
+    do {
+        // One byte more than is expected tells the end of an ordinary file in two reads.
+        const qsizetype known = contents.size();
+        contents.resize(std::max<qsizetype>(known + 4096, qsizetype(status.st_size) + 1));
+        count = retryInterrupted([&] {
+            return ::read(file.get(), contents.data() + known, size_t(contents.size() - known));
+        });
+        contents.resize(known + std::max<qint64>(count, 0));
+    } while (count > 0 && static_cast<quint64>(contents.size()) <= limit);
+    if (count != 0)
+        return std::nullopt;
+    return contents;
+}
+
+std::optional<VolumeSpace> FileManager::volumeSpace(const QString &path) const
+{
+    struct statvfs space;
+    if (::statvfs(Posix::native(path).constData(), &space) != 0)
+        return std::nullopt;
+    return VolumeSpace{quint64(space.f_blocks) * space.f_frsize,
+                       quint64(space.f_bavail) * space.f_frsize};
+}
+
+QString FileManager::displayName(const QString &path) const
+{
+    return path == u"/" ? path : path.mid(path.lastIndexOf(u'/') + 1);
+}

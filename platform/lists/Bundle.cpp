@@ -1,0 +1,75 @@
+#include "platform/lists/Bundle.h"
+
+#include "platform/lists/PropertyList.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+std::optional<QVariantMap> infoOf(const QString &bundle)
+{
+    const auto info = PropertyList::read(bundle + QStringLiteral("/Contents/Info.plist"));
+    if (!info || info->typeId() != QMetaType::QVariantMap)
+        return std::nullopt;
+    return info->toMap();
+}
+
+QString ownExecutable()
+{
+    QString path = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+    // The kernel adds this once an upgrade has put another file in the executable's place.
+    const QString replaced = QStringLiteral(" (deleted)");
+    if (path.endsWith(replaced) && !QFile::exists(path))
+        path.chop(replaced.size());
+    return path;
+}
+
+} // namespace
+
+Bundle::Bundle(QString path)
+    : m_path(QDir::cleanPath(QDir().absoluteFilePath(path)))
+{
+}
+
+Bundle Bundle::main()
+{
+    static const QString path = ownExecutable() + QStringLiteral("/../../..");
+    return Bundle(path);
+}
+
+bool Bundle::exists() const
+{
+    return infoOf(m_path).has_value();
+}
+
+QString Bundle::resourcePath() const
+{
+    return m_path + QStringLiteral("/Contents/Resources");
+}
+
+QString Bundle::infoString(const QString &key) const
+{
+    const QVariant value = infoOf(m_path).value_or(QVariantMap()).value(key);
+    switch (value.typeId()) {
+    case QMetaType::QString:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        return value.toString();
+    default:
+        return {};
+    }
+}
+
+QString Bundle::version() const
+{
+    return infoString(QStringLiteral("CFBundleVersion"));
+}
+
+QString Bundle::executable() const
+{
+    const QString name = infoString(QStringLiteral("CFBundleExecutable"));
+    const bool isName = !name.isEmpty() && !name.contains(u'/') && name != u"." && name != u"..";
+    return isName ? m_path + QStringLiteral("/Contents/bin/") + name : QString();
+}

@@ -1,0 +1,372 @@
+#include "platform/lists/own/PropertyListParts.h"
+
+#include "platform/core/own/Posix.h"
+
+#include <expat.h>
+
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+using namespace PropertyListParts;
+
+namespace {
+
+constexpr int chunkSize = 1 << 20;
+
+enum class Element {
+    Plist,
+    Dictionary,
+    Array,
+    Key,
+    String,
+    Integer,
+    Real,
+    Date,
+    Data,
+    True,
+    False,
+    Unknown,
+};
+
+/// Told apart by the first letter: a library has millions of elements.
+Element elementNamed(const char *name)
+{
+    const auto ifNamed = [name](const char *rest, Element element) {
+        return std::strcmp(name + 1, rest) == 0 ? element : Element::Unknown;
+    };
+    switch (name[0]) {
+    case 'k':
+        return ifNamed("ey", Element::Key);
+    case 's':
+        return ifNamed("tring", Element::String);
+    case 'i':
+        return ifNamed("nteger", Element::Integer);
+    case 'r':
+        return ifNamed("eal", Element::Real);
+    case 't':
+        return ifNamed("rue", Element::True);
+    case 'f':
+        return ifNamed("alse", Element::False);
+    case 'a':
+        return ifNamed("rray", Element::Array);
+    case 'p':
+        return ifNamed("list", Element::Plist);
+    case 'd':
+        if (name[1] == 'i')
+            return ifNamed("ict", Element::Dictionary);
+        return std::strcmp(name, "date") == 0 ? Element::Date : ifNamed("ata", Element::Data);
+    default:
+        return Element::Unknown;
+    }
+}
+
+std::optional<PropertyListType> scalarTypeOf(Element element)
+{
+    switch (element) {
+    case Element::String:
+        return PropertyListType::String;
+    case Element::Integer:
+        return PropertyListType::Integer;
+    case Element::Real:
+        return PropertyListType::Real;
+    case Element::Date:
+        return PropertyListType::Date;
+    case Element::Data:
+        return PropertyListType::Data;
+    case Element::True:
+    case Element::False:
+        return PropertyListType::Boolean;
+    case Element::Plist:
+    case Element::Dictionary:
+    case Element::Array:
+    case Element::Key:
+    case Element::Unknown:
+        break;
+    }
+    return std::nullopt;
+}
+
+QString tag(const char *name)
+{
+    return u'<' + QString::fromUtf8(name) + u'>';
+}
+
+/// Feeds one XML file to a handler. What nobody wants costs a counter: the parser is asked for
+/// texts only inside a key or a wanted scalar.
+class XmlReader
+{
+public:
+    explicit XmlReader(PropertyListHandler &handler);
+
+    PropertyListError read(int descriptor, quint64 limit);
+
+private:
+    /// What the next element has to be.
+    enum class Expect { Plist, RootValue, Key, Value, RefusedValue, Item, Nothing };
+
+    struct FreeParser
+    {
+        void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
+    };
+
+    static XmlReader &self(void *reader) { return *static_cast<XmlReader *>(reader); }
+    static void onStart(void *reader, const XML_Char *name, const XML_Char **attributes);
+    static void onEnd(void *reader, const XML_Char *name);
+    static void onText(void *reader, const XML_Char *text, int length);
+    static void onEntity(void *reader, const XML_Char *name, int isParameter, const XML_Char *value,
+                         int length, const XML_Char *base, const XML_Char *system,
+                         const XML_Char *publicId, const XML_Char *notation);
+    static void onSkippedEntity(void *reader, const XML_Char *name, int isParameter);
+
+    PropertyListError parserError() const;
+    void fail(const QString &text);
+    void start(const char *name);
+    void end();
+    void startSkipped();
+    void startValue(Element element, const char *name);
+    void startRefused(Element element, const char *name);
+    void startContainer(Element element);
+    void startLeaf(Element element);
+    void endLeaf();
+    void endContainer();
+    void endKey();
+    void valueIsComplete();
+
+    const std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> m_parser;
+    PropertyListHandler &m_handler;
+    PropertyListError m_error;
+    Expect m_expect = Expect::Plist;
+    std::optional<Element> m_leaf; // the open key or scalar
+    std::size_t m_skipped = 0;     // open elements of a refused value
+    std::vector<Element> m_open;   // containers
+    std::string m_text;            // of the open key or scalar; keeps its capacity
+};
+
+XmlReader::XmlReader(PropertyListHandler &handler)
+    : m_parser(XML_ParserCreate(nullptr))
+    , m_handler(handler)
+{
+    if (!m_parser)
+        return;
+    XML_SetUserData(m_parser.get(), this);
+    XML_SetElementHandler(m_parser.get(), onStart, onEnd);
+    XML_SetEntityDeclHandler(m_parser.get(), onEntity);
+    XML_SetSkippedEntityHandler(m_parser.get(), onSkippedEntity);
+}
+
+PropertyListError XmlReader::read(int descriptor, quint64 limit)
+{
+    quint64 total = 0;
+    for (;;) {
+        void *buffer = m_parser ? XML_GetBuffer(m_parser.get(), chunkSize) : nullptr;
+        if (!buffer)
+            return PropertyListError{QStringLiteral("out of memory")};
+        const ssize_t count = readSome(descriptor, buffer, chunkSize);
+        if (count < 0)
+            return diskError();
+        total += static_cast<quint64>(count);
+        if (total > limit)
+            return PropertyListError{tooLongText(limit)};
+        const bool isLast = count == 0;
+        if (XML_ParseBuffer(m_parser.get(), static_cast<int>(count), isLast) != XML_STATUS_OK)
+            return parserError();
+        if (isLast)
+            return {};
+    }
+}
+
+PropertyListError XmlReader::parserError() const
+{
+    if (m_error)
+        return m_error;
+    return PropertyListError{QString::fromUtf8(XML_ErrorString(XML_GetErrorCode(m_parser.get()))),
+                             static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()))};
+}
+
+/// The parser may still deliver events of the same token after it was stopped: nobody hears them.
+void XmlReader::fail(const QString &text)
+{
+    m_error = {text, static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()))};
+    XML_SetElementHandler(m_parser.get(), nullptr, nullptr);
+    XML_SetCharacterDataHandler(m_parser.get(), nullptr);
+    XML_SetEntityDeclHandler(m_parser.get(), nullptr);
+    XML_SetSkippedEntityHandler(m_parser.get(), nullptr);
+    XML_StopParser(m_parser.get(), XML_FALSE);
+}
+
+void XmlReader::onStart(void *reader, const XML_Char *name, const XML_Char **)
+{
+    self(reader).start(name);
+}
+
+void XmlReader::onEnd(void *reader, const XML_Char *)
+{
+    self(reader).end();
+}
+
+void XmlReader::onText(void *reader, const XML_Char *text, int length)
+{
+    self(reader).m_text.append(text, static_cast<std::size_t>(length));
+}
+
+/// No property list declares entities; a file that does wants to grow in memory or to pull in
+/// others.
+void XmlReader::onEntity(void *reader, const XML_Char *name, int, const XML_Char *, int,
+                         const XML_Char *, const XML_Char *, const XML_Char *, const XML_Char *)
+{
+    self(reader).fail(
+        QStringLiteral("entity declarations are refused: \"%1\"").arg(QString::fromUtf8(name)));
+}
+
+void XmlReader::onSkippedEntity(void *reader, const XML_Char *name, int)
+{
+    self(reader).fail(QStringLiteral("unknown entity \"%1\"").arg(QString::fromUtf8(name)));
+}
+
+void XmlReader::start(const char *name)
+{
+    if (m_skipped > 0)
+        return startSkipped();
+    if (m_leaf)
+        return fail(tag(name) + QStringLiteral(" inside a key or a scalar"));
+    const Element element = elementNamed(name);
+    switch (m_expect) {
+    case Expect::Plist:
+        if (element != Element::Plist)
+            return fail(tag(name) + QStringLiteral(" where <plist> belongs"));
+        m_expect = Expect::RootValue;
+        return;
+    case Expect::Key:
+        if (element != Element::Key)
+            return fail(tag(name) + QStringLiteral(" where a <key> belongs"));
+        return startLeaf(element);
+    case Expect::RefusedValue:
+        return startRefused(element, name);
+    case Expect::RootValue:
+    case Expect::Value:
+    case Expect::Item:
+        return startValue(element, name);
+    case Expect::Nothing:
+        return fail(tag(name) + QStringLiteral(" after the list's one value"));
+    }
+}
+
+void XmlReader::startSkipped()
+{
+    if (m_open.size() + m_skipped > depthLimit)
+        return fail(tooDeepText());
+    ++m_skipped;
+}
+
+void XmlReader::startRefused(Element element, const char *name)
+{
+    if (element == Element::Unknown || element == Element::Key || element == Element::Plist)
+        return fail(tag(name) + QStringLiteral(" where a value belongs"));
+    startSkipped();
+}
+
+void XmlReader::startValue(Element element, const char *name)
+{
+    if (element == Element::Dictionary || element == Element::Array)
+        startContainer(element);
+    else if (scalarTypeOf(element))
+        startLeaf(element);
+    else
+        fail(tag(name) + QStringLiteral(" where a value belongs"));
+}
+
+void XmlReader::startContainer(Element element)
+{
+    if (m_open.size() >= depthLimit)
+        return fail(tooDeepText());
+    m_open.push_back(element);
+    if (element == Element::Dictionary) {
+        m_expect = Expect::Key;
+        m_handler.beginDictionary();
+    } else {
+        m_expect = Expect::Item;
+        m_handler.beginArray();
+    }
+}
+
+void XmlReader::startLeaf(Element element)
+{
+    m_leaf = element;
+    m_text.clear();
+    XML_SetCharacterDataHandler(m_parser.get(), onText);
+}
+
+void XmlReader::end()
+{
+    if (m_skipped > 0) {
+        if (--m_skipped == 0)
+            valueIsComplete();
+    } else if (m_leaf) {
+        endLeaf();
+    } else if (!m_open.empty()) {
+        endContainer();
+    } else if (m_expect == Expect::RootValue) {
+        fail(QStringLiteral("<plist> holds no value"));
+    }
+}
+
+void XmlReader::endLeaf()
+{
+    XML_SetCharacterDataHandler(m_parser.get(), nullptr);
+    const Element element = *m_leaf;
+    m_leaf.reset();
+    if (element == Element::Key)
+        return endKey();
+    const bool isBoolean = element == Element::True || element == Element::False;
+    if (isBoolean && !trimmed(m_text).empty())
+        return fail(QStringLiteral("text inside a boolean"));
+    if (isBoolean)
+        m_text = element == Element::True ? "true" : "false";
+    const PropertyListScalar scalar{*scalarTypeOf(element), m_text};
+    if (!isValid(scalar))
+        return fail(invalidScalarText(scalar));
+    m_handler.scalar(scalar);
+    valueIsComplete();
+    // One long text must not stay in memory for the rest of the file.
+    if (m_text.capacity() > chunkSize)
+        std::string().swap(m_text);
+}
+
+void XmlReader::endKey()
+{
+    m_expect = m_handler.key(m_text) ? Expect::Value : Expect::RefusedValue;
+}
+
+void XmlReader::endContainer()
+{
+    if (m_expect == Expect::Value || m_expect == Expect::RefusedValue)
+        return fail(QStringLiteral("a <key> without a value"));
+    const Element element = m_open.back();
+    m_open.pop_back();
+    if (element == Element::Dictionary)
+        m_handler.endDictionary();
+    else
+        m_handler.endArray();
+    valueIsComplete();
+}
+
+void XmlReader::valueIsComplete()
+{
+    if (m_open.empty())
+        m_expect = Expect::Nothing;
+    else
+        m_expect = m_open.back() == Element::Dictionary ? Expect::Key : Expect::Item;
+}
+
+} // namespace
+
+PropertyListError PropertyListParts::readXml(int descriptor, quint64 limit,
+                                             PropertyListHandler &handler)
+{
+    return XmlReader(handler).read(descriptor, limit);
+}

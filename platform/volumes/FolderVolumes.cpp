@@ -1,0 +1,138 @@
+#include "platform/volumes/own/FolderVolumes.h"
+
+#include "platform/core/Log.h"
+#include "platform/core/MainThread.h"
+#include "platform/core/own/Posix.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace {
+
+QString ejectedFolder(const QString &folder)
+{
+    return folder + QStringLiteral("/.ejected");
+}
+
+QString nearestFolder(QString path)
+{
+    while (path.size() > 1 && !QFileInfo(path).isDir())
+        path = QFileInfo(path).path();
+    return path;
+}
+
+} // namespace
+
+FolderVolumes::FolderVolumes(const QString &folder, QObject *parent)
+    : Volumes(parent)
+    , m_folder(QDir::cleanPath(QDir().absoluteFilePath(folder)))
+    , m_self(std::make_shared<FolderVolumes *>(this))
+{
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FolderVolumes::rescan);
+    watch();
+    m_known = scan();
+}
+
+std::vector<FolderVolumes::Volume> FolderVolumes::scan() const
+{
+    const QByteArray folder = Posix::native(m_folder);
+    const auto entries =
+        Posix::entriesOf(Posix::openFolder(AT_FDCWD, folder.constData(), Posix::Links::Follow));
+    std::vector<Volume> volumes;
+    for (const Posix::Entry &entry : entries.value_or(std::vector<Posix::Entry>())) {
+        const QUtf8StringView name(entry.name.data(), qsizetype(entry.name.size()));
+        if (entry.name.front() == '.' || !name.isValidUtf8())
+            continue;
+        if (entry.kind != Posix::EntryKind::Folder && entry.kind != Posix::EntryKind::Link)
+            continue;
+        const QString path = m_folder + u'/' + name.toString();
+        if (const auto identity = VolumeIdentity::of(path))
+            volumes.push_back({path, *identity});
+    }
+    return volumes;
+}
+
+QStringList FolderVolumes::mountedRemovableMedia() const
+{
+    QStringList paths;
+    for (const Volume &volume : scan())
+        paths.append(volume.path);
+    return paths;
+}
+
+bool FolderVolumes::unmountAndEject(const QString &path)
+{
+    if (!mountedRemovableMedia().contains(path)) {
+        qCWarning(lcPlatform, "Can't eject %s: no such volume", qUtf8Printable(path));
+        return false;
+    }
+    const QString aside = ejectedFolder(m_folder) + path.mid(m_folder.size());
+    struct stat status;
+    if (::lstat(Posix::native(aside).constData(), &status) == 0) {
+        qCWarning(lcPlatform, "Can't eject %s: %s is there already", qUtf8Printable(path),
+                  qUtf8Printable(aside));
+        return false;
+    }
+    performOnMainThread([this, &path] { Q_EMIT willUnmount(path); }, CallMode::Wait);
+    if (!moveAside(path))
+        return false;
+    // Not left to the watcher, which may have run out of watches.
+    performOnMainThread(
+        [self = std::weak_ptr(m_self)] {
+            if (const auto volumes = self.lock())
+                (*volumes)->rescan();
+        },
+        CallMode::DontWait);
+    return true;
+}
+
+bool FolderVolumes::moveAside(const QString &path) const
+{
+    const QString folder = ejectedFolder(m_folder);
+    const QByteArray aside = Posix::native(folder + path.mid(m_folder.size()));
+    ::mkdir(Posix::native(folder).constData(), 0755); // the rename tells when it isn't there
+    if (Posix::renameExclusively(Posix::native(path).constData(), aside.constData()))
+        return true;
+    qCWarning(lcPlatform, "Can't eject %s: %s", qUtf8Printable(path),
+              qUtf8Printable(Posix::reason(errno)));
+    return false;
+}
+
+/// Watches the folder, or the nearest one above it while it doesn't exist.
+void FolderVolumes::watch()
+{
+    QString nearest = nearestFolder(m_folder);
+    while (!m_watcher.directories().contains(nearest)) {
+        if (const QStringList old = m_watcher.directories(); !old.isEmpty())
+            m_watcher.removePaths(old);
+        if (!m_watcher.addPath(nearest)) {
+            qCWarning(lcPlatform, "Can't watch %s for volumes", qUtf8Printable(nearest));
+            return;
+        }
+        nearest = nearestFolder(m_folder); // it may have come or gone meanwhile
+    }
+}
+
+void FolderVolumes::rescan()
+{
+    watch();
+    const std::vector<Volume> now = scan();
+    const std::vector<Volume> before = std::exchange(m_known, now);
+    const auto isIn = [](const std::vector<Volume> &volumes, const Volume &volume) {
+        return std::ranges::find(volumes, volume) != volumes.end();
+    };
+    for (const Volume &volume : before) {
+        if (!isIn(now, volume))
+            Q_EMIT didUnmount(volume.path);
+    }
+    for (const Volume &volume : now) {
+        if (!isIn(before, volume))
+            Q_EMIT didMount(volume.path);
+    }
+}

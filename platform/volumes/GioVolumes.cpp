@@ -1,0 +1,276 @@
+#include "platform/volumes/own/GioVolumes.h"
+
+#include "platform/core/Log.h"
+#include "platform/core/MainThread.h"
+
+#include <gio/gio.h>
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// Owns one reference to a GObject.
+template <typename T>
+class Ref
+{
+public:
+    static Ref taking(T *object) { return Ref(object); }
+    static Ref sharing(T *object) { return Ref(static_cast<T *>(g_object_ref(object))); }
+
+    Ref() = default;
+    Ref(const Ref &other)
+        : m_object(other.m_object)
+    {
+        if (m_object)
+            g_object_ref(m_object);
+    }
+    Ref(Ref &&other) noexcept
+        : m_object(std::exchange(other.m_object, nullptr))
+    {
+    }
+    Ref &operator=(Ref other) noexcept
+    {
+        std::swap(m_object, other.m_object);
+        return *this;
+    }
+    ~Ref()
+    {
+        if (m_object)
+            g_object_unref(m_object);
+    }
+
+    T *get() const { return m_object; }
+    bool operator==(const Ref &) const = default;
+
+private:
+    explicit Ref(T *object)
+        : m_object(object)
+    {
+    }
+
+    T *m_object = nullptr;
+};
+
+struct Mounted
+{
+    QString path;
+    Ref<GMount> mount; // two mounts at one path, one after the other, are two objects
+
+    bool operator==(const Mounted &) const = default;
+};
+
+/// Empty where the mount has no local path, or one that is no UTF-8.
+QString localPath(GMount *mount)
+{
+    const auto root = Ref<GFile>::taking(g_mount_get_root(mount));
+    char *const bytes = g_file_get_path(root.get());
+    const QByteArray path(bytes);
+    g_free(bytes);
+    return path.isValidUtf8() ? QString::fromUtf8(path) : QString();
+}
+
+std::vector<Mounted> mountsOf(GVolumeMonitor *monitor)
+{
+    std::vector<Mounted> mounts;
+    GList *const list = g_volume_monitor_get_mounts(monitor);
+    for (GList *entry = list; entry; entry = entry->next) {
+        const auto mount = Ref<GMount>::taking(static_cast<GMount *>(entry->data));
+        const QString path = localPath(mount.get());
+        if (!path.isEmpty() && !g_mount_is_shadowed(mount.get()))
+            mounts.push_back({path, mount});
+    }
+    g_list_free(list);
+    return mounts;
+}
+
+/// Waits for GIO's asynchronous calls without serving any event loop but one of its own.
+class PrivateContext
+{
+public:
+    PrivateContext()
+        : m_context(g_main_context_new())
+    {
+        g_main_context_push_thread_default(m_context);
+    }
+    ~PrivateContext()
+    {
+        g_main_context_pop_thread_default(m_context);
+        g_main_context_unref(m_context);
+    }
+    PrivateContext(const PrivateContext &) = delete;
+    PrivateContext &operator=(const PrivateContext &) = delete;
+
+    void serveUntil(const bool &done)
+    {
+        while (!done)
+            g_main_context_iteration(m_context, TRUE);
+    }
+
+private:
+    GMainContext *const m_context;
+};
+
+/// One unmount or eject and what came of it.
+struct Ejection
+{
+    bool eject = false;
+    bool done = false;
+    bool success = false;
+    QString reason;
+
+    static void finished(GObject *object, GAsyncResult *result, gpointer data)
+    {
+        auto *self = static_cast<Ejection *>(data);
+        auto *mount = reinterpret_cast<GMount *>(object);
+        GError *error = nullptr;
+        self->success =
+            (self->eject ? g_mount_eject_with_operation_finish(mount, result, &error)
+                         : g_mount_unmount_with_operation_finish(mount, result, &error)) != FALSE;
+        if (error)
+            self->reason = QString::fromUtf8(error->message).trimmed();
+        g_clear_error(&error);
+        self->done = true;
+    }
+};
+
+/// No mount operation is passed: nobody could answer its questions, so a busy volume is refused.
+Ejection ejectAndWait(GMount *mount)
+{
+    Ejection ejection;
+    PrivateContext context;
+    ejection.eject = g_mount_can_eject(mount) != FALSE;
+    if (ejection.eject)
+        g_mount_eject_with_operation(mount, G_MOUNT_UNMOUNT_NONE, nullptr, nullptr,
+                                     Ejection::finished, &ejection);
+    else
+        g_mount_unmount_with_operation(mount, G_MOUNT_UNMOUNT_NONE, nullptr, nullptr,
+                                       Ejection::finished, &ejection);
+    context.serveUntil(ejection.done);
+    return ejection;
+}
+
+} // namespace
+
+class GioVolumes::Private
+{
+public:
+    explicit Private(GioVolumes *owner)
+        : m_owner(owner)
+        , m_monitor(Ref<GVolumeMonitor>::taking(g_volume_monitor_get()))
+        , m_mounts(mountsOf(m_monitor.get()))
+        , m_self(std::make_shared<Private *>(this))
+    {
+        for (const char *signal : {"mount-added", "mount-changed", "mount-removed"})
+            g_signal_connect(m_monitor.get(), signal, G_CALLBACK(mountsChanged), this);
+        g_signal_connect(m_monitor.get(), "mount-pre-unmount", G_CALLBACK(mountPreUnmount), this);
+    }
+
+    ~Private() { g_signal_handlers_disconnect_by_data(m_monitor.get(), this); }
+
+    Private(const Private &) = delete;
+    Private &operator=(const Private &) = delete;
+
+    std::vector<Mounted> mounts() const
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_mounts;
+    }
+
+    /// Compares with what was there before, so that each change is told once however many signals
+    /// it came with.
+    void rescan()
+    {
+        const std::vector<Mounted> now = mountsOf(m_monitor.get());
+        const std::vector<Mounted> before = exchangeMounts(now);
+        const auto isIn = [](const std::vector<Mounted> &mounts, const Mounted &mount) {
+            return std::ranges::find(mounts, mount) != mounts.end();
+        };
+        for (const Mounted &mount : before) {
+            if (!isIn(now, mount))
+                Q_EMIT m_owner->didUnmount(mount.path);
+        }
+        for (const Mounted &mount : now) {
+            if (!isIn(before, mount))
+                Q_EMIT m_owner->didMount(mount.path);
+        }
+    }
+
+    void queueRescan()
+    {
+        performOnMainThread(
+            [self = std::weak_ptr(m_self)] {
+                if (const auto alive = self.lock())
+                    (*alive)->rescan();
+            },
+            CallMode::DontWait);
+    }
+
+private:
+    std::vector<Mounted> exchangeMounts(const std::vector<Mounted> &now)
+    {
+        const std::scoped_lock lock(m_mutex);
+        return std::exchange(m_mounts, now);
+    }
+
+    static void mountsChanged(GVolumeMonitor *, GMount *, gpointer data)
+    {
+        auto *self = static_cast<Private *>(data);
+        if (isMainThread())
+            self->rescan();
+        else
+            self->queueRescan();
+    }
+
+    /// Comes on the thread that unmounts when that is one of our own.
+    static void mountPreUnmount(GVolumeMonitor *, GMount *mount, gpointer data)
+    {
+        const QString path = localPath(mount);
+        GioVolumes *const owner = static_cast<Private *>(data)->m_owner;
+        if (!path.isEmpty())
+            performOnMainThread([owner, &path] { Q_EMIT owner->willUnmount(path); },
+                                CallMode::Wait);
+    }
+
+    GioVolumes *const m_owner;
+    const Ref<GVolumeMonitor> m_monitor; // main thread
+
+    mutable std::mutex m_mutex; // guards what follows; held for a copy only
+    std::vector<Mounted> m_mounts;
+
+    const std::shared_ptr<Private *> m_self; // its weak copies tell late calls of our end
+};
+
+GioVolumes::GioVolumes(QObject *parent)
+    : Volumes(parent)
+    , d(std::make_unique<Private>(this))
+{
+}
+
+GioVolumes::~GioVolumes() = default;
+
+QStringList GioVolumes::mountedRemovableMedia() const
+{
+    QStringList paths;
+    for (const Mounted &mount : d->mounts())
+        paths.append(mount.path);
+    return paths;
+}
+
+bool GioVolumes::unmountAndEject(const QString &path)
+{
+    const std::vector<Mounted> mounts = d->mounts();
+    const auto found = std::ranges::find(mounts, path, &Mounted::path);
+    if (found == mounts.end()) {
+        qCWarning(lcPlatform, "Can't eject %s: no such volume", qUtf8Printable(path));
+        return false;
+    }
+    const Ejection ejection = ejectAndWait(found->mount.get());
+    if (!ejection.success)
+        qCWarning(lcPlatform, "Can't eject %s: %s", qUtf8Printable(path),
+                  qUtf8Printable(ejection.reason));
+    d->queueRescan();
+    return ejection.success;
+}

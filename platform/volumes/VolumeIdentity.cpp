@@ -1,0 +1,25 @@
+#include "platform/volumes/VolumeIdentity.h"
+
+#include "platform/core/own/Posix.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+std::optional<VolumeIdentity> VolumeIdentity::of(const QString &path)
+{
+    struct statx root = {};
+    const unsigned wanted = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
+    if (::statx(AT_FDCWD, Posix::native(path).constData(), 0, wanted, &root) != 0 ||
+        !S_ISDIR(root.stx_mode))
+        return std::nullopt;
+    VolumeIdentity identity;
+    identity.m_device = (std::uint64_t(root.stx_dev_major) << 32) | root.stx_dev_minor;
+    identity.m_inode = root.stx_ino;
+    if (root.stx_mask & STATX_MNT_ID)
+        identity.m_mount = root.stx_mnt_id;
+    if (root.stx_mask & STATX_BTIME) {
+        identity.m_birthSeconds = root.stx_btime.tv_sec;
+        identity.m_birthNanoseconds = root.stx_btime.tv_nsec;
+    }
+    return identity;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/volumes/VolumeIdentity.h"
+#include "platform/volumes/Volumes.h"
+
+#include <QFileSystemWatcher>
+
+#include <memory>
+#include <vector>
+
+/// Each folder directly inside one folder is a mounted removable volume, in byte order of names,
+/// hidden ones left out; a link to a folder counts as one. For emulators' memory-stick folders and
+/// for tests. Ejecting moves a volume to ".ejected/NAME" inside the folder, announced first; it is
+/// refused while that name is taken.
+class FolderVolumes : public Volumes
+{
+    Q_OBJECT
+public:
+    /// The folder is watched from now on, also when it is only made later. The volumes that are
+    /// there now are not announced.
+    explicit FolderVolumes(const QString &folder, QObject *parent = nullptr);
+
+    QStringList mountedRemovableMedia() const override;
+    bool unmountAndEject(const QString &path) override;
+
+private:
+    struct Volume
+    {
+        QString path;
+        VolumeIdentity identity;
+
+        bool operator==(const Volume &) const = default;
+    };
+
+    std::vector<Volume> scan() const;
+    bool moveAside(const QString &path) const;
+    void watch();
+    void rescan();
+
+    const QString m_folder;
+
+    // Main thread.
+    QFileSystemWatcher m_watcher;
+    std::vector<Volume> m_known;
+    const std::shared_ptr<FolderVolumes *> m_self; // its weak copies tell late calls of our end
+};

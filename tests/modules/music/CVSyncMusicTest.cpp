@@ -1,0 +1,291 @@
+#include "modules/music/CVSyncMusic.h"
+#include "support/MusicLibraryFile.h"
+#include "support/SyncHarness.h"
+#include "sync/SyncRun.h"
+#include "util/PathComponents.h"
+
+#include <QDir>
+
+#include <gmock/gmock.h>
+
+#include <plist/plist.h>
+
+namespace {
+
+using Library = MusicLibraryFile;
+
+QByteArray tags(const QString &name, const QString &artist, const QString &album, int disc = 1,
+                int track = 5)
+{
+    return Library::string("Name", name) + Library::string("Artist", artist) +
+           Library::string("Album", album) + Library::integer("Disc Number", disc) +
+           Library::integer("Track Number", track);
+}
+
+class CVSyncMusicTest : public testing::Test
+{
+protected:
+    SyncHarness harness;
+    Library library;
+
+    void SetUp() override
+    {
+        harness.mountStick();
+        select({QStringLiteral("Road Trip")});
+    }
+
+    QString libraryPath() const
+    {
+        return harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml"));
+    }
+    void select(const QStringList &names)
+    {
+        CVSyncMusic::setSelectedIdentifiers(names, harness.stick());
+    }
+    void set(const char *key, const QVariant &value)
+    {
+        harness.defaults.setObject(QString::fromLatin1(key), value);
+    }
+
+    std::vector<CVSyncItem> itemsOf(const QByteArray &file)
+    {
+        writeFile(libraryPath(), file);
+        SyncRun run(harness.manager, harness.stick());
+        return CVSyncMusic(&run).itemsToSync();
+    }
+    /// Destinations of everything that is to be synced, below the module's folder.
+    QStringList placesOf(const QByteArray &file)
+    {
+        QStringList places;
+        for (const CVSyncItem &item : itemsOf(file))
+            places.append(item.destination.mid(harness.stick(QStringLiteral("PSP/MUSIC/")).size()));
+        return places;
+    }
+    QStringList places() { return placesOf(library.contents()); }
+};
+
+} // namespace
+
+TEST_F(CVSyncMusicTest, NamesFilesByThePreferences)
+{
+    library.addFile(7, QStringLiteral("/music/x%20y.Mp3"),
+                    tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record")));
+    library.addFile(8, QStringLiteral("/music/b.m4a"), QByteArray());
+    library.addPlaylist(QStringLiteral("Road Trip"), {7, 8});
+    struct Case
+    {
+        int organize;
+        int sort;
+        const char *first;
+        const char *second;
+    };
+    const Case cases[] = {
+        {2, 2, "Record/105. Song.Mp3", "Unsorted/000. Untitled.MP4"},
+        {0, 2, "Road Trip/105. Band - Song.Mp3", "Road Trip/000. Unsorted - Untitled.MP4"},
+        {1, 1, "Band/Song.Mp3", "Unsorted/Untitled.MP4"},
+        {3, 0, "Band - Record/000. Song.Mp3", "Unsorted - Unsorted/001. Untitled.MP4"},
+        {99, 99, "Record/105. Song.Mp3", "Unsorted/000. Untitled.MP4"},
+    };
+    for (const Case &c : cases) {
+        set("organizeMusicBy", c.organize);
+        set("sortMusicBy", c.sort);
+        EXPECT_EQ(places(),
+                  (QStringList{QString::fromLatin1(c.first), QString::fromLatin1(c.second)}));
+    }
+    const auto items = itemsOf(library.contents());
+    EXPECT_EQ(items[0].source, QStringLiteral("/music/x y.Mp3"));
+    EXPECT_EQ(items[0].description, QStringLiteral("Record/105. Song"));
+}
+
+TEST_F(CVSyncMusicTest, NumbersWhatIsPlayableInEachSelectedPlaylist)
+{
+    const auto file = [](const char *path) {
+        return Library::string("Location",
+                               QStringLiteral("file://localhost/m/") + QString::fromLatin1(path));
+    };
+    const QByteArray isFile = Library::string("Track Type", QStringLiteral("File"));
+    library.addTrack(1, isFile + file("1.mp3"));
+    library.addTrack(2, isFile + file("2.m4a") +
+                            Library::string("Kind", QStringLiteral("Apple Lossless audio file")));
+    library.addTrack(3, Library::string("Track Type", QStringLiteral("URL")) + file("3.mp3"));
+    library.addTrack(4, file("4.mp3"));
+    library.addTrack(5, isFile);
+    library.addTrack(6, isFile + file("6.ogg"));
+    library.addTrack(7, isFile + Library::string("Location", QStringLiteral("https://host/7.mp3")));
+    library.addTrack(8, isFile + file("8.AAC"));
+    library.addTrack(9, isFile + file("9.wav"));
+    library.addTrack(10, isFile + file("%00.mp3"));
+    library.addPlaylist(QStringLiteral("Other"), {1});
+    library.addPlaylist(QStringLiteral("Road Trip"), {99, 1, 2, 3, 4, 5, 6, 7, 8, 10, 9});
+    library.addPlaylist(QStringLiteral("Road Trip"), {9});
+    set("organizeMusicBy", 0);
+    set("sortMusicBy", 0);
+    const QString name = QStringLiteral("Road Trip/%1. Unsorted - Untitled.%2");
+    EXPECT_EQ(places(), (QStringList{name.arg(QStringLiteral("000"), QStringLiteral("mp3")),
+                                     name.arg(QStringLiteral("002"), QStringLiteral("MP4")),
+                                     name.arg(QStringLiteral("004"), QStringLiteral("wav")),
+                                     name.arg(QStringLiteral("000"), QStringLiteral("wav"))}));
+    set("firmwareVersion", 0);
+    EXPECT_EQ(places(), QStringList{name.arg(QStringLiteral("000"), QStringLiteral("mp3"))});
+    select({});
+    EXPECT_TRUE(places().isEmpty());
+}
+
+TEST_F(CVSyncMusicTest, KeepsEveryNameInItsPlace)
+{
+    const QString accent = QStringLiteral("Cafe\u0301");
+    const QString emoji = QString::fromUtf8("\xF0\x9F\x8E\xB5");
+    struct Case
+    {
+        QString title;
+        QString place;
+    };
+    const Case cases[] = {
+        {QStringLiteral("AC/DC: Live?"), QStringLiteral("AC_DC_ Live_")},
+        {QString(), QStringLiteral("_")},
+        {QStringLiteral("."), QStringLiteral("_")},
+        {QStringLiteral(".."), QStringLiteral("._")},
+        {QStringLiteral(".. "), QStringLiteral("_")},
+        {QStringLiteral("../../x"), QStringLiteral(".._.._x")},
+        {QStringLiteral("a\tb"), QStringLiteral("a\tb")},
+        {QStringLiteral("Caf\u00e9"), accent},
+        {QString(300, u'n'), QString(251, u'n')},
+        {emoji.repeated(100), emoji.repeated(62)},
+        {accent.repeated(60), accent.repeated(41) + QStringLiteral("Cafe\u0301").left(3)},
+    };
+    set("organizeMusicBy", 1);
+    set("sortMusicBy", 1);
+    for (const Case &c : cases) {
+        Library one;
+        one.addFile(1, QStringLiteral("/m/1.mp3"), tags(c.title, c.title, QString()));
+        one.addPlaylist(QStringLiteral("Road Trip"), {1});
+        const QStringList found = placesOf(one.contents());
+        ASSERT_EQ(found.size(), 1) << qPrintable(c.title);
+        const QStringList components = found[0].split(u'/');
+        ASSERT_EQ(components.size(), 2) << qPrintable(found[0]);
+        EXPECT_EQ(components[1], c.place + QStringLiteral(".mp3")) << qPrintable(c.title);
+        for (const QString &component : components) {
+            EXPECT_LE(component.toUtf8().size(), PathComponents::maximumBytes);
+            EXPECT_NE(component, QStringLiteral(".."));
+            EXPECT_FALSE(component.isEmpty());
+        }
+    }
+}
+
+TEST_F(CVSyncMusicTest, AddsTheDropbox)
+{
+    const QString dropbox = harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Music/"));
+    writeFile(dropbox + QStringLiteral("Live/Set.M4A"), "set");
+    writeFile(dropbox + QStringLiteral("folder.mp3/inside.txt"), "not for the stick");
+    writeFile(dropbox + QStringLiteral("a.Mp3"), "a");
+    const auto items = itemsOf(library.contents());
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[0].source, dropbox + QStringLiteral("Live/Set.M4A"));
+    EXPECT_EQ(items[0].destination, harness.stick(QStringLiteral("PSP/MUSIC/Live/Set.MP4")));
+    EXPECT_EQ(items[0].description, QStringLiteral("Live/Set.M4A"));
+    EXPECT_EQ(items[1].destination, harness.stick(QStringLiteral("PSP/MUSIC/a.Mp3")));
+    set("syncDropboxes", false);
+    EXPECT_TRUE(places().isEmpty());
+}
+
+TEST_F(CVSyncMusicTest, SurvivesLibrariesThatAreBroken)
+{
+    library.addFile(1, QStringLiteral("/m/1.mp3"),
+                    tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record")));
+    library.addPlaylist(QStringLiteral("Road Trip"), {1});
+    const QByteArray good = library.contents();
+    writeFile(harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Music/drop.mp3")), "drop");
+    const QStringList dropboxOnly{QStringLiteral("drop.mp3")};
+
+    struct Case
+    {
+        const char *what;
+        QByteArray file;
+        const char *said;
+    };
+    const Case cases[] = {
+        {"empty", {}, "empty"},
+        {"truncated", good.left(good.size() / 2), "line 5"},
+        {"cut after the tracks", good.left(good.indexOf("<key>Playlists")), "line 7"},
+        {"not a list", "<html><body>\n</body></html>", "line 1"},
+        {"text", "iTunes", "line 1"},
+        {"an array", "<plist><array/></plist>", "no dictionary"},
+        {"broken binary", "bplist00garbage", "music library"},
+    };
+    for (const Case &c : cases) {
+        const SystemLogCapture log;
+        EXPECT_EQ(placesOf(c.file), dropboxOnly) << c.what;
+        EXPECT_TRUE(log.contains(libraryPath())) << c.what;
+        EXPECT_TRUE(log.contains(QString::fromLatin1(c.said)))
+            << c.what << qPrintable(log.lines().join(u'\n'));
+    }
+    const SystemLogCapture log;
+    QFile::remove(libraryPath());
+    EXPECT_FALSE(CVSyncMusic::availableIdentifiers());
+    EXPECT_TRUE(log.lines().isEmpty()) << "no library is nothing to speak of";
+}
+
+TEST_F(CVSyncMusicTest, PassesOverValuesOfAWrongType)
+{
+    library.addFile(1, QStringLiteral("/m/1.mp3"),
+                    tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record")));
+    library.addFile(2, QStringLiteral("/m/2.mp3"),
+                    "<key>Name</key><dict><key>x</key><string>y</string></dict><key>Artist</"
+                    "key><integer>5</integer>"
+                    "<key>Album</key><array><string>z</string></array><key>Track "
+                    "Number</key><string>7</string>");
+    library.addTrack(3, "<key>Track Type</key><true/><key>Location</key><data>AAAA</data>");
+    library.addRawPlaylist("<key>Name</key><array/><key>Playlist Items</key><dict/>");
+    library.addRawPlaylist(Library::string("Name", QStringLiteral("Road Trip")) +
+                           "<key>Playlist Items</key><array><string>1</string><dict><key>Track "
+                           "ID</key><string>1</string></dict>"
+                           "<dict><key>Track ID</key><integer>2</integer></dict><array/><dict/>"
+                           "<dict><key>Track ID</key><integer>1</integer></dict></array>");
+    const QStringList expected{QStringLiteral("Unsorted/000. Untitled.mp3"),
+                               QStringLiteral("Record/105. Song.mp3")};
+    EXPECT_EQ(places(), expected);
+    for (const char *root :
+         {"<key>Tracks</key><array><dict/></array>", "<key>Playlists</key><string>none</string>"})
+        EXPECT_TRUE(placesOf("<plist><dict>" + QByteArray(root) + "</dict></plist>").isEmpty());
+
+    // The same library in its binary form.
+    const QByteArray xml = library.contents();
+    plist_t list = nullptr;
+    plist_from_xml(xml.constData(), static_cast<uint32_t>(xml.size()), &list);
+    ASSERT_NE(list, nullptr);
+    char *bytes = nullptr;
+    uint32_t length = 0;
+    plist_to_bin(list, &bytes, &length);
+    EXPECT_EQ(placesOf(QByteArray(bytes, length)), expected);
+    free(bytes);
+    plist_free(list);
+}
+
+TEST_F(CVSyncMusicTest, SyncsThroughAPretendedRun)
+{
+    SyncHarness run(ModuleFactory{.music = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncMusic>(delegate);
+    }});
+    run.mountStick();
+    writeFile(run.folder / QStringLiteral("m/1.mp3"), "one");
+    QDir().mkpath(run.folder / QStringLiteral("m/2.mp3"));
+    Library mixed;
+    const QByteArray names =
+        tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record"));
+    mixed.addFile(1, run.folder / QStringLiteral("m/1.mp3"), names);
+    mixed.addFile(2, run.folder / QStringLiteral("m/2.mp3"),
+                  tags(QStringLiteral("A folder"), QString(), QString()));
+    mixed.addFile(3, run.folder / QStringLiteral("m/missing.mp3"),
+                  tags(QStringLiteral("Missing"), QString(), QString()));
+    mixed.addPlaylist(QStringLiteral("Road Trip"), {1, 2, 3, 1});
+    writeFile(run.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")), mixed.contents());
+    CVSyncMusic::setSelectedIdentifiers({QStringLiteral("Road Trip")}, run.stick());
+    ASSERT_TRUE(run.run());
+    EXPECT_TRUE(treeOf(run.stick(QStringLiteral("PSP/MUSIC")))
+                    .contains(QStringLiteral("Record/105. Song.mp3")));
+    EXPECT_TRUE(treeOf(run.stick(QStringLiteral("PSP/MUSIC")))
+                    .contains(QStringLiteral("Record/105. Song.1.mp3")));
+    EXPECT_TRUE(run.run());
+    EXPECT_EQ(run.delegate.events.filter(QStringLiteral("syncWillProcessItem")).size(), 0)
+        << "all is in place";
+}

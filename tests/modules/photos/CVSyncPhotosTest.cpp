@@ -1,0 +1,161 @@
+#include "modules/photos/CVSyncPhotos.h"
+
+#include "support/PhotoLibraryFile.h"
+#include "support/SyncHarness.h"
+#include "sync/SyncRun.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList list(std::initializer_list<const char *> texts)
+{
+    QStringList result;
+    for (const char *text : texts)
+        result.append(QString::fromUtf8(text));
+    return result;
+}
+
+class CVSyncPhotosTest : public testing::Test
+{
+protected:
+    SyncHarness harness{ModuleFactory{.photos = [](CVSyncModuleDelegate *delegate) {
+        return std::make_unique<CVSyncPhotos>(delegate);
+    }}};
+    PhotoLibraryFile library;
+    const QString defaultPlace =
+        harness.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml"));
+
+    void SetUp() override
+    {
+        harness.mountStick();
+        select(list({"Holiday", "Trip / 2006"}));
+    }
+
+    void select(const QStringList &names) const
+    {
+        CVSyncPhotos::setSelectedIdentifiers(names, harness.stick());
+    }
+    void set(const char *key, const QVariant &value)
+    {
+        harness.defaults.setObject(QString::fromLatin1(key), value);
+    }
+    void addImage(const char *key, const char *path, std::optional<QString> caption)
+    {
+        library.addImage(QString::fromLatin1(key), QString::fromUtf8(path), caption);
+    }
+    /// "place on the stick < source" of everything that is to be synced.
+    QStringList items()
+    {
+        SyncRun run(harness.manager, harness.stick());
+        QStringList lines;
+        for (const CVSyncItem &item : CVSyncPhotos(&run).itemsToSync())
+            lines.append(item.destination.mid(harness.stick(QStringLiteral("PSP/PHOTO/")).size()) +
+                         QStringLiteral(" < ") + item.source.section(u'/', -1));
+        return lines;
+    }
+};
+
+} // namespace
+
+TEST_F(CVSyncPhotosTest, NamesPicturesByTheirCaptions)
+{
+    addImage("1", "/pics/a.jpeg", QStringLiteral("Beach"));
+    addImage("2", "/pics/b.JPG", QStringLiteral("IMG_0001"));
+    addImage("3", "/pics/film.mov", QStringLiteral("Film"));
+    addImage("4", "/pics/c.Png", QStringLiteral("a/b: \"c\"?"));
+    addImage("5", "/pics/no caption.gif", std::nullopt);
+    addImage("6", "relative.jpg", QStringLiteral("Relative"));
+    library.addRawImage(QStringLiteral("7"),
+                        QVariantMap{{QStringLiteral("Caption"), QStringLiteral("No path")}});
+    library.addRawImage(QStringLiteral("8"), QStringLiteral("no image"));
+    library.addAlbum(QStringLiteral("Holiday"), list({"1", "3", "99", "4", "5", "6", "7", "8"}));
+    library.addAlbum(QStringLiteral("Unwanted"), list({"1"}));
+    library.addAlbum(QStringLiteral("Trip / 2006"), list({"2", "1"}));
+    library.addRawAlbum(QStringLiteral("no album"));
+    library.addRawAlbum(QVariantMap{{QStringLiteral("AlbumName"), 5}});
+    writeFile(defaultPlace, library.contents());
+    EXPECT_EQ(items(),
+              list({"Holiday/Beach.jpeg < a.jpeg", "Holiday/a_b_ 'c'_.Png < c.Png",
+                    "Holiday/no caption.gif < no caption.gif", "Trip _ 2006/IMG_0001.JPG < b.JPG",
+                    "Trip _ 2006/Beach.jpeg < a.jpeg"}));
+    set("sortPhotosBy", 1);
+    set("firmwareVersion", 0);
+    EXPECT_EQ(items(),
+              list({"Holiday/000. Beach.jpeg < a.jpeg", "Trip _ 2006/000. IMG_0001.JPG < b.JPG",
+                    "Trip _ 2006/001. Beach.jpeg < a.jpeg"}));
+    set("firmwareVersion", 1);
+    EXPECT_EQ(items().mid(0, 3),
+              list({"Holiday/000. Beach.jpeg < a.jpeg", "Holiday/003. a_b_ 'c'_.Png < c.Png",
+                    "Holiday/004. no caption.gif < no caption.gif"}))
+        << "what is skipped takes a number";
+
+    const auto albums = CVSyncPhotos::availableIdentifiers();
+    ASSERT_TRUE(albums);
+    ASSERT_EQ(albums->size(), 4U);
+    EXPECT_EQ((*albums)[0].size, 8);
+    EXPECT_FALSE((*albums)[3].name);
+}
+
+TEST_F(CVSyncPhotosTest, FindsTheLibraryAndTheDropbox)
+{
+    EXPECT_FALSE(CVSyncPhotos::availableIdentifiers());
+    addImage("1", "/pics/a.jpg", QStringLiteral("default"));
+    library.addAlbum(QStringLiteral("Holiday"), list({"1"}));
+    writeFile(defaultPlace, library.contents());
+    const QString own = harness.home(QStringLiteral("Own Place"));
+    harness.defaults.editPersistentDomain(QStringLiteral("com.apple.iPhoto"),
+                                          [&own](QVariantMap &domain) {
+                                              domain.insert(QStringLiteral("RootDirectory"), own);
+                                              return true;
+                                          });
+    EXPECT_EQ(items(), list({"Holiday/default.jpg < a.jpg"})) << "nothing lies in the own place";
+    addImage("1", "/pics/b.jpg", QStringLiteral("own"));
+    writeFile(harness.home(QStringLiteral("elsewhere.xml")), library.contents());
+    writeFile(own + QStringLiteral("/x"), {});
+    ASSERT_TRUE(QFile::link(harness.home(QStringLiteral("elsewhere.xml")),
+                            own + QStringLiteral("/AlbumData.xml")));
+    EXPECT_EQ(items(), list({"Holiday/own.jpg < b.jpg"}));
+
+    for (const char *name : {"Cards/front.png", "back.JPEG", "notes.txt", "x.jpg/y.bmp"})
+        writeFile(harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Photos/") +
+                               QString::fromUtf8(name)),
+                  "dropped");
+    select({});
+    EXPECT_EQ(items(), list({"Cards/front.png < front.png", "back.JPEG < back.JPEG",
+                             "x.jpg/y.bmp < y.bmp"}));
+    set("firmwareVersion", 0);
+    EXPECT_EQ(items(), list({"back.JPEG < back.JPEG"}));
+    set("syncDropboxes", false);
+    EXPECT_TRUE(items().isEmpty());
+}
+
+TEST_F(CVSyncPhotosTest, SyncsEqualCaptionsApartAndSurvivesABrokenLibrary)
+{
+    for (const char *name : {"one.jpg", "two.jpg"}) {
+        writeFile(harness.home(QString::fromUtf8(name)), name);
+        library.addImage(QString::fromUtf8(name), harness.home(QString::fromUtf8(name)),
+                         QStringLiteral("Same"));
+    }
+    library.addAlbum(QStringLiteral("Holiday"), list({"one.jpg", "two.jpg"}));
+    writeFile(defaultPlace, library.contents());
+    writeFile(harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Photos/d.jpg")), "d");
+    ASSERT_TRUE(harness.run());
+    const QString photos = harness.stick(QStringLiteral("PSP/PHOTO"));
+    EXPECT_EQ(treeOf(photos),
+              list({"Holiday/", "Holiday/Same.1.jpg", "Holiday/Same.jpg", "d.jpg"}));
+    EXPECT_EQ(readFile(photos + QStringLiteral("/Holiday/Same.1.jpg")), "two.jpg");
+
+    const QByteArray good = library.contents();
+    for (const QByteArray &bad :
+         {good.chopped(30), QByteArray(good).replace("<array>", "<arroy>"), QByteArray("garbage"),
+          PropertyList::toXml(QVariantList{1}), QByteArray()}) {
+        writeFile(defaultPlace, bad);
+        const SystemLogCapture log;
+        EXPECT_EQ(items(), list({"d.jpg < d.jpg"})) << bad.constData();
+        EXPECT_FALSE(CVSyncPhotos::availableIdentifiers());
+        EXPECT_TRUE(log.contains(defaultPlace)) << bad.constData();
+    }
+}
