@@ -16,7 +16,8 @@
 #include "platform/files/FileManager.h"
 #include "platform/lists/UserDefaults.h"
 #include "util/FileManagerTools.h"
-#include "util/Preferences.h"
+#include "util/Folders.h"
+#include "util/Settings.h"
 #include "util/StringTools.h"
 #include "util/TextFormat.h"
 
@@ -152,7 +153,7 @@ void CaravelHelperController::changeStartOnLogin()
         return;
     m_services.clock.sleep(storeDelay);
     UserDefaults::standard().synchronize();
-    const bool startOnLogin = UserDefaults::standard().boolForKey(QStringLiteral("startOnLogin"));
+    const bool startOnLogin = Settings::startOnLogin();
     m_menu.update();
     if (startOnLogin)
         m_icon.show(m_menu.menu());
@@ -174,15 +175,15 @@ void CaravelHelperController::removeLeftovers()
 
 void CaravelHelperController::createFolders()
 {
-    FileManagerTools::createPath(Preferences::supportFolder());
-    FileManagerTools::createPath(Preferences::documentsFolder());
+    FileManagerTools::createPath(Folders::support());
+    FileManagerTools::createPath(Folders::documents());
     for (const char *name : {"Music", "Photos", "Movies"})
-        FileManagerTools::createPath(Preferences::dropboxFolder(QString::fromLatin1(name)));
+        FileManagerTools::createPath(Folders::dropbox(QString::fromLatin1(name)));
 }
 
 void CaravelHelperController::logDetail(const QString &message)
 {
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         m_logger.log(message);
 }
 
@@ -217,7 +218,7 @@ void CaravelHelperController::frontEndIsGone()
 {
     logDetail(QStringLiteral("Caravel front-end has quit."));
     m_frontEnd.disconnect();
-    if (!UserDefaults::standard().boolForKey(QStringLiteral("startOnLogin")))
+    if (!Settings::startOnLogin())
         requestQuit();
 }
 

@@ -2,7 +2,7 @@
 
 #include "platform/bus/DistributedNotificationCenter.h"
 #include "platform/lists/UserDefaults.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 namespace PrefsController {
 
@@ -24,7 +24,7 @@ void prefsChanged(DistributedNotificationCenter &center)
 void initialize(DistributedNotificationCenter &center)
 {
     UserDefaults &defaults = UserDefaults::standard();
-    defaults.registerDefaults(Preferences::registeredDefaults());
+    defaults.registerDefaults(Settings::registeredDefaults());
     QObject::connect(&defaults, &UserDefaults::changed, &center,
                      [&center] { prefsChanged(center); });
 }

@@ -11,18 +11,13 @@
 #include "sync/CVSyncItem.h"
 #include "sync/CVSyncManager.h"
 #include "util/FileManagerTools.h"
-#include "util/Preferences.h"
 #include "util/QMLogger.h"
+#include "util/Settings.h"
 #include "util/TextFormat.h"
 
 #include <utility>
 
 namespace {
-
-bool preference(const char *key)
-{
-    return UserDefaults::standard().boolForKey(QString::fromLatin1(key));
-}
 
 QString size(std::optional<quint64> bytes)
 {
@@ -60,14 +55,14 @@ void SyncStatus::setStatusText(const QString &text)
 {
     m_statusText = text;
     m_services.menu.setStatusText(text);
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         m_services.logger.log(text);
 }
 
 void SyncStatus::setStatusSubText(const QString &text)
 {
     m_statusSubText = text;
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         m_services.logger.log(text);
 }
 
@@ -86,7 +81,7 @@ void SyncStatus::notifyUserInterface()
 
 QString SyncStatus::lastSyncText() const
 {
-    const auto lastSync = UserDefaults::standard().dateForKey(QStringLiteral("lastSync"));
+    const auto lastSync = Settings::lastSync();
     return filled(localized("Last Sync: %@"), {relativeDate(lastSync, m_services.clock.now())});
 }
 
@@ -103,12 +98,11 @@ void SyncStatus::doAlert(const QString &title, const QString &message, AlertStyl
 void SyncStatus::pspDidMount(const QString &)
 {
     m_services.icon.pspDidMount();
-    const bool syncedBefore =
-        UserDefaults::standard().dateForKey(QStringLiteral("lastSync")).has_value();
+    const bool syncedBefore = Settings::lastSync().has_value();
     show(filled(localized("%@ Available"), {size(m_services.manager.pspFreeSpace())}),
          syncedBefore ? lastSyncText() : localized("Click \"Sync Now\" to perform a sync."));
     m_services.frontEnd.pspDidMount();
-    if (preference("openOnMount"))
+    if (Settings::openOnMount())
         m_services.openFrontEnd();
 }
 
@@ -121,7 +115,7 @@ void SyncStatus::pspDidUnmount()
 
 void SyncStatus::foundUnformattedMemoryStick()
 {
-    if (!preference("warnAboutUnformattedMemorySticks"))
+    if (!Settings::warnAboutUnformattedMemorySticks())
         return;
     doAlert(
         localized("Unformatted memory stick found!"),
@@ -133,7 +127,7 @@ void SyncStatus::foundUnformattedMemoryStick()
 
 bool SyncStatus::shouldSyncOnMount()
 {
-    return !m_isInteractive && !preference("useSyncProfiles");
+    return !m_isInteractive && !Settings::useSyncProfiles();
 }
 
 bool SyncStatus::shouldUnmountPSP()
@@ -249,13 +243,13 @@ void SyncStatus::syncDidFinish(bool completed)
     m_services.icon.stopSyncAnimation();
     m_services.frontEnd.updateSyncBytes();
     m_services.frontEnd.syncDidFinish(completed);
-    const bool brief = !Preferences::useDetailedLogging();
+    const bool brief = !Settings::useDetailedLogging();
     if (completed) {
         if (brief)
             m_services.logger.log(QStringLiteral("Sync was completed successfully."));
         setStatusText(localized("Sync Successful"));
         setStatusSubText(lastSyncText());
-        if (preference("playSyncCompletionSound"))
+        if (Settings::playSyncCompletionSound())
             m_services.sounds.play(QStringLiteral("SyncCompleted"));
     } else {
         if (brief)
@@ -270,12 +264,10 @@ void SyncStatus::syncDidFinish(bool completed)
 
 void SyncStatus::newSyncBytesEstimate(quint64 bytes)
 {
-    if (Preferences::useDetailedLogging()) {
-        const UserDefaults &defaults = UserDefaults::standard();
+    if (Settings::useDetailedLogging()) {
         qCInfo(lcApp).noquote() << filled(
             QStringLiteral("Got %@, last sync size = %@, last stick size = %@"),
-            {size(bytes), size(defaults.unsignedForKey(QStringLiteral("lastSyncSize"))),
-             size(defaults.unsignedForKey(QStringLiteral("lastStickSize")))});
+            {size(bytes), size(Settings::lastSyncSize()), size(Settings::lastStickSize())});
     }
     m_services.frontEnd.updateSyncBytesEstimate();
 }

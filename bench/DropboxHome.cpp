@@ -1,4 +1,5 @@
 #include "DropboxHome.h"
+#include "util/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,8 +19,8 @@ DropboxHome::DropboxHome(const Shape &shape)
     : m_shape(shape)
     , m_helper(m_folder.path())
 {
-    m_helper.defaults.setObject(QStringLiteral("syncOnMount"), false);
-    m_helper.defaults.setObject(QStringLiteral("firmwareVersion"), 0);
+    Settings::syncOnMount.set(false);
+    Settings::firmwareVersion.set(0);
     fill(shape);
     QDir().mkpath(volume());
     if (shape.image > 0)
@@ -72,7 +73,7 @@ void DropboxHome::emptyStick() const
 
 void DropboxHome::select(bool everything)
 {
-    m_helper.defaults.setObject(QStringLiteral("syncDropboxes"), everything);
+    Settings::syncDropboxes.set(everything);
 }
 
 void DropboxHome::sync()

@@ -5,7 +5,7 @@
 #include "modules/music/CVSyncMusic.h"
 #include "platform/lists/UserDefaults.h"
 #include "sync/CVSyncModuleDelegate.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -101,7 +101,7 @@ struct LibraryHome
         writeLibrary(library);
         qputenv("HOME", folder.path().toUtf8());
         UserDefaults::setStandard(&defaults);
-        defaults.registerDefaults(Preferences::registeredDefaults());
+        defaults.registerDefaults(Settings::registeredDefaults());
         QStringList everything;
         for (int i = 0; i < playlistCount; ++i)
             everything.append(QStringLiteral("Playlist %1").arg(i));

@@ -5,7 +5,7 @@
 #include "platform/bus/DistributedNotificationCenter.h"
 #include "platform/bus/NamedConnection.h"
 #include "platform/lists/UserDefaults.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <QLocale>
 
@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // The stored value in the type of its default, as every reader sees it.
-QVariant valueOf(const Preferences::Key &key)
+QVariant valueOf(const Settings::Key &key)
 {
     const UserDefaults &store = UserDefaults::standard();
     switch (key.defaultValue.typeId()) {
@@ -31,7 +31,7 @@ QVariant valueOf(const Preferences::Key &key)
     }
 }
 
-bool isDefault(const Preferences::Key &key)
+bool isDefault(const Settings::Key &key)
 {
     return valueOf(key).toString() == key.defaultValue.toString();
 }
@@ -47,24 +47,25 @@ QString shown(const QVariant &value)
     return value.toString();
 }
 
-const Preferences::Key *findKey(const QString &name)
+const Settings::Key *findKey(const QString &name)
 {
-    const auto &keys = Preferences::keys();
+    const auto &keys = Settings::keys();
     const auto found = std::find_if(keys.begin(), keys.end(),
-                                    [&](const Preferences::Key &key) { return key.name == name; });
+                                    [&](const Settings::Key &key) { return key.name == name; });
     return found == keys.end() ? nullptr : &*found;
 }
 
 // Kept by the helper, without a default: shown, never set here.
 bool isReadOnlyKey(const QString &name)
 {
-    static const QStringList keys = {
-        QStringLiteral("lastSync"),         QStringLiteral("enabledMusic"),
-        QStringLiteral("enabledPhotos"),    QStringLiteral("enabledMovies"),
-        QStringLiteral("enabledBookmarks"), QStringLiteral("enabledBackup"),
-        QStringLiteral("enabledContacts"),
+    static const QStringList saveNames = {
+        QStringLiteral("Music"),     QStringLiteral("Photos"), QStringLiteral("Movies"),
+        QStringLiteral("Bookmarks"), QStringLiteral("Backup"), QStringLiteral("Contacts"),
     };
-    return keys.contains(name);
+    return name == Settings::lastSync.name ||
+           std::any_of(saveNames.begin(), saveNames.end(), [&](const QString &saveName) {
+               return name == Settings::selectionKey(saveName);
+           });
 }
 
 QJsonObject entry(const QVariant &value, bool isDefaultValue)
@@ -76,7 +77,7 @@ QJsonObject entry(const QVariant &value, bool isDefaultValue)
 ExitStatus showAll(bool json)
 {
     QJsonObject object;
-    for (const Preferences::Key &key : Preferences::keys()) {
+    for (const Settings::Key &key : Settings::keys()) {
         object.insert(key.name, entry(valueOf(key), isDefault(key)));
         const QString mark = isDefault(key) ? QStringLiteral("  (default)") : QString();
         if (!json)
@@ -89,7 +90,7 @@ ExitStatus showAll(bool json)
 
 ExitStatus showOne(const QString &name, bool json)
 {
-    const Preferences::Key *key = findKey(name);
+    const Settings::Key *key = findKey(name);
     const QVariant value = key ? valueOf(*key) : UserDefaults::standard().object(name);
     const bool usesDefault = key ? isDefault(*key) : !value.isValid();
     if (json)
@@ -106,7 +107,7 @@ void tellOthers(const QString &name)
         return;
     DistributedNotificationCenter::defaultCenter().post(
         QStringLiteral("CVPrefsDidChangeNotification"));
-    if (name == u"startOnLogin") {
+    if (name == Settings::startOnLogin.name) {
         RemoteObject helper(HelperClient::service(), QStringLiteral("/CaravelHelper"),
                             QStringLiteral("org.caravel.CaravelHelperProtocol"));
         helper.send(QStringLiteral("changeStartOnLogin"));
@@ -128,7 +129,7 @@ QString expected(const QVariant &defaultValue)
 
 ExitStatus setOne(const QString &name, const QString &text)
 {
-    const Preferences::Key *key = findKey(name);
+    const Settings::Key *key = findKey(name);
     if (!key) {
         Output::error(QStringLiteral("%1 is kept by the helper and can't be set").arg(name));
         return Refused;
@@ -178,7 +179,7 @@ std::optional<QVariant> parsePreference(const QString &text, const QVariant &def
 
 ExitStatus runPrefs(const QStringList &keyAndValue, bool json)
 {
-    UserDefaults::standard().registerDefaults(Preferences::registeredDefaults());
+    UserDefaults::standard().registerDefaults(Settings::registeredDefaults());
     if (keyAndValue.isEmpty())
         return showAll(json);
     const QString &name = keyAndValue.first();

@@ -7,7 +7,7 @@
 #include "platform/people/AddressBook.h"
 #include "support/FakeDesktop.h"
 #include "support/SyncHarness.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <QCoreApplication>
 
@@ -232,7 +232,7 @@ void serve(FuzzedDataProvider &input)
     UserDefaults defaults(QStringLiteral("org.caravel.Caravel"),
                           home / (user + QStringLiteral("/Library/Preferences")));
     UserDefaults::setStandard(&defaults);
-    defaults.registerDefaults(Preferences::registeredDefaults());
+    defaults.registerDefaults(Settings::registeredDefaults());
     FakeVolumes volumes;
     FakeNotifications notifications;
     FakeClock clock;
@@ -243,8 +243,8 @@ void serve(FuzzedDataProvider &input)
         CaravelHelperController controller(
             {volumes, notifications, clock, statusBar, alerts, sounds,
              Bundle(home / QStringLiteral("programs/Caravel/Contents/Helpers/CaravelHelper"))});
-        defaults.setObject(QStringLiteral("syncOnMount"), false);
-        defaults.setObject(QStringLiteral("useSyncProfiles"), input.ConsumeBool());
+        Settings::syncOnMount.set(false);
+        Settings::useSyncProfiles.set(input.ConsumeBool());
         if (input.ConsumeBool())
             volumes.mount(home / stick);
         Caller(controller, input).callAll();

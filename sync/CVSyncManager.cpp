@@ -4,6 +4,7 @@
 #include "platform/lists/NumberArchive.h"
 #include "platform/lists/UserDefaults.h"
 #include "sync/StickFiles.h"
+#include "util/Settings.h"
 
 #include <utility>
 
@@ -11,11 +12,6 @@ namespace {
 
 // An archive of one number takes some eighty bytes; what is much longer is none.
 constexpr quint64 archiveLimit = 4096;
-
-QVariant asVariant(std::optional<quint64> number)
-{
-    return number ? QVariant::fromValue(*number) : QVariant();
-}
 
 } // namespace
 
@@ -82,7 +78,7 @@ bool CVSyncManager::takeAsPSP(const QString &volume)
         return false;
     setPSPVolume(volume);
     setPSPIsMounted(true);
-    UserDefaults::standard().setObject(QStringLiteral("lastFreeSpace"), asVariant(pspFreeSpace()));
+    Settings::lastFreeSpace.set(pspFreeSpace());
     readLastSyncSize(volume);
     return true;
 }
@@ -95,7 +91,7 @@ void CVSyncManager::readLastSyncSize(const QString &volume)
     std::optional<quint64> size;
     if (const auto archive = files.readFile(StickFiles::lastSyncSize(volume), archiveLimit))
         size = NumberArchive::decode(*archive);
-    UserDefaults::standard().setObject(QStringLiteral("lastSyncSize"), asVariant(size));
+    Settings::lastSyncSize.set(size);
 }
 
 void CVSyncManager::setPSPIsMounted(bool mounted)
@@ -108,9 +104,8 @@ void CVSyncManager::setPSPIsMounted(bool mounted)
     }
     tell([volume = pspVolume()](CVSyncManagerDelegate &delegate) { delegate.pspDidMount(volume); });
     // Preferences that can't be read hold a selection that isn't known: a sync would remove it.
-    const UserDefaults &defaults = UserDefaults::standard();
-    if (defaults.boolForKey(QStringLiteral("syncOnMount")) && defaults.isReadable() &&
-        pspIsMounted() && !isFirstSync() && m_delegate->shouldSyncOnMount())
+    if (Settings::syncOnMount() && UserDefaults::standard().isReadable() && pspIsMounted() &&
+        !isFirstSync() && m_delegate->shouldSyncOnMount())
         sync();
 }
 

@@ -1,7 +1,7 @@
 #include "sync/CVSyncManager.h"
 
-#include "platform/lists/UserDefaults.h"
 #include "sync/SyncRun.h"
+#include "util/Settings.h"
 
 void CVSyncManager::refreshSyncBytesEstimate()
 {
@@ -18,7 +18,7 @@ void CVSyncManager::_refreshSyncBytesEstimate()
     add(estimate, m_modules.music);
     add(estimate, m_modules.photos);
     add(estimate, m_modules.movies);
-    if (UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion")) > 0) {
+    if (Settings::firmwareVersion() > 0) {
         add(estimate, m_modules.bookmarks);
         add(estimate, m_modules.contacts);
     }
@@ -34,12 +34,8 @@ void CVSyncManager::_refreshSyncBytesEstimate()
 
 quint32 CVSyncManager::syncPercentEstimate()
 {
-    const UserDefaults &defaults = UserDefaults::standard();
-    const quint64 free = pspIsMounted() ? pspFreeSpace().value_or(0)
-                                        : defaults.unsignedForKey(QStringLiteral("lastFreeSpace"));
-    const double room =
-        static_cast<double>(free) +
-        static_cast<double>(defaults.unsignedForKey(QStringLiteral("lastSyncSize")));
+    const quint64 free = pspIsMounted() ? pspFreeSpace().value_or(0) : Settings::lastFreeSpace();
+    const double room = static_cast<double>(free) + static_cast<double>(Settings::lastSyncSize());
     if (room <= 0)
         return 0;
     const double percent = static_cast<double>(m_syncBytesEstimate) / room * 100;

@@ -5,12 +5,11 @@
 
 #include "platform/files/FileManager.h"
 #include "platform/lists/NumberArchive.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/DeviceIcon.h"
 #include "sync/Log.h"
 #include "sync/StickFiles.h"
 #include "sync/SyncRun.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <algorithm>
 
@@ -112,13 +111,12 @@ void CVSyncManager::pauseBeforeRun()
 
 void CVSyncManager::createModules(SyncRun &run)
 {
-    const UserDefaults &defaults = UserDefaults::standard();
     add(run, m_modules.music);
     add(run, m_modules.photos);
     add(run, m_modules.movies);
-    if (defaults.boolForKey(QStringLiteral("syncBackup")))
+    if (Settings::syncBackup())
         add(run, m_modules.backup);
-    if (defaults.integerForKey(QStringLiteral("firmwareVersion")) > 0) {
+    if (Settings::firmwareVersion() > 0) {
         add(run, m_modules.bookmarks);
         add(run, m_modules.contacts);
     }
@@ -208,12 +206,11 @@ void CVSyncManager::recordSizes(SyncRun &run)
             m_syncBytesTotal - std::min<quint64>(m_syncBytes, m_syncBytesTotal);
         size -= std::min(notCopied, size);
     }
-    UserDefaults &defaults = UserDefaults::standard();
-    defaults.setObject(QStringLiteral("lastSyncSize"), QVariant::fromValue(size));
+    Settings::lastSyncSize.set(size);
     // Of a stick that is gone the last known free space is still the best guess.
     if (run.pspVolumeIsPresent()) {
         if (const auto space = files().volumeSpace(run.pspVolume()))
-            defaults.setObject(QStringLiteral("lastFreeSpace"), QVariant::fromValue(space->free));
+            Settings::lastFreeSpace.set(space->free);
         const QString path = StickFiles::lastSyncSize(run.pspVolume());
         QString reason;
         if (!files().writeAtomically(path, NumberArchive::encode(size), &reason))
@@ -225,9 +222,7 @@ void CVSyncManager::recordSizes(SyncRun &run)
 
 void CVSyncManager::ejectAfterRun(SyncRun &run)
 {
-    if (!m_shouldCancelSync &&
-        UserDefaults::standard().boolForKey(QStringLiteral("unmountAfterSync")) &&
-        m_delegate->shouldUnmountPSP())
+    if (!m_shouldCancelSync && Settings::unmountAfterSync() && m_delegate->shouldUnmountPSP())
         eject(run.pspVolume());
 }
 
@@ -236,7 +231,7 @@ void CVSyncManager::finishRun()
     setRunVolume({});
     const bool completed = endRun();
     if (completed)
-        UserDefaults::standard().setObject(QStringLiteral("lastSync"), m_services.clock.now());
+        Settings::lastSync.set(m_services.clock.now());
     tell([completed](CVSyncManagerDelegate &delegate) { delegate.syncDidFinish(completed); });
 }
 
@@ -271,7 +266,7 @@ void CVSyncManager::setIcon(SyncRun &run)
 {
     if (!pspIsMounted() || !run.pspVolumeIsPresent())
         return;
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         qCInfo(lcSync) << "Setting PSP device icon...";
     DeviceIcon::set(run.pspVolume(), m_services.resourceFolder, m_services.clock.now().date());
 }

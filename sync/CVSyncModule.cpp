@@ -1,13 +1,12 @@
 #include "sync/CVSyncModule.h"
 
 #include "platform/lists/PropertyList.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
 #include "sync/StickFiles.h"
 #include "util/FileManagerTools.h"
 #include "util/PathComponents.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <QHash>
 
@@ -61,7 +60,7 @@ void CVSyncModule::prepare(bool filter)
 {
     m_syncQueue.clear();
     m_syncIndex.clear();
-    if (UserDefaults::standard().boolForKey(QStringLiteral("sync") + m_saveName))
+    if (Settings::takesPart(m_saveName))
         m_syncQueue =
             fixDuplicateDestinations(itemsToSync(), m_delegate->pspVolumeTellsCaseApart());
     m_syncEstimateSize = calculateFileSizes();
@@ -128,7 +127,7 @@ void CVSyncModule::collectSyncedFiles()
 
 void CVSyncModule::filterQueue()
 {
-    m_logsInDetail = Preferences::useDetailedLogging();
+    m_logsInDetail = Settings::useDetailedLogging();
     size_t kept = 0;
     for (size_t i = 0; i < m_syncQueue.size(); ++i) {
         if (!shouldCopy(m_syncQueue[i], m_measured[i]))
@@ -222,7 +221,7 @@ struct CVSyncModule::CleanUp
 
 void CVSyncModule::cleanUp()
 {
-    cleanUp(rootSyncFolder(), !UserDefaults::standard().boolForKey(QStringLiteral("ownOnly")));
+    cleanUp(rootSyncFolder(), !Settings::ownOnly());
 }
 
 void CVSyncModule::cleanUp(const QString &folder, bool ownOnly)
@@ -273,7 +272,7 @@ void CVSyncModule::removeDuringCleanUp(CleanUp &pass, size_t entry, const QStrin
     if (!m_delegate->pspVolumeIsPresent())
         return;
     const FolderEntry &found = pass.entries[entry];
-    if (Preferences::useDetailedLogging()) {
+    if (Settings::useDetailedLogging()) {
         const bool unsynced = !found.isFolder && shouldClearUnsyncedFiles() &&
                               !m_allSyncedFiles.contains(comparable(path));
         qCInfo(lcSync).noquote() << QStringLiteral("Removing file %1... %2 %3")

@@ -2,18 +2,13 @@
 
 #include "platform/files/FileManager.h"
 #include "platform/lists/PropertyList.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "sync/StickFiles.h"
+#include "util/Settings.h"
 
 namespace ModuleSelection {
 
 namespace {
-
-QString preferenceKey(const QString &moduleSaveName)
-{
-    return QStringLiteral("enabled") + moduleSaveName;
-}
 
 bool hasProfiles(const QString &volume)
 {
@@ -40,22 +35,21 @@ bool replaceIn(std::optional<QStringList> &selection, const QString &before, con
 
 std::optional<QStringList> read(const QString &moduleSaveName, const QString &volume)
 {
-    const UserDefaults &defaults = UserDefaults::standard();
-    if (!volume.isEmpty() && defaults.boolForKey(QStringLiteral("useSyncProfiles"))) {
+    if (!volume.isEmpty() && Settings::useSyncProfiles()) {
         // A profile that can't be read must not count as "nothing selected": that would clear the
         // stick.
         if (auto profile =
                 PropertyList::readStringArray(StickFiles::selectionProfile(volume, moduleSaveName)))
             return profile;
     }
-    return defaults.stringArrayForKey(preferenceKey(moduleSaveName));
+    return Settings::selection(moduleSaveName);
 }
 
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume)
 {
     if (hasProfiles(volume))
         storeProfile(identifiers, StickFiles::selectionProfile(volume, moduleSaveName));
-    UserDefaults::standard().setObject(preferenceKey(moduleSaveName), identifiers);
+    Settings::setSelection(moduleSaveName, identifiers);
 }
 
 void rename(const QString &identifier, const QString &newIdentifier, const QString &moduleSaveName,
@@ -67,9 +61,9 @@ void rename(const QString &identifier, const QString &newIdentifier, const QStri
         if (replaceIn(selection, identifier, newIdentifier))
             storeProfile(*selection, profile);
     }
-    auto selection = UserDefaults::standard().stringArrayForKey(preferenceKey(moduleSaveName));
+    auto selection = Settings::selection(moduleSaveName);
     if (replaceIn(selection, identifier, newIdentifier))
-        UserDefaults::standard().setObject(preferenceKey(moduleSaveName), *selection);
+        Settings::setSelection(moduleSaveName, *selection);
 }
 
 } // namespace ModuleSelection

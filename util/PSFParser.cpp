@@ -2,7 +2,7 @@
 
 #include "platform/files/FileManager.h"
 #include "util/Log.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <QStringDecoder>
 
@@ -134,7 +134,7 @@ QMap<QString, QString> readEntries(const Bytes &file)
 
 void logDetail(const QString &text)
 {
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         qCInfo(lcUtil).noquote() << text;
 }
 

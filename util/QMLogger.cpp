@@ -2,7 +2,7 @@
 
 #include "platform/core/MainThread.h"
 #include "util/Log.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 #include "util/TextFormat.h"
 
 #include <QDateTime>
@@ -21,7 +21,7 @@ QString timeStamp()
 
 void QMLogger::log(const QString &message)
 {
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         qCInfo(lcUtil).noquote() << message;
     const QString line = timeStamp() + QStringLiteral(" : ") + message + u'\n';
     m_log += line;

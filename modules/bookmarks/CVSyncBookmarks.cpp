@@ -5,31 +5,25 @@
 #include "modules/bookmarks/own/OmniWebBookmarks.h"
 #include "modules/bookmarks/own/SafariBookmarks.h"
 #include "platform/core/Localized.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
-#include "util/Preferences.h"
+#include "util/Folders.h"
+#include "util/Settings.h"
 
 namespace {
 
-// Values of "bookmarkSource".
-enum class Source : qint64 { Safari = 0, Firefox = 1, OmniWeb = 2, Camino = 3 };
-
-Source chosenSource()
-{
-    return Source(UserDefaults::standard().integerForKey(QStringLiteral("bookmarkSource")));
-}
+using Settings::BookmarkBrowser;
 
 QString progressText()
 {
-    switch (chosenSource()) {
-    case Source::Safari:
+    switch (Settings::bookmarkSource()) {
+    case BookmarkBrowser::Safari:
         return localized("Syncing Safari Bookmarks...");
-    case Source::Firefox:
+    case BookmarkBrowser::Firefox:
         return localized("Syncing Firefox Bookmarks...");
-    case Source::OmniWeb:
+    case BookmarkBrowser::OmniWeb:
         return localized("Syncing OmniWeb Bookmarks...");
-    case Source::Camino:
+    case BookmarkBrowser::Camino:
         return localized("Syncing Camino Bookmarks...");
     }
     return {};
@@ -68,14 +62,14 @@ QString CVSyncBookmarks::saveName()
 
 std::vector<BookmarkFolder> CVSyncBookmarks::availableIdentifiers()
 {
-    switch (chosenSource()) {
-    case Source::Safari:
+    switch (Settings::bookmarkSource()) {
+    case BookmarkBrowser::Safari:
         return readSafariBookmarks();
-    case Source::Firefox:
+    case BookmarkBrowser::Firefox:
         return parseFirefoxBookmarks();
-    case Source::OmniWeb:
+    case BookmarkBrowser::OmniWeb:
         return parseOmniWebBookmarks();
-    case Source::Camino:
+    case BookmarkBrowser::Camino:
         return parseCaminoBookmarks();
     }
     return {};
@@ -109,7 +103,7 @@ bool CVSyncBookmarks::shouldClearUnsyncedFiles() const
 std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
 {
     const QString name = QStringLiteral("/bookmarks.html");
-    const QString staged = Preferences::supportFolder() + name;
+    const QString staged = Folders::support() + name;
     const QByteArray lines = bookmarkLines();
     QString reason;
     if (!FileManager::defaultManager().writeAtomically(staged, header + lines + "</DL><p>",
@@ -123,7 +117,7 @@ std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
 QByteArray CVSyncBookmarks::bookmarkLines() const
 {
     QByteArray lines;
-    if (UserDefaults::standard().boolForKey(QStringLiteral("syncContacts")))
+    if (Settings::syncContacts())
         lines += lineFor({QStringLiteral("Caravel Contacts"),
                           QStringLiteral("file:///Caravel/Contacts/index.html")});
     for (const BookmarkFolder &folder : availableIdentifiers()) {

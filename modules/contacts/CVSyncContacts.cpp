@@ -4,7 +4,7 @@
 #include "platform/core/Localized.h"
 #include "platform/people/ContactPicture.h"
 #include "sync/Log.h"
-#include "util/Preferences.h"
+#include "util/Folders.h"
 #include "util/QMMD5Hasher.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ FileManager &files()
 
 QString staged(const QString &name)
 {
-    return Preferences::supportFolder() + u'/' + name;
+    return Folders::support() + u'/' + name;
 }
 
 void sayNotWritten(const QString &path, const QString &reason)

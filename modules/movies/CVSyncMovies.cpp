@@ -1,12 +1,12 @@
 #include "modules/movies/CVSyncMovies.h"
 
 #include "platform/core/Localized.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
 #include "util/FileManagerTools.h"
+#include "util/Folders.h"
 #include "util/PathComponents.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <map>
 
@@ -16,12 +16,12 @@ constexpr int highestId = 99999;
 
 QString libraryRoot()
 {
-    return Preferences::documentsFolder() + QStringLiteral("/Movies");
+    return Folders::documents() + QStringLiteral("/Movies");
 }
 
 QString dropbox()
 {
-    return Preferences::dropboxFolder(QStringLiteral("Movies"));
+    return Folders::dropbox(QStringLiteral("Movies"));
 }
 
 FileManager &files()
@@ -62,8 +62,7 @@ bool moveReported(const QString &source, const QString &destination)
 // A free name in the support folder: what an earlier movie of that title left there stays.
 QString keptFile(const QString &title, const QString &ending)
 {
-    const QString path =
-        Preferences::supportFolder() + u'/' + PathComponents::safe(title, ending) + ending;
+    const QString path = Folders::support() + u'/' + PathComponents::safe(title, ending) + ending;
     QString free = path;
     for (int number = 1; files().linkStatus(free).exists(); ++number)
         free = PathComponents::numbered(path, number);
@@ -145,7 +144,7 @@ QString CVSyncMovies::fileOf(const QString &identifier, const QString &ending)
 
 QString CVSyncMovies::convertedFile(const QString &ending)
 {
-    return Preferences::supportFolder() + QStringLiteral("/CONVERT") + ending;
+    return Folders::support() + QStringLiteral("/CONVERT") + ending;
 }
 
 std::optional<QString> CVSyncMovies::moveConvertedMovieNamed(const QString &title)
@@ -229,7 +228,7 @@ std::vector<CVSyncItem> CVSyncMovies::itemsToSync()
 {
     std::vector<CVSyncItem> items;
     addLibraryItems(items);
-    if (UserDefaults::standard().boolForKey(QStringLiteral("syncDropboxes")))
+    if (Settings::syncDropboxes())
         addDropboxItems(items);
     return items;
 }

@@ -4,13 +4,13 @@
 #include "platform/core/Clock.h"
 #include "platform/core/Localized.h"
 #include "platform/desktop/Sounds.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/CVSyncManager.h"
 #include "sync/Log.h"
 #include "util/FileManagerTools.h"
+#include "util/Folders.h"
 #include "util/PathComponents.h"
-#include "util/Preferences.h"
 #include "util/QMLogger.h"
+#include "util/Settings.h"
 #include "util/TextFormat.h"
 
 #include <QSet>
@@ -50,24 +50,19 @@ QString titleOf(const QString &path)
 /// The converter's twelve arguments.
 QStringList argumentsFor(const QString &source)
 {
-    const UserDefaults &defaults = UserDefaults::standard();
-    const auto number = [&](const char *key) {
-        return QString::number(defaults.integerForKey(QString::fromLatin1(key)));
-    };
-    const auto flag = [&](const char *key) {
-        return defaults.boolForKey(QString::fromLatin1(key)) ? QStringLiteral("1")
-                                                             : QStringLiteral("0");
+    const auto flag = [](bool isOn) {
+        return isOn ? QStringLiteral("1") : QStringLiteral("0");
     };
     return {source,
             titleOf(source),
             CVSyncMovies::convertedFile(QStringLiteral(".MP4")),
             CVSyncMovies::convertedFile(QStringLiteral(".THM")),
-            number("movieConvertVideoResolution"),
-            number("movieConvertVideoQuality"),
-            number("movieConvertAudioQuality"),
-            flag("useQuickTime"),
-            flag("deinterlace"),
-            number("volumeBoost"),
+            QString::number(Settings::movieConvertVideoResolution()),
+            QString::number(Settings::movieConvertVideoQuality()),
+            QString::number(Settings::movieConvertAudioQuality()),
+            flag(Settings::useQuickTime()),
+            flag(Settings::deinterlace()),
+            QString::number(Settings::volumeBoost()),
             QStringLiteral("0"),
             QString()};
 }
@@ -199,7 +194,7 @@ void MovieQueue::removeMovieItem(const QVariantMap &row)
         return;
     }
     const QString identifier = row.value(identifierKey).toString();
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         m_services.logger.log(QStringLiteral("Deleting movie %@... "), identifier);
     CVSyncMovies::deleteMovieWithIdentifier(identifier);
 }
@@ -240,9 +235,7 @@ void MovieQueue::queueRanEmpty()
     m_movieQueueTimer.stop();
     m_services.sounds.play(QStringLiteral("ConvertCompleted"));
     CVSyncManager &manager = m_services.manager;
-    if (manager.pspIsMounted() &&
-        UserDefaults::standard().boolForKey(QStringLiteral("syncOnMount")) &&
-        !manager.isFirstSync())
+    if (manager.pspIsMounted() && Settings::syncOnMount() && !manager.isFirstSync())
         manager.sync();
 }
 
@@ -250,11 +243,10 @@ void MovieQueue::startHead()
 {
     QVariantMap &head = m_moviesQueue.first();
     const QString source = head.value(identifierKey).toString();
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         qCInfo(lcModules).noquote()
             << QStringLiteral("Starting conversion of movie '%1'...").arg(source);
-    m_progress = ConversionProgress(
-        UserDefaults::standard().integerForKey(QStringLiteral("movieConvertVideoQuality")));
+    m_progress = ConversionProgress(Settings::movieConvertVideoQuality());
     m_movieQueueDidAbort = false;
     // What an interrupted conversion left must not pass for this one's result.
     for (const QString &ending : {QStringLiteral(".MP4"), QStringLiteral(".THM")}) {
@@ -274,7 +266,7 @@ void MovieQueue::startHead()
 
 void MovieQueue::movieConversionOutput(const QByteArray &chunk)
 {
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         qCInfo(lcModules).noquote() << QString::fromUtf8(chunk);
     if (m_progress.take(chunk))
         m_percentConverted = m_progress.text();
@@ -299,7 +291,7 @@ void MovieQueue::movieConversionCompleted(int exitStatus, const QString &error)
 void MovieQueue::storeConverted(QVariantMap &row)
 {
     const QString name = row.value(nameKey).toString();
-    if (Preferences::useDetailedLogging())
+    if (Settings::useDetailedLogging())
         m_services.logger.log(QStringLiteral("Movie conversion completed: %@"), name);
     const auto identifier = CVSyncMovies::moveConvertedMovieNamed(name);
     if (!identifier) {
@@ -307,7 +299,7 @@ void MovieQueue::storeConverted(QVariantMap &row)
             localized("Movie could not be stored!"),
             filled(localized("The movie \"%@\" was converted, but there is no place for it in the "
                              "movie library. It is kept in the folder %@."),
-                   {name, Preferences::supportFolder()}));
+                   {name, Folders::support()}));
         return;
     }
     if (row.value(enabledKey).toBool())

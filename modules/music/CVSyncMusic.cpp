@@ -2,13 +2,13 @@
 
 #include "modules/music/own/MusicNaming.h"
 #include "platform/core/Localized.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
 #include "util/FileManagerTools.h"
 #include "util/FileUrl.h"
+#include "util/Folders.h"
 #include "util/PathComponents.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 #include "util/StringTools.h"
 
 #include <utility>
@@ -23,12 +23,7 @@ QString libraryPath()
 
 QString dropbox()
 {
-    return Preferences::dropboxFolder(QStringLiteral("Music"));
-}
-
-qint64 firmwareVersion()
-{
-    return UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion"));
+    return Folders::dropbox(QStringLiteral("Music"));
 }
 
 bool isPlayable(const MusicLibrary::Track &track, qint64 firmware)
@@ -91,7 +86,7 @@ std::vector<CVSyncItem> CVSyncMusic::itemsToSync()
 {
     std::vector<CVSyncItem> items;
     addLibraryItems(items);
-    if (UserDefaults::standard().boolForKey(QStringLiteral("syncDropboxes")))
+    if (Settings::syncDropboxes())
         addDropboxItems(items);
     return items;
 }
@@ -101,12 +96,10 @@ void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items) const
     const auto library = MusicLibrary::read(libraryPath(), MusicLibrary::Part::Everything);
     if (!library)
         return;
-    const UserDefaults &defaults = UserDefaults::standard();
-    const bool detailed = Preferences::useDetailedLogging();
-    const qint64 firmware = firmwareVersion();
+    const bool detailed = Settings::useDetailedLogging();
+    const qint64 firmware = Settings::firmwareVersion();
     const QString root = rootSyncFolder() + u'/';
-    MusicNaming naming(defaults.integerForKey(QStringLiteral("organizeMusicBy")),
-                       defaults.integerForKey(QStringLiteral("sortMusicBy")));
+    MusicNaming naming(Settings::organizeMusicBy(), Settings::sortMusicBy());
     for (const MusicLibrary::Playlist &playlist : library->playlists()) {
         const QString name = playlist.name.value_or(QString());
         if (detailed)
@@ -141,7 +134,7 @@ void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items) const
 
 void CVSyncMusic::addDropboxItems(std::vector<CVSyncItem> &items) const
 {
-    const qint64 firmware = firmwareVersion();
+    const qint64 firmware = Settings::firmwareVersion();
     const QString from = dropbox() + u'/';
     const QString root = rootSyncFolder() + u'/';
     for (const FolderEntry &entry : FileManager::defaultManager().subpaths(dropbox())) {

@@ -2,8 +2,12 @@
 
 #include "util/FileManagerTools.h"
 #include "util/PathComponents.h"
+#include "util/Settings.h"
 
 #include <algorithm>
+
+using Settings::MusicFolders;
+using Settings::MusicPrefix;
 
 namespace {
 
@@ -33,9 +37,9 @@ bool isOneOf(QStringView extension, std::initializer_list<QStringView> known)
 
 } // namespace
 
-MusicNaming::MusicNaming(qint64 organizeBy, qint64 sortBy)
-    : m_organizeBy(organizeBy)
-    , m_sortBy(sortBy)
+MusicNaming::MusicNaming(MusicFolders folders, MusicPrefix prefix)
+    : m_folders(folders)
+    , m_prefix(prefix)
     , m_unsorted{QStringLiteral("Unsorted"), QStringLiteral("Unsorted")}
 {
 }
@@ -63,12 +67,12 @@ const MusicNaming::Name &MusicNaming::nameOf(const MusicLibrary::Text &text)
 
 QString MusicNaming::folder(const MusicLibrary::Track &track)
 {
-    switch (m_organizeBy) {
-    case Playlist:
+    switch (m_folders) {
+    case MusicFolders::Playlist:
         return m_playlist;
-    case Artist:
+    case MusicFolders::Artist:
         return nameOf(track.artist).folder;
-    case ArtistAndAlbum:
+    case MusicFolders::ArtistAndAlbum:
         return PathComponents::safe(nameOf(track.artist).sanitized + QStringLiteral(" - ") +
                                     nameOf(track.album).sanitized);
     default:
@@ -78,9 +82,9 @@ QString MusicNaming::folder(const MusicLibrary::Track &track)
 
 void MusicNaming::appendPrefix(QString &file, const MusicLibrary::Track &track, int position) const
 {
-    if (m_sortBy == Nothing)
+    if (m_prefix == MusicPrefix::Nothing)
         return;
-    if (m_sortBy == Position) {
+    if (m_prefix == MusicPrefix::Position) {
         appendPadded(file, position, 3);
     } else {
         appendPadded(file, track.discNumber, 1);
@@ -95,7 +99,7 @@ QString MusicNaming::relativePath(const MusicLibrary::Track &track, int position
     QString file;
     file.reserve(64);
     appendPrefix(file, track, position);
-    if (m_organizeBy == Playlist)
+    if (m_folders == MusicFolders::Playlist)
         file.append(nameOf(track.artist).sanitized).append(QStringLiteral(" - "));
     file += track.name ? FileManagerTools::makeFilename(toQString(*track.name))
                        : QStringLiteral("Untitled");

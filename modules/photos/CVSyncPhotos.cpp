@@ -4,16 +4,15 @@
 #include "platform/lists/UserDefaults.h"
 #include "sync/ModuleSelection.h"
 #include "util/FileManagerTools.h"
+#include "util/Folders.h"
 #include "util/PathComponents.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 #include "util/StringTools.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
-
-constexpr qint64 numberedByAlbum = 1; // of "sortPhotosBy"
 
 // Where iPhoto itself says that its library lies, else where it lies by default.
 QString libraryPath()
@@ -34,12 +33,7 @@ QString libraryPath()
 
 QString dropbox()
 {
-    return Preferences::dropboxFolder(QStringLiteral("Photos"));
-}
-
-qint64 firmwareVersion()
-{
-    return UserDefaults::standard().integerForKey(QStringLiteral("firmwareVersion"));
+    return Folders::dropbox(QStringLiteral("Photos"));
 }
 
 bool isShown(QStringView extension, qint64 firmware)
@@ -110,7 +104,7 @@ std::vector<CVSyncItem> CVSyncPhotos::itemsToSync()
 {
     std::vector<CVSyncItem> items;
     addAlbumItems(items);
-    if (UserDefaults::standard().boolForKey(QStringLiteral("syncDropboxes")))
+    if (Settings::syncDropboxes())
         addDropboxItems(items);
     return items;
 }
@@ -129,11 +123,10 @@ void CVSyncPhotos::addAlbumItems(std::vector<CVSyncItem> &items) const
 void CVSyncPhotos::addAlbum(const PhotoLibrary &library, const PhotoLibrary::Album &album,
                             std::vector<CVSyncItem> &items) const
 {
-    const bool numbered =
-        UserDefaults::standard().integerForKey(QStringLiteral("sortPhotosBy")) == numberedByAlbum;
+    const bool numbered = Settings::sortPhotosBy() == Settings::PhotoPrefix::Position;
     const QString folder = PathComponents::safe(FileManagerTools::makeFilename(*album.name));
     const QString root = rootSyncFolder() + u'/';
-    const qint64 firmware = firmwareVersion();
+    const qint64 firmware = Settings::firmwareVersion();
     int position = 0;
     for (const QString &key : album.keys) {
         // What the PSP can't show has its number all the same.
@@ -157,7 +150,7 @@ void CVSyncPhotos::addDropboxItems(std::vector<CVSyncItem> &items) const
 {
     const QString from = dropbox() + u'/';
     const QString root = rootSyncFolder() + u'/';
-    const qint64 firmware = firmwareVersion();
+    const qint64 firmware = Settings::firmwareVersion();
     for (const FolderEntry &entry : FileManager::defaultManager().subpaths(dropbox())) {
         if (!entry.isFolder && isShown(PathComponents::extensionOf(entry.path), firmware))
             items.emplace_back(from + entry.path, root + entry.path, entry.path);

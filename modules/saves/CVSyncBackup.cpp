@@ -2,10 +2,10 @@
 
 #include "platform/core/Clock.h"
 #include "platform/core/Localized.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/Log.h"
 #include "util/FileManagerTools.h"
-#include "util/Preferences.h"
+#include "util/Folders.h"
+#include "util/Settings.h"
 
 #include <algorithm>
 
@@ -18,7 +18,7 @@ FileManager &files()
 
 QString backupFolder()
 {
-    return Preferences::documentsFolder() + QStringLiteral("/Backup");
+    return Folders::documents() + QStringLiteral("/Backup");
 }
 
 QString backupRoot()
@@ -205,7 +205,7 @@ void CVSyncBackup::cleanUp()
     removeLeftovers(pspVolume()); // of a restore that was interrupted
     cleanUp(pspVolume() + QStringLiteral("/PSP/GAME"), false);
     cleanUp(savedataFolder(pspVolume()), false);
-    if (UserDefaults::standard().integerForKey(QStringLiteral("backupsToKeep")) >= 1)
+    if (Settings::backupsToKeep() >= 1)
         removeOldBackups();
 }
 
@@ -213,7 +213,7 @@ void CVSyncBackup::removeOldBackups()
 {
     // The run may add one more.
     constexpr qsizetype kept[] = {9, 24, 49};
-    const qint64 choice = UserDefaults::standard().integerForKey(QStringLiteral("backupsToKeep"));
+    const qint64 choice = Settings::backupsToKeep();
     if (choice > static_cast<qint64>(std::size(kept)))
         return;
     Errors errors;

@@ -2,6 +2,7 @@
 
 #include "support/FatImage.h"
 #include "support/HelperHarness.h"
+#include "util/Settings.h"
 
 #include <gmock/gmock.h>
 
@@ -32,8 +33,8 @@ protected:
             GTEST_SKIP() << "skipped: exFAT can't be mounted here";
         writeFile(helper.stick() + QStringLiteral("/MEMSTICK.IND"), {});
         writeFile(onStick(QStringLiteral("Old/gone.mp3")), "old");
-        helper.defaults.setObject(QStringLiteral("syncOnMount"), false);
-        helper.defaults.setObject(QStringLiteral("firmwareVersion"), 0); // music alone matters
+        Settings::syncOnMount.set(false);
+        Settings::firmwareVersion.set(0); // music alone matters
         for (int i = 0; i < few; ++i)
             kept[QStringLiteral("Few/%1.mp3").arg(i)] = contents(i);
         for (const auto &[path, bytes] : kept)

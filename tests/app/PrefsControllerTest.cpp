@@ -3,7 +3,8 @@
 #include "platform/lists/PropertyList.h"
 #include "platform/lists/UserDefaults.h"
 #include "support/SyncHarness.h"
-#include "util/Preferences.h"
+#include "util/Folders.h"
+#include "util/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +29,7 @@ protected:
 
 TEST_F(PrefsControllerTest, InstallsEveryDefaultWithoutWritingIt)
 {
-    EXPECT_EQ(Preferences::keys().size(), 32U);
+    EXPECT_EQ(Settings::keys().size(), 32U);
     EXPECT_EQ(defaults.unsignedForKey(QStringLiteral("lastFreeSpace")), 490943283U);
     EXPECT_EQ(defaults.stringForKey(QStringLiteral("CaravelFolder")),
               QStringLiteral("~/Documents"));
@@ -37,7 +38,7 @@ TEST_F(PrefsControllerTest, InstallsEveryDefaultWithoutWritingIt)
     EXPECT_FALSE(defaults.stringArrayForKey(QStringLiteral("enabledMusic")));
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(readFile(folder / QStringLiteral("shared.plist")), QByteArray());
-    EXPECT_EQ(Preferences::documentsFolder(),
+    EXPECT_EQ(Folders::documents(),
               qEnvironmentVariable("HOME") + QStringLiteral("/Documents/Caravel"));
 }
 

@@ -8,6 +8,7 @@
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
 #include "util/QMLogger.h"
+#include "util/Settings.h"
 
 #include <gmock/gmock.h>
 
@@ -91,7 +92,7 @@ TEST_F(SyncStatusTest, FollowsTheDeviceAndTheRun)
     EXPECT_EQ(messages(), list({"Sync was completed successfully."}));
     EXPECT_EQ(sounds.played, list({"SyncCompleted"}));
 
-    harness.defaults.setObject(QStringLiteral("openOnMount"), true);
+    Settings::openOnMount.set(true);
     harness.volumes.unmount(harness.stick());
     EXPECT_EQ(status.statusText(), QStringLiteral("No PSP Connected"));
     EXPECT_EQ(status.statusSubText(), QStringLiteral("Connect a PSP to perform a sync."));
@@ -106,7 +107,7 @@ TEST_F(SyncStatusTest, FollowsTheDeviceAndTheRun)
 TEST_F(SyncStatusTest, LogsEveryTextWhenAskedTo)
 {
     harness.mountStick();
-    harness.defaults.setObject(QStringLiteral("useDetailedLogging"), true);
+    Settings::useDetailedLogging.set(true);
     const SystemLogCapture quiet;
     run();
     EXPECT_EQ(messages(),
@@ -163,16 +164,16 @@ TEST_F(SyncStatusTest, AnswersTheManagersQuestions)
 {
     EXPECT_TRUE(status.shouldSyncOnMount());
     EXPECT_TRUE(status.shouldUnmountPSP());
-    harness.defaults.setObject(QStringLiteral("useSyncProfiles"), true);
+    Settings::useSyncProfiles.set(true);
     EXPECT_FALSE(status.shouldSyncOnMount());
     EXPECT_TRUE(status.shouldUnmountPSP());
-    harness.defaults.setObject(QStringLiteral("useSyncProfiles"), false);
+    Settings::useSyncProfiles.set(false);
     status.setIsInteractive(true);
     EXPECT_FALSE(status.shouldSyncOnMount());
     EXPECT_FALSE(status.shouldUnmountPSP());
 
     status.foundUnformattedMemoryStick();
-    harness.defaults.setObject(QStringLiteral("warnAboutUnformattedMemorySticks"), false);
+    Settings::warnAboutUnformattedMemorySticks.set(false);
     status.foundUnformattedMemoryStick();
     EXPECT_EQ(alerts.titles, list({"Unformatted memory stick found!"}));
 }

@@ -5,6 +5,7 @@
 #include "support/FatImage.h"
 #include "support/MusicLibraryFile.h"
 #include "support/SyncHarness.h"
+#include "util/Settings.h"
 
 #include <QFile>
 
@@ -28,7 +29,7 @@ protected:
         if (!image.mount(harness.stick()))
             GTEST_SKIP() << "skipped: exFAT can't be mounted here";
         harness.mountStick();
-        harness.defaults.setObject(QStringLiteral("sortMusicBy"), 1);
+        Settings::sortMusicBy.set(Settings::MusicPrefix::Nothing);
     }
     void TearDown() override { harness.settle(); }
 

@@ -4,7 +4,7 @@
 #include "platform/core/MainThread.h"
 #include "support/FakeDesktop.h"
 #include "support/SyncHarness.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <QCoreApplication>
 
@@ -20,7 +20,7 @@ public:
     {
         qputenv("HOME", (place + QStringLiteral("/home")).toUtf8());
         UserDefaults::setStandard(&defaults);
-        defaults.registerDefaults(Preferences::registeredDefaults());
+        defaults.registerDefaults(Settings::registeredDefaults());
         helper = std::make_unique<CaravelHelperController>(CaravelHelperController::Services{
             volumes, notifications, clock, statusBar, alerts, sounds,
             Bundle(place + QStringLiteral("/Caravel/Contents/Helpers/CaravelHelper"))});

@@ -3,7 +3,7 @@
 #include "platform/core/MainThread.h"
 #include "platform/lists/NumberArchive.h"
 #include "platform/lists/PropertyList.h"
-#include "util/Preferences.h"
+#include "util/Settings.h"
 
 #include <QDir>
 
@@ -150,7 +150,7 @@ SyncHarness::SyncHarness(ModuleFactory modules, const QString &place)
     QDir().mkpath(folder / QStringLiteral("home"));
     qputenv("HOME", (folder / QStringLiteral("home")).toUtf8());
     UserDefaults::setStandard(&defaults);
-    defaults.registerDefaults(Preferences::registeredDefaults());
+    defaults.registerDefaults(Settings::registeredDefaults());
     manager.setDelegate(&delegate);
 }
 
@@ -173,7 +173,7 @@ void SyncHarness::mountStick(bool syncedBefore)
     QDir().mkpath(stick(QStringLiteral("PSP")));
     if (syncedBefore)
         QDir().mkpath(stick(QStringLiteral(".caravel")));
-    defaults.setObject(QStringLiteral("syncOnMount"), false);
+    Settings::syncOnMount.set(false);
     volumes.mount(stick());
 }
 

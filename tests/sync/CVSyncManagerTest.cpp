@@ -7,6 +7,7 @@
 #include "support/SyncHarness.h"
 #include "sync/DeviceIcon.h"
 #include "sync/ModuleSelection.h"
+#include "util/Settings.h"
 
 #include <QDir>
 #include <QScopeGuard>
@@ -120,20 +121,18 @@ TEST(Detection, ReadsTheStickItsSizes)
     const auto restore = qScopeGuard([] { FileManager::setDefaultManager(nullptr); });
     for (const Case &c : cases) {
         SyncHarness harness;
-        harness.defaults.setObject(QStringLiteral("lastSyncSize"), 7);
+        Settings::lastSyncSize.set(7);
         if (c.archive)
             writeFile(lastSyncSizePath(harness), *c.archive);
         harness.mountStick();
-        EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastSyncSize")), c.expected)
-            << c.what;
-        EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastFreeSpace")), 12345U);
+        EXPECT_EQ(Settings::lastSyncSize(), c.expected) << c.what;
+        EXPECT_EQ(Settings::lastFreeSpace(), 12345U);
     }
     SyncHarness fresh;
-    fresh.defaults.setObject(QStringLiteral("lastSyncSize"), 7);
+    Settings::lastSyncSize.set(7);
     fresh.mountStick(false);
     EXPECT_TRUE(fresh.manager.isFirstSync());
-    EXPECT_EQ(fresh.defaults.unsignedForKey(QStringLiteral("lastSyncSize")), 7U)
-        << "a stick that was never synced says nothing";
+    EXPECT_EQ(Settings::lastSyncSize(), 7U) << "a stick that was never synced says nothing";
 }
 
 TEST(SyncOnMount, AsksOnlyForSticksThatWereSyncedBefore)
@@ -145,7 +144,7 @@ TEST(SyncOnMount, AsksOnlyForSticksThatWereSyncedBefore)
             harness.volumes.unmount(harness.stick());
             harness.delegate.events.clear();
             harness.delegate.answerSyncOnMount = wanted;
-            harness.defaults.setObject(QStringLiteral("syncOnMount"), true);
+            Settings::syncOnMount.set(true);
             harness.volumes.mount(harness.stick());
             const bool asked =
                 harness.delegate.events.contains(QStringLiteral("shouldSyncOnMount"));
@@ -169,8 +168,8 @@ TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
         QStringLiteral("/x")};
     const auto make = ListModule::maker(QStringLiteral("Music"), wishes);
     SyncHarness harness(ModuleFactory{.music = make, .backup = make, .contacts = make});
-    harness.defaults.setObject(QStringLiteral("lastFreeSpace"), 600);
-    harness.defaults.setObject(QStringLiteral("lastSyncSize"), 1000);
+    Settings::lastFreeSpace.set(600);
+    Settings::lastSyncSize.set(1000);
 
     const auto estimate = [&] {
         harness.manager.refreshSyncBytesEstimate();
@@ -179,15 +178,15 @@ TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
     };
     EXPECT_EQ(estimate(), QStringLiteral("newSyncBytesEstimate 800")) << "saves don't count";
     EXPECT_EQ(harness.manager.syncPercentEstimate(), 50U);
-    harness.defaults.setObject(QStringLiteral("firmwareVersion"), 0);
+    Settings::firmwareVersion.set(0);
     EXPECT_EQ(estimate(), QStringLiteral("newSyncBytesEstimate 400"));
     EXPECT_EQ(harness.manager.syncPercentEstimate(), 25U);
-    harness.defaults.setObject(QStringLiteral("lastSyncSize"), 0);
-    harness.defaults.setObject(QStringLiteral("lastFreeSpace"), 401);
+    Settings::lastSyncSize.set(0);
+    Settings::lastFreeSpace.set(401);
     EXPECT_EQ(harness.manager.syncPercentEstimate(), 99U) << "cut, not rounded";
-    harness.defaults.setObject(QStringLiteral("lastFreeSpace"), 0);
+    Settings::lastFreeSpace.set(0);
     EXPECT_EQ(harness.manager.syncPercentEstimate(), 0U) << "nothing is known of the stick";
-    harness.defaults.setObject(QStringLiteral("syncMusic"), false);
+    Settings::syncMusic.set(false);
     EXPECT_EQ(estimate(), QStringLiteral("newSyncBytesEstimate 0"));
 }
 
@@ -219,7 +218,7 @@ TEST(Selection, LiesInThePreferencesAndOnSyncedSticks)
         return ModuleSelection::read(saveName, harness.stick()).value_or(QStringList());
     };
     EXPECT_THAT(read(), ElementsAre(QStringLiteral("Two")));
-    harness.defaults.setObject(QStringLiteral("useSyncProfiles"), true);
+    Settings::useSyncProfiles.set(true);
     EXPECT_THAT(read(), ElementsAre(QStringLiteral("One")));
     writeFile(profile, "garbage");
     EXPECT_THAT(read(), ElementsAre(QStringLiteral("Two"))) << "garbage must not clear the stick";
@@ -231,7 +230,7 @@ TEST(SyncOnMount, WaitsWhileThePreferencesCannotBeRead)
     const QString preferences =
         harness.folder / QStringLiteral("preferences/org.caravel.Caravel.plist");
     harness.mountStick();
-    harness.defaults.setObject(QStringLiteral("syncOnMount"), true);
+    Settings::syncOnMount.set(true);
     harness.defaults.synchronize();
     harness.volumes.unmount(harness.stick());
     QFile::remove(preferences);

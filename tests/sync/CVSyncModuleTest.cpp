@@ -6,6 +6,7 @@
 #include "support/SyncHarness.h"
 #include "sync/SyncRun.h"
 #include "util/PathComponents.h"
+#include "util/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -174,7 +175,7 @@ TEST_F(CVSyncModuleTest, CleansItsFolderByTheRules)
         if (c.index)
             writeFile(indexFile, *c.index);
         wishes.clears = c.clears;
-        harness.defaults.setObject(QStringLiteral("ownOnly"), c.preference);
+        Settings::ownOnly.set(c.preference);
         ASSERT_TRUE(harness.run()) << c.what;
         EXPECT_EQ(onStick(), words(c.left)) << c.what;
     }
@@ -184,7 +185,7 @@ TEST_F(CVSyncModuleTest, SwitchedOffItTakesItsFilesAway)
 {
     want(QStringLiteral("one"), "1");
     ASSERT_TRUE(harness.run());
-    harness.defaults.setObject(QStringLiteral("syncMusic"), false);
+    Settings::syncMusic.set(false);
     ASSERT_TRUE(harness.run());
     EXPECT_TRUE(onStick().isEmpty());
     EXPECT_TRUE(QDir(musicFolder()).exists()) << "the module's own folder stays";

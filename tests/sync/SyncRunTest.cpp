@@ -3,6 +3,7 @@
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
+#include "util/Settings.h"
 
 #include <QDir>
 
@@ -89,9 +90,8 @@ TEST_F(SyncRunTest, TellsEveryStepInOrder)
     EXPECT_EQ(onStick(), lines("big\nsmall"));
     EXPECT_EQ(harness.index(QStringLiteral("Music")), lines("/PSP/MUSIC/big\n/PSP/MUSIC/small"));
     EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(2 * chunk + 105));
-    EXPECT_EQ(harness.defaults.unsignedForKey(QStringLiteral("lastSyncSize")),
-              quint64(2 * chunk + 105));
-    EXPECT_EQ(harness.defaults.dateForKey(QStringLiteral("lastSync")), harness.clock.current);
+    EXPECT_EQ(Settings::lastSyncSize(), quint64(2 * chunk + 105));
+    EXPECT_EQ(Settings::lastSync(), harness.clock.current);
     EXPECT_EQ(harness.manager.syncBytesTotal(), 1U);
     EXPECT_EQ(harness.manager.syncBytes(), 0U);
     EXPECT_FALSE(harness.manager.isIndeterminate());
@@ -116,7 +116,7 @@ TEST_F(SyncRunTest, StopsWhereTheStickHasNoRoom)
                     "syncDidStart\nfinalizeDidStart\nsyncDidFinish false"));
     EXPECT_TRUE(onStick().isEmpty()) << "the clean-up has happened, nothing was copied";
     EXPECT_EQ(harness.lastSyncSizeOnStick(), 0U);
-    EXPECT_FALSE(harness.defaults.dateForKey(QStringLiteral("lastSync")));
+    EXPECT_FALSE(Settings::lastSync());
     files.freeBytes = 2 * chunk + 106;
     EXPECT_TRUE(harness.run());
 }
@@ -159,7 +159,7 @@ TEST_F(SyncRunTest, EndsOnceAfterACancelAnywhere)
         EXPECT_EQ(steps.mid(steps.indexOf(QStringLiteral("syncWillCancel")) + 1), expected) << c.at;
         EXPECT_EQ(harness.delegate.count(QStringLiteral("syncWillCancel")), 1) << c.at;
         EXPECT_EQ(onStick(), c.onStick) << c.at;
-        EXPECT_FALSE(harness.defaults.dateForKey(QStringLiteral("lastSync"))) << c.at;
+        EXPECT_FALSE(Settings::lastSync()) << c.at;
         EXPECT_FALSE(harness.manager.shouldCancelSync()) << c.at;
         EXPECT_EQ(harness.manager.syncBytesTotal(), 1U) << c.at;
         if (QLatin1String(c.at) == QLatin1String("syncDidCopyBytes")) {
@@ -169,7 +169,7 @@ TEST_F(SyncRunTest, EndsOnceAfterACancelAnywhere)
         harness.delegate.onEvent = nullptr;
         EXPECT_TRUE(harness.run()) << "the run after a cancel at " << c.at;
         EXPECT_EQ(onStick(), both) << c.at;
-        harness.defaults.setObject(QStringLiteral("lastSync"), {});
+        Settings::lastSync.set({});
     }
 }
 
@@ -200,7 +200,7 @@ TEST_F(SyncRunTest, IsCancelledByNotificationAndByAnnouncedUnmount)
 
 TEST_F(SyncRunTest, EjectsAfterwardsWhereItMay)
 {
-    harness.defaults.setObject(QStringLiteral("unmountAfterSync"), true);
+    Settings::unmountAfterSync.set(true);
     harness.delegate.answerUnmount = false;
     EXPECT_TRUE(harness.run());
     EXPECT_EQ(harness.delegate.steps().mid(9),

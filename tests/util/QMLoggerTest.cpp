@@ -1,6 +1,7 @@
 #include "util/QMLogger.h"
 #include "platform/lists/UserDefaults.h"
 #include "support/TestSupport.h"
+#include "util/Settings.h"
 
 #include <QRegularExpression>
 
@@ -61,7 +62,7 @@ TEST_F(QMLoggerTest, DetailedLoggingEchoesTheMessageToTheSystemLog)
     const SystemLogCapture system;
     logger.log(QStringLiteral("quiet"));
     EXPECT_FALSE(system.contains(QStringLiteral("quiet")));
-    defaults.setObject(QStringLiteral("useDetailedLogging"), true);
+    Settings::useDetailedLogging.set(true);
     logger.log(QStringLiteral("loud 50%"));
     EXPECT_TRUE(system.contains(QStringLiteral("loud 50%")));
 }

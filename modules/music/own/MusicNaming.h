@@ -1,6 +1,7 @@
 #pragma once
 
 #include "modules/music/MusicLibrary.h"
+#include "util/Settings.h"
 
 #include <QString>
 #include <QStringView>
@@ -8,16 +9,11 @@
 #include <string_view>
 #include <unordered_map>
 
-/// Folder and file names of tracks on the stick, for one library and one pair of preferences.
+/// Folder and file names of tracks on the stick, for one library and one pair of settings.
 class MusicNaming
 {
 public:
-    // Stored numbers of the preference "organizeMusicBy"; any other counts as Album.
-    enum OrganizeBy { Playlist = 0, Artist = 1, Album = 2, ArtistAndAlbum = 3 };
-    // Stored numbers of "sortMusicBy"; any other counts as DiscAndTrack.
-    enum SortBy { Position = 0, Nothing = 1, DiscAndTrack = 2 };
-
-    MusicNaming(qint64 organizeBy, qint64 sortBy);
+    MusicNaming(Settings::MusicFolders folders, Settings::MusicPrefix prefix);
 
     /// Names from here on are those of this playlist's tracks.
     void beginPlaylist(const QString &name);
@@ -45,8 +41,8 @@ private:
     QString folder(const MusicLibrary::Track &track);
     void appendPrefix(QString &file, const MusicLibrary::Track &track, int position) const;
 
-    const qint64 m_organizeBy;
-    const qint64 m_sortBy;
+    const Settings::MusicFolders m_folders;
+    const Settings::MusicPrefix m_prefix;
     const Name m_unsorted;
     QString m_playlist; // as a folder
     // Artists and albums recur with every track of theirs. The keys are texts of the library.

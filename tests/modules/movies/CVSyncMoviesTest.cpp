@@ -3,6 +3,7 @@
 #include "support/SyncHarness.h"
 #include "sync/ModuleSelection.h"
 #include "sync/SyncRun.h"
+#include "util/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -153,7 +154,7 @@ TEST_F(CVSyncMoviesTest, RenamesWithTheSelections)
     EXPECT_EQ(CVSyncMovies::availableIdentifiers(), list({"M4V00001/New"}));
     const QStringList renamed = list({"other", "M4V00001/New"});
     EXPECT_EQ(CVSyncMovies::selectedIdentifiersForPSP({}), renamed);
-    harness.defaults.setObject(QStringLiteral("useSyncProfiles"), true);
+    Settings::useSyncProfiles.set(true);
     EXPECT_EQ(CVSyncMovies::selectedIdentifiersForPSP(harness.stick()), renamed);
 }
 
@@ -172,6 +173,6 @@ TEST_F(CVSyncMoviesTest, TakesTheSelectedMoviesAndTheDropbox)
                              "100ANV01/MAQ00005.THM < MAQ00005.Thm : MAQ00005.Thm",
                              "100ANV01/MAQ00005.MP4 < MAQ00005.mp4 : MAQ00005.mp4",
                              "101MNV01/MAQ00005.MP4 < maq00005.mp4 : maq00005.mp4"}));
-    harness.defaults.setObject(QStringLiteral("syncDropboxes"), false);
+    Settings::syncDropboxes.set(false);
     EXPECT_EQ(items().size(), 2);
 }

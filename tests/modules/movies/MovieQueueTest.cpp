@@ -6,6 +6,7 @@
 #include "support/FakeDesktop.h"
 #include "support/SyncHarness.h"
 #include "util/QMLogger.h"
+#include "util/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -107,8 +108,8 @@ TEST_F(MovieQueueTest, ConvertsOneAfterTheOtherAndSyncsThen)
                  "printf '%s|' \"$@\" >>\"" +
                  resources.path().toUtf8() + "/arguments\"; pwd >>\"" + resources.path().toUtf8() +
                  "/arguments\"\n" + succeeds + "rmdir \"$3.lock\"\n");
-    harness.defaults.setObject(QStringLiteral("volumeBoost"), 150);
-    harness.defaults.setObject(QStringLiteral("syncOnMount"), true);
+    Settings::volumeBoost.set(150);
+    Settings::syncOnMount.set(true);
     const QString first = source("My Clip.avi");
     queue.addMoviesFromArray({first, source("b.mpg"), QStringLiteral("relative.avi")});
     EXPECT_TRUE(queue.isConvertingMovie());

@@ -3,6 +3,7 @@
 #include "modules/saves/CVSyncBackup.h"
 
 #include "support/SyncHarness.h"
+#include "util/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -45,7 +46,7 @@ public:
             break;
         case 1:
             m_choice = number(5);
-            m_harness.defaults.setObject(QStringLiteral("backupsToKeep"), m_choice);
+            Settings::backupsToKeep.set(m_choice);
             break;
         case 2:
             restore();

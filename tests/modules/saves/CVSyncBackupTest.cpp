@@ -2,6 +2,7 @@
 
 #include "support/FailingFileManager.h"
 #include "support/SyncHarness.h"
+#include "util/Settings.h"
 
 #include <QFile>
 
@@ -124,7 +125,7 @@ TEST_F(CVSyncBackupTest, PrunesByThePreference)
     for (const auto &[choice, left] : {std::pair(0, 60), {5, 60}, {3, 49}, {2, 24}, {1, 9}}) {
         for (int i = 1; i <= 60; ++i)
             writeFile(root(QStringLiteral("OLD/%1/OLD/x").arg(1000000000 + i)), "x");
-        harness.defaults.setObject(QStringLiteral("backupsToKeep"), choice);
+        Settings::backupsToKeep.set(choice);
         EXPECT_TRUE(harness.run());
         const QStringList kept =
             CVSyncBackup::availableSubIdentifiersForIdentifier(QStringLiteral("OLD"));
