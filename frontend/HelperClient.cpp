@@ -1,6 +1,5 @@
 #include "frontend/HelperClient.h"
 
-#include "frontend/Output.h"
 #include "platform/bus/NamedConnection.h"
 #include "platform/core/Localized.h"
 #include "platform/lists/Bundle.h"
@@ -12,6 +11,7 @@
 #include <QTimer>
 
 using namespace std::chrono_literals;
+using Kind = HelperFailure::Kind;
 
 namespace {
 
@@ -41,31 +41,37 @@ bool startDetached(const QString &program)
     return process.startDetached();
 }
 
+std::unique_ptr<RemoteObject> remoteHelper()
+{
+    const QString connection = QStringLiteral("CaravelHelper ") + Bundle::main().version();
+    return std::make_unique<RemoteObject>(NamedConnection::busName(connection),
+                                          QStringLiteral("/CaravelHelper"),
+                                          QStringLiteral("org.caravel.CaravelHelperProtocol"));
+}
+
 } // namespace
 
 HelperClient::HelperClient() = default;
 HelperClient::~HelperClient() = default;
 
-QString HelperClient::service()
-{
-    return NamedConnection::busName(QStringLiteral("CaravelHelper ") + Bundle::main().version());
-}
-
-bool HelperClient::connectToHelper()
+void HelperClient::connectToHelper()
 {
     if (!NamedConnection::busAvailable()) {
-        fail(NoHelper, QStringLiteral("no helper: there is no session bus to reach it by"));
-        return false;
+        fail(Kind::NoHelper, QStringLiteral("no helper: there is no session bus to reach it by"));
+        return;
     }
-    m_remote = std::make_unique<RemoteObject>(service(), QStringLiteral("/CaravelHelper"),
-                                              QStringLiteral("org.caravel.CaravelHelperProtocol"));
+    m_remote = remoteHelper();
     if (!m_remote->isAvailable() && !start())
-        return false;
+        return;
     connect(m_remote.get(), &RemoteObject::vanished, this, [this] {
-        fail(NoHelper, QStringLiteral("the helper has gone away"));
+        fail(Kind::NoHelper, QStringLiteral("the helper has gone away"));
         Q_EMIT gone();
     });
-    return true;
+}
+
+void HelperClient::tellRunningHelper(const QString &method)
+{
+    remoteHelper()->send(method);
 }
 
 // The bus starts the helper where it knows how to; else its executable beside ours is started.
@@ -75,12 +81,13 @@ bool HelperClient::start()
         return true;
     const QString program = Bundle(helperBundle()).executable();
     if (program.isEmpty())
-        fail(NoHelper, QStringLiteral("no helper: none is installed in %1").arg(helperBundle()));
+        fail(Kind::NoHelper,
+             QStringLiteral("no helper: none is installed in %1").arg(helperBundle()));
     else if (!startDetached(program))
-        fail(NoHelper, QStringLiteral("no helper: %1 can't be started").arg(program));
+        fail(Kind::NoHelper, QStringLiteral("no helper: %1 can't be started").arg(program));
     else if (!waitUntilThere())
         fail(
-            NoHelper,
+            Kind::NoHelper,
             QStringLiteral("no helper: %1 was started but did not appear on the bus").arg(program));
     return !failed();
 }
@@ -103,9 +110,9 @@ QVariant HelperClient::ask(const QString &method, const QVariantList &arguments)
     if (answer.value)
         return *answer.value;
     if (m_remote->isAvailable())
-        fail(Refused, QStringLiteral("%1: %2").arg(method, answer.error));
+        fail(Kind::Refused, QStringLiteral("%1: %2").arg(method, answer.error));
     else
-        fail(NoHelper, QStringLiteral("the helper has gone away"));
+        fail(Kind::NoHelper, QStringLiteral("the helper has gone away"));
     return {};
 }
 
@@ -137,18 +144,8 @@ void HelperClient::tell(const QString &method, const QVariantList &arguments)
         m_remote->send(method, arguments);
 }
 
-ExitStatus HelperClient::reportFailure()
+void HelperClient::fail(Kind kind, const QString &text)
 {
-    if (!m_failureText.isEmpty())
-        Output::error(m_failureText);
-    m_failureText.clear();
-    return m_failure;
-}
-
-void HelperClient::fail(ExitStatus status, const QString &text)
-{
-    if (failed())
-        return;
-    m_failure = status;
-    m_failureText = text;
+    if (!failed())
+        m_failure = {kind, text};
 }

@@ -1,33 +1,28 @@
 #pragma once
 
-#include "frontend/ExitStatus.h"
+#include "frontend/HelperState.h"
 #include "platform/bus/RemoteObject.h"
 
 #include <QObject>
 #include <QVariantList>
 
 #include <memory>
+#include <optional>
 
-/// What the helper shows of its device and its sync at one moment.
-struct HelperState
+/// Why the helper did not do what it was asked for.
+struct HelperFailure
 {
-    bool mounted = false;
-    bool syncing = false;
-    bool canCancel = false;
-    bool indeterminate = false; ///< the byte counts say nothing now
-    QString statusText;
-    QString statusSubText;
-    quint64 syncBytes = 0;
-    quint64 syncBytesTotal = 0;
-    bool converting = false; ///< a movie is being converted
-    QString percentConverted;
-
-    bool operator==(const HelperState &) const = default;
+    enum class Kind {
+        NoHelper, ///< there is none to ask, or none any more
+        Refused,  ///< it answered with an error
+    };
+    Kind kind;
+    QString text; ///< English, for the user
 };
 
-/// The helper of this program's own build. The first call that fails decides the exit status: it is
-/// remembered, and every later question answers an empty value without asking, so that a command
-/// may ask all that it needs and look at the outcome once.
+/// The helper of this program's own build. The first failure is remembered, and every later
+/// question answers an empty value without asking, so that a caller may ask all that it needs and
+/// look at the outcome once. Main thread; a question holds it for a minute at most.
 class HelperClient : public QObject
 {
     Q_OBJECT
@@ -35,11 +30,11 @@ public:
     HelperClient();
     ~HelperClient() override;
 
-    /// The bus name of the helper of this build.
-    static QString service();
+    /// Finds the helper, starting it when none runs (20 s at most).
+    void connectToHelper();
 
-    /// Finds the helper, starting it when none runs (10 s at most). False: failed() holds.
-    bool connectToHelper();
+    /// Sends a oneway call without arguments to the helper if one runs.
+    static void tellRunningHelper(const QString &method);
 
     QVariant ask(const QString &method, const QVariantList &arguments = {});
     bool askBool(const QString &method) { return ask(method).toBool(); }
@@ -53,11 +48,9 @@ public:
     /// Sends a oneway call.
     void tell(const QString &method, const QVariantList &arguments = {});
 
-    bool failed() const { return m_failure != Done; }
-
-    /// The exit status of the first failure, whose text goes to the standard error here, once; Done
-    /// without one.
-    ExitStatus reportFailure();
+    bool failed() const { return m_failure.has_value(); }
+    /// The first failure.
+    const std::optional<HelperFailure> &failure() const { return m_failure; }
 
 Q_SIGNALS:
     /// The helper has left the bus: failed() holds from now on.
@@ -66,9 +59,8 @@ Q_SIGNALS:
 private:
     bool start();
     bool waitUntilThere();
-    void fail(ExitStatus status, const QString &text);
+    void fail(HelperFailure::Kind kind, const QString &text);
 
     std::unique_ptr<RemoteObject> m_remote;
-    ExitStatus m_failure = Done;
-    QString m_failureText;
+    std::optional<HelperFailure> m_failure;
 };

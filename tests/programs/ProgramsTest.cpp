@@ -167,7 +167,11 @@ TEST_F(ProgramsTest, StartAHelperWhereNoneRuns)
 {
     run({QStringLiteral("status")});
     run({QStringLiteral("prefs"), QStringLiteral("startOnLogin"), QStringLiteral("no")});
-    // With "startOnLogin" off it lives only as long as a front-end does.
+    // With "startOnLogin" off it lives only as long as a front-end does, and that one until it has
+    // its answer.
+    run({QStringLiteral("estimate")});
+    const RemoteObject helper(ProgramHarness::helperBusName(), {}, {});
+    ASSERT_TRUE(waitFor([&] { return !helper.isAvailable(); }));
     const auto watch = programs.start({QStringLiteral("watch")});
     ASSERT_TRUE(waitFor([&] { return watch->bytesAvailable() > 0; }));
     watch->terminate();

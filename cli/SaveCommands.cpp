@@ -1,7 +1,8 @@
-#include "frontend/SaveCommands.h"
+#include "cli/SaveCommands.h"
 
-#include "frontend/Follower.h"
-#include "frontend/Output.h"
+#include "cli/Follower.h"
+#include "cli/MeantRow.h"
+#include "cli/Output.h"
 #include "frontend/Rows.h"
 
 #include <QJsonArray>
@@ -18,13 +19,10 @@ QVariantList backupsOf(HelperClient &helper, const QString &save)
     return helper.ask(QStringLiteral("backupSubItemsForIdentifier"), {save}).toList();
 }
 
-/// The save's row; empty, with the error told or remembered by the helper's client.
-QVariantMap saveNamed(HelperClient &helper, const QString &id)
+QVariantMap meantSave(HelperClient &helper, const QString &id)
 {
-    const QVariantList saves = helper.ask(QStringLiteral("backupItems")).toList();
-    if (helper.failed())
-        return {};
-    return Rows::named(saves, id, QStringLiteral("game save"), QStringLiteral("saves"));
+    return meantRow(helper, QStringLiteral("backupItems"), id, QStringLiteral("game save"),
+                    QStringLiteral("saves"));
 }
 
 bool isBackup(HelperClient &helper, const QString &id)
@@ -77,8 +75,8 @@ void printBackups(const QVariantList &backups)
 class RestoreFollower : public Follower
 {
 public:
-    RestoreFollower(HelperClient &helper, QString backup)
-        : Follower(helper)
+    RestoreFollower(Session &session, QString backup)
+        : Follower(session)
         , m_backup(std::move(backup))
     {
     }
@@ -112,15 +110,15 @@ bool isConfirmed(const QString &question)
     return answer == "y" || answer == "Y" || answer == "yes";
 }
 
-ExitStatus confirm(HelperClient &helper, const QString &id)
+ExitStatus confirm(Session &session, const QString &id)
 {
     if (::isatty(STDIN_FILENO) == 0)
         return refuse(QStringLiteral("say --yes to delete %1 without being asked (nothing was "
                                      "deleted)")
                           .arg(Output::printable(id)));
-    const qsizetype count = id.contains(u'/') ? 1 : backupsOf(helper, id).size();
-    if (helper.failed())
-        return helper.reportFailure();
+    const qsizetype count = id.contains(u'/') ? 1 : backupsOf(session.helper(), id).size();
+    if (session.failed())
+        return session.report();
     const QString what =
         count == 1 ? QStringLiteral("one backup") : QStringLiteral("all %1 backups").arg(count);
     return isConfirmed(QStringLiteral("Move %1 of %2 to the Trash?")
@@ -133,13 +131,13 @@ ExitStatus confirm(HelperClient &helper, const QString &id)
 
 ExitStatus runSaves(const QString &save, bool json)
 {
-    HelperClient helper;
-    helper.connectToHelper();
-    const QVariantMap row = saveNamed(helper, save);
+    Session session;
+    HelperClient &helper = session.helper();
+    const QVariantMap row = meantSave(helper, save);
     const QVariantList backups =
         row.isEmpty() ? QVariantList() : backupsOf(helper, Rows::text(row, u"identifier"));
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (row.isEmpty())
         return Refused;
     if (json)
@@ -151,39 +149,39 @@ ExitStatus runSaves(const QString &save, bool json)
 
 ExitStatus runRestoreSave(const QString &backup)
 {
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     const bool isThere = isBackup(helper, backup);
     const HelperState state = helper.state();
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (!isThere)
         return refuseBackup(backup);
     if (state.syncing)
         return refuseDuringSync();
     if (!state.mounted)
         return refuse(QStringLiteral("No PSP is connected."));
-    return RestoreFollower(helper, backup).run();
+    return RestoreFollower(session, backup).run();
 }
 
 ExitStatus runDeleteSave(const QString &id, bool isSure)
 {
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     QString named = id;
     if (!isBackup(helper, id)) {
         if (id.contains(u'/') && !helper.failed())
             return refuseBackup(id);
-        named = Rows::text(saveNamed(helper, id), u"identifier");
+        named = Rows::text(meantSave(helper, id), u"identifier");
     }
     const bool syncing = helper.state().syncing;
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (named.isEmpty())
         return Refused;
     if (syncing)
         return refuseDuringSync();
-    if (const ExitStatus answer = isSure ? Done : confirm(helper, named); answer != Done)
+    if (const ExitStatus answer = isSure ? Done : confirm(session, named); answer != Done)
         return answer;
     helper.ask(QStringLiteral("deleteBackupWithIdentifier"), {named});
     const bool isLeft =
@@ -192,5 +190,5 @@ ExitStatus runDeleteSave(const QString &id, bool isSure)
         return refuse(QStringLiteral("%1 could not be deleted; the helper's log and the system "
                                      "log say why")
                           .arg(Output::printable(named)));
-    return helper.reportFailure();
+    return session.report();
 }

@@ -1,20 +1,17 @@
-#include "frontend/MovieCommands.h"
+#include "cli/MovieCommands.h"
 
-#include "frontend/HelperClient.h"
-#include "frontend/Output.h"
-#include "frontend/Rows.h"
+#include "cli/MeantRow.h"
+#include "cli/Output.h"
+#include "cli/Session.h"
 
 #include <QFileInfo>
 
 namespace {
 
-/// Empty where there is no such row; the error is told, or remembered by the client.
-QVariantMap movieNamed(HelperClient &helper, const QString &id)
+QVariantMap meantMovie(HelperClient &helper, const QString &id)
 {
-    const QVariantList movies = helper.ask(QStringLiteral("moviesItems")).toList();
-    if (helper.failed())
-        return {};
-    return Rows::named(movies, id, QStringLiteral("movie"), QStringLiteral("movies"));
+    return meantRow(helper, QStringLiteral("moviesItems"), id, QStringLiteral("movie"),
+                    QStringLiteral("movies"));
 }
 
 // Refused here, since the helper answers nothing.
@@ -38,20 +35,20 @@ ExitStatus runAddMovies(const QStringList &files)
         }
         paths.append(info.absoluteFilePath());
     }
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     helper.ask(QStringLiteral("addMoviesFromArray"), {paths});
-    return helper.reportFailure();
+    return session.report();
 }
 
 ExitStatus runRemoveMovie(const QString &id)
 {
-    HelperClient helper;
-    helper.connectToHelper();
-    const QVariantMap row = movieNamed(helper, id);
+    Session session;
+    HelperClient &helper = session.helper();
+    const QVariantMap row = meantMovie(helper, id);
     if (!row.isEmpty())
         helper.ask(QStringLiteral("removeMovieItem"), {row});
-    return row.isEmpty() && !helper.failed() ? Refused : helper.reportFailure();
+    return row.isEmpty() && !helper.failed() ? Refused : session.report();
 }
 
 ExitStatus runRenameMovie(const QString &id, const QString &title)
@@ -60,10 +57,10 @@ ExitStatus runRenameMovie(const QString &id, const QString &title)
         Output::error(QStringLiteral("\"%1\" can't be a movie's title").arg(title));
         return Refused;
     }
-    HelperClient helper;
-    helper.connectToHelper();
-    const QVariantMap row = movieNamed(helper, id);
+    Session session;
+    HelperClient &helper = session.helper();
+    const QVariantMap row = meantMovie(helper, id);
     if (!row.isEmpty())
         helper.ask(QStringLiteral("renameMovieItem"), {row, title});
-    return row.isEmpty() && !helper.failed() ? Refused : helper.reportFailure();
+    return row.isEmpty() && !helper.failed() ? Refused : session.report();
 }

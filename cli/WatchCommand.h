@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frontend/ExitStatus.h"
+#include "cli/ExitStatus.h"
 
 /// `caravel watch`: the state now and each change of it, alerts and lines of the log, until Ctrl-C.
 /// As JSON one object a line, its "event" being "state", "alert", "finished" or "log".

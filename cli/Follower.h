@@ -1,7 +1,6 @@
 #pragma once
 
-#include "frontend/FrontEndObject.h"
-#include "frontend/HelperClient.h"
+#include "cli/Session.h"
 #include "platform/core/QuitSignals.h"
 
 #include <QElapsedTimer>
@@ -15,7 +14,7 @@ class Follower : public QObject
 {
     Q_OBJECT
 public:
-    explicit Follower(HelperClient &helper);
+    explicit Follower(Session &session);
 
     /// Follows until finish() is called or the helper goes away; its answer is the exit status.
     ExitStatus run();
@@ -30,14 +29,13 @@ protected:
     void finish(ExitStatus status);
     void readNow();
 
-    HelperClient &helper() { return m_helper; }
-    FrontEndObject &frontEnd() { return m_frontEnd; }
+    HelperClient &helper() { return m_session.helper(); }
+    FrontEndObject &frontEnd() { return m_session.frontEnd(); }
 
 private:
     void readSoon();
 
-    HelperClient &m_helper;
-    FrontEndObject m_frontEnd;
+    Session &m_session;
     QuitSignals m_quitSignals;
     QEventLoop m_loop;
     QTimer m_soon; // single shot, to the next permitted reading

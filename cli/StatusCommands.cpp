@@ -1,8 +1,8 @@
-#include "frontend/StatusCommands.h"
+#include "cli/StatusCommands.h"
 
-#include "frontend/FrontEndObject.h"
-#include "frontend/Output.h"
-#include "frontend/ProgressDisplay.h"
+#include "cli/Output.h"
+#include "cli/Session.h"
+#include "frontend/ProgressText.h"
 
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -55,12 +55,12 @@ void printStatus(const HelperState &state, bool firstSync, const Estimate &estim
 }
 
 // Whether the helper reported a new estimate in time.
-bool refreshEstimate(HelperClient &helper)
+bool refreshEstimate(Session &session)
 {
-    FrontEndObject frontEnd(helper);
+    HelperClient &helper = session.helper();
     QEventLoop loop;
     bool arrived = false;
-    QObject::connect(&frontEnd, &FrontEndObject::estimateChanged, &loop, [&] {
+    QObject::connect(&session.frontEnd(), &FrontEndObject::estimateChanged, &loop, [&] {
         arrived = true;
         loop.quit();
     });
@@ -72,8 +72,9 @@ bool refreshEstimate(HelperClient &helper)
     return arrived;
 }
 
-ExitStatus waitForEject(HelperClient &helper)
+ExitStatus waitForEject(Session &session)
 {
+    HelperClient &helper = session.helper();
     const QDeadlineTimer deadline(60s);
     QEventLoop loop;
     QObject::connect(&helper, &HelperClient::gone, &loop, &QEventLoop::quit);
@@ -91,7 +92,7 @@ ExitStatus waitForEject(HelperClient &helper)
         QTimer::singleShot(250ms, &loop, &QEventLoop::quit);
         loop.exec();
     }
-    return helper.reportFailure();
+    return session.report();
 }
 
 } // namespace
@@ -114,13 +115,13 @@ QJsonObject stateToJson(const HelperState &state)
 
 ExitStatus runStatus(bool json)
 {
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     const HelperState state = helper.state();
     const bool firstSync = helper.askBool(QStringLiteral("isFirstSync"));
     const Estimate estimate = readEstimate(helper);
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (!json) {
         printStatus(state, firstSync, estimate);
         return Done;
@@ -134,16 +135,16 @@ ExitStatus runStatus(bool json)
 
 ExitStatus runEstimate(bool json)
 {
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     const bool syncing = helper.askBool(QStringLiteral("isSyncing"));
-    if (!helper.failed() && !syncing && !refreshEstimate(helper) && !helper.failed()) {
+    if (!helper.failed() && !syncing && !refreshEstimate(session) && !helper.failed()) {
         Output::error(QStringLiteral("the helper has made no estimate within a minute"));
         return Refused;
     }
     const Estimate estimate = readEstimate(helper);
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     QJsonObject object;
     insertEstimate(object, estimate);
     if (json)
@@ -155,17 +156,17 @@ ExitStatus runEstimate(bool json)
 
 ExitStatus runEject()
 {
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     const bool mounted = helper.askBool(QStringLiteral("pspIsMounted"));
     const bool canSync = helper.askBool(QStringLiteral("canSync"));
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (!canSync) {
         Output::error(mounted ? QStringLiteral("A sync is running.")
                               : QStringLiteral("No PSP is connected."));
         return Refused;
     }
     helper.tell(QStringLiteral("ejectPSP"), {QVariantMap()});
-    return waitForEject(helper);
+    return waitForEject(session);
 }

@@ -1,4 +1,4 @@
-#include "frontend/PrefsCommand.h"
+#include "cli/PrefsCommand.h"
 
 #include "platform/lists/UserDefaults.h"
 #include "support/TestSupport.h"

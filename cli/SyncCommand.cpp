@@ -1,8 +1,8 @@
-#include "frontend/SyncCommand.h"
+#include "cli/SyncCommand.h"
 
-#include "frontend/Follower.h"
-#include "frontend/Output.h"
-#include "frontend/ProgressDisplay.h"
+#include "cli/Follower.h"
+#include "cli/Output.h"
+#include "cli/ProgressDisplay.h"
 #include "platform/bus/DistributedNotificationCenter.h"
 
 using namespace std::chrono_literals;
@@ -23,8 +23,8 @@ void requestSync(HelperClient &helper)
 class SyncFollower : public Follower
 {
 public:
-    explicit SyncFollower(HelperClient &helper)
-        : Follower(helper)
+    explicit SyncFollower(Session &session)
+        : Follower(session)
         , m_display(ProgressDisplay::make())
     {
         connect(&frontEnd(), &FrontEndObject::syncDidFinish, this, &SyncFollower::finished);
@@ -132,13 +132,12 @@ ExitStatus refuse(const QString &text)
 
 ExitStatus runSync(bool wait)
 {
-    HelperClient helper;
-    if (!helper.connectToHelper())
-        return helper.reportFailure();
+    Session session;
+    HelperClient &helper = session.helper();
     const HelperState state = helper.state();
     const bool canSync = helper.askBool(QStringLiteral("canSync"));
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (state.syncing)
         return refuse(QStringLiteral("A sync is already running."));
     if (!state.mounted)
@@ -146,7 +145,7 @@ ExitStatus runSync(bool wait)
     if (!canSync)
         return refuse(QStringLiteral("The helper can't sync now: %1").arg(state.statusText));
     if (wait)
-        return SyncFollower(helper).run();
+        return SyncFollower(session).run();
     requestSync(helper);
     NamedConnection::flush();
     return Done;
@@ -154,12 +153,11 @@ ExitStatus runSync(bool wait)
 
 ExitStatus runCancel()
 {
-    HelperClient helper;
-    if (!helper.connectToHelper())
-        return helper.reportFailure();
+    Session session;
+    HelperClient &helper = session.helper();
     const HelperState state = helper.state();
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (!state.syncing)
         return refuse(QStringLiteral("No sync is running."));
     if (!state.canCancel)

@@ -1,4 +1,4 @@
-#include "frontend/ListCommands.h"
+#include "cli/ListCommands.h"
 
 #include <gmock/gmock.h>
 

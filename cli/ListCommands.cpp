@@ -1,7 +1,7 @@
-#include "frontend/ListCommands.h"
+#include "cli/ListCommands.h"
 
-#include "frontend/HelperClient.h"
-#include "frontend/Output.h"
+#include "cli/Output.h"
+#include "cli/Session.h"
 #include "frontend/Rows.h"
 #include "platform/lists/UserDefaults.h"
 
@@ -151,11 +151,11 @@ Selection changedSelection(const QVariantList &rows, const QStringList &current,
 ExitStatus runList(const QString &kindName, bool json)
 {
     const ListKind &kind = kindNamed(kindName);
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     const QVariantList rows = helper.ask(kind.itemsMethod).toList();
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     if (json)
         Output::json(QJsonArray::fromVariantList(rows));
     else
@@ -166,11 +166,11 @@ ExitStatus runList(const QString &kindName, bool json)
 ExitStatus runSelect(const QString &kindName, SelectMode mode, const QStringList &names)
 {
     const ListKind &kind = kindNamed(kindName);
-    HelperClient helper;
-    helper.connectToHelper();
+    Session session;
+    HelperClient &helper = session.helper();
     const QVariantList rows = helper.ask(kind.itemsMethod).toList();
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     const Selection selection = changedSelection(rows, currentSelection(kind, rows), mode, names);
     if (!selection.unknown.isEmpty())
         return refuseNames(kind, selection.unknown);
@@ -178,7 +178,7 @@ ExitStatus runSelect(const QString &kindName, SelectMode mode, const QStringList
     // Asked after the change, and served after it.
     const QVariantList now = helper.ask(kind.itemsMethod).toList();
     if (helper.failed())
-        return helper.reportFailure();
+        return session.report();
     const bool rowsTell = kind.preferenceKey.isEmpty();
     printRows(now, rowsTell ? currentSelection(kind, now) : selection.identifiers);
     return Done;

@@ -1,47 +1,15 @@
 #pragma once
 
-#include "frontend/HelperClient.h"
+#include "frontend/HelperState.h"
+#include "frontend/RateMeter.h"
 
-#include <QString>
+#include <QStringList>
 
-#include <chrono>
-#include <deque>
 #include <memory>
 #include <optional>
 
-/// How fast a byte count grows, over the last few seconds.
-class RateMeter
-{
-public:
-    using Time = std::chrono::milliseconds;
-
-    /// The count at a moment (of any clock that only goes forward). A count that went back begins
-    /// anew.
-    void add(quint64 bytes, Time now);
-
-    /// Bytes per second; nothing before half a second is known.
-    std::optional<double> rate() const;
-
-private:
-    struct Sample
-    {
-        quint64 bytes;
-        Time time;
-    };
-    std::deque<Sample> m_samples;
-};
-
-/// The texts of a progress display.
-namespace ProgressText {
-
-/// "0:07", "12:34" or "1:02:03".
-QString duration(std::chrono::seconds time);
-
-/// Done per cent, 0 to 100, rounded down; nothing where the counts say nothing.
-std::optional<int> percent(const HelperState &state);
-
-/// "45% (1.2 MB of 3.4 MB)".
-QString amount(const HelperState &state);
+/// Progress on a terminal's line.
+namespace ProgressLine {
 
 /// "[####    ] 45% (1.2 MB of 3.4 MB), 2 MB/s, 0:03 left" in at most so many columns: what doesn't
 /// fit is left out from the end, the bar first. Empty where the counts say nothing.
@@ -50,7 +18,7 @@ QString bar(const HelperState &state, std::optional<double> rate, int columns);
 /// The text, cut to so many columns with "…" in the place of the rest, without control characters.
 QString fitted(const QString &text, int columns);
 
-} // namespace ProgressText
+} // namespace ProgressLine
 
 /// Shows the helper's state as it changes.
 class ProgressDisplay

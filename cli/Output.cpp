@@ -1,4 +1,4 @@
-#include "frontend/Output.h"
+#include "cli/Output.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frontend/ExitStatus.h"
+#include "cli/ExitStatus.h"
 #include "frontend/HelperClient.h"
 
 #include <QJsonObject>

@@ -1,25 +1,24 @@
-#include "frontend/Follower.h"
+#include "cli/Follower.h"
 
-#include "frontend/Output.h"
+#include "cli/Output.h"
 
 #include <algorithm>
 
 using namespace std::chrono_literals;
 
-Follower::Follower(HelperClient &helper)
-    : m_helper(helper)
-    , m_frontEnd(helper)
+Follower::Follower(Session &session)
+    : m_session(session)
     , m_quitSignals([this](int) { interrupted(); })
 {
     m_soon.setSingleShot(true);
     m_slow.setInterval(1s);
     connect(&m_soon, &QTimer::timeout, this, &Follower::readNow);
     connect(&m_slow, &QTimer::timeout, this, &Follower::readNow);
-    connect(&m_frontEnd, &FrontEndObject::changed, this, &Follower::readSoon);
-    connect(&m_frontEnd, &FrontEndObject::pspDidMount, this, &Follower::readSoon);
-    connect(&m_frontEnd, &FrontEndObject::pspDidUnmount, this, &Follower::readSoon);
-    connect(&m_frontEnd, &FrontEndObject::alert, this, &Follower::alert);
-    connect(&m_helper, &HelperClient::gone, this, [this] { finish(NoHelper); });
+    connect(&frontEnd(), &FrontEndObject::changed, this, &Follower::readSoon);
+    connect(&frontEnd(), &FrontEndObject::pspDidMount, this, &Follower::readSoon);
+    connect(&frontEnd(), &FrontEndObject::pspDidUnmount, this, &Follower::readSoon);
+    connect(&frontEnd(), &FrontEndObject::alert, this, &Follower::alert);
+    connect(&helper(), &HelperClient::gone, this, [this] { finish(NoHelper); });
 }
 
 ExitStatus Follower::run()
@@ -29,9 +28,7 @@ ExitStatus Follower::run()
     m_slow.start();
     if (!m_finished)
         m_loop.exec();
-    if (m_helper.failed())
-        return m_helper.reportFailure();
-    return m_status;
+    return m_session.failed() ? m_session.report() : m_status;
 }
 
 void Follower::alert(const QString &title, const QString &message, int)
@@ -52,9 +49,9 @@ void Follower::readNow()
 {
     if (m_finished)
         return;
-    const HelperState state = m_helper.state();
+    const HelperState state = helper().state();
     m_sinceReading.start();
-    if (m_helper.failed())
+    if (m_session.failed())
         finish(NoHelper);
     else
         stateRead(state);

@@ -1,34 +1,14 @@
-#include "frontend/ProgressDisplay.h"
+#include "cli/ProgressDisplay.h"
 
-#include "frontend/Output.h"
-#include "util/FileManagerTools.h"
+#include "cli/Output.h"
+#include "frontend/ProgressText.h"
 
 #include <algorithm>
-#include <cmath>
-
-using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto rateSpan = 5s;
-constexpr auto shortestSpan = 500ms;
 constexpr int smallestBar = 10;
 constexpr int largestBar = 40;
-
-QString size(quint64 bytes)
-{
-    return FileManagerTools::sizeDescriptionForByteCount(bytes);
-}
-
-QString pace(const HelperState &state, std::optional<double> rate)
-{
-    if (!rate || *rate < 1)
-        return {};
-    const quint64 left = state.syncBytesTotal - std::min(state.syncBytes, state.syncBytesTotal);
-    const auto seconds = std::chrono::seconds(std::llround(static_cast<double>(left) / *rate));
-    return QStringLiteral(", %1/s, %2 left")
-        .arg(size(static_cast<quint64>(*rate)), ProgressText::duration(seconds));
-}
 
 QString drawnBar(int percent, int width)
 {
@@ -45,66 +25,22 @@ QString headline(const HelperState &state)
 
 } // namespace
 
-void RateMeter::add(quint64 bytes, Time now)
+QString ProgressLine::bar(const HelperState &state, std::optional<double> rate, int columns)
 {
-    if (!m_samples.empty() && bytes < m_samples.back().bytes)
-        m_samples.clear();
-    m_samples.push_back({bytes, now});
-    while (m_samples.size() > 2 && now - m_samples[1].time >= rateSpan)
-        m_samples.pop_front();
-}
-
-std::optional<double> RateMeter::rate() const
-{
-    if (m_samples.empty())
-        return std::nullopt;
-    const Time span = m_samples.back().time - m_samples.front().time;
-    if (span < shortestSpan)
-        return std::nullopt;
-    const auto grown = static_cast<double>(m_samples.back().bytes - m_samples.front().bytes);
-    return grown * 1000 / static_cast<double>(span.count());
-}
-
-QString ProgressText::duration(std::chrono::seconds time)
-{
-    const auto seconds = time.count();
-    const auto minutes = seconds / 60;
-    const QString end = QStringLiteral(":%1").arg(seconds % 60, 2, 10, QChar(u'0'));
-    if (minutes < 60)
-        return QString::number(minutes) + end;
-    return QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QChar(u'0')) + end;
-}
-
-std::optional<int> ProgressText::percent(const HelperState &state)
-{
-    if (!state.syncing || state.indeterminate || state.syncBytesTotal == 0)
-        return std::nullopt;
-    const double part = static_cast<double>(std::min(state.syncBytes, state.syncBytesTotal)) /
-                        static_cast<double>(state.syncBytesTotal);
-    return static_cast<int>(part * 100);
-}
-
-QString ProgressText::amount(const HelperState &state)
-{
-    return QStringLiteral("%1% (%2 of %3)")
-        .arg(percent(state).value_or(0))
-        .arg(size(state.syncBytes), size(state.syncBytesTotal));
-}
-
-QString ProgressText::bar(const HelperState &state, std::optional<double> rate, int columns)
-{
-    const std::optional<int> done = percent(state);
+    const std::optional<int> done = ProgressText::percent(state);
     if (!done)
         return {};
-    QString text = amount(state) + pace(state, rate);
+    const QString amount = ProgressText::amount(state);
+    const QString pace = ProgressText::pace(state, rate);
+    QString text = pace.isEmpty() ? amount : QStringLiteral("%1, %2").arg(amount, pace);
     if (Output::columns(text) > columns)
-        text = amount(state);
+        text = amount;
     // Brackets and a blank take three columns.
     const int room = std::min(columns - Output::columns(text) - 3, largestBar);
     return fitted(room >= smallestBar ? drawnBar(*done, room) + text : text, columns);
 }
 
-QString ProgressText::fitted(const QString &text, int columns)
+QString ProgressLine::fitted(const QString &text, int columns)
 {
     QString line = Output::printable(text);
     if (Output::columns(line) <= columns)
@@ -157,8 +93,8 @@ void TerminalDisplay::show(const HelperState &state)
     // The last column stays free: some terminals wrap when it is filled.
     const int columns = Output::terminalWidth() - 1;
     clear();
-    Output::raw(ProgressText::fitted(headline(state), columns) + u'\n' +
-                ProgressText::bar(state, m_meter.rate(), columns));
+    Output::raw(ProgressLine::fitted(headline(state), columns) + u'\n' +
+                ProgressLine::bar(state, m_meter.rate(), columns));
     m_drawn = true;
 }
 

@@ -1,7 +1,7 @@
-#include "frontend/PrefsCommand.h"
+#include "cli/PrefsCommand.h"
 
+#include "cli/Output.h"
 #include "frontend/HelperClient.h"
-#include "frontend/Output.h"
 #include "platform/bus/DistributedNotificationCenter.h"
 #include "platform/bus/NamedConnection.h"
 #include "platform/lists/UserDefaults.h"
@@ -107,11 +107,8 @@ void tellOthers(const QString &name)
         return;
     DistributedNotificationCenter::defaultCenter().post(
         QStringLiteral("CVPrefsDidChangeNotification"));
-    if (name == Settings::startOnLogin.name) {
-        RemoteObject helper(HelperClient::service(), QStringLiteral("/CaravelHelper"),
-                            QStringLiteral("org.caravel.CaravelHelperProtocol"));
-        helper.send(QStringLiteral("changeStartOnLogin"));
-    }
+    if (name == Settings::startOnLogin.name)
+        HelperClient::tellRunningHelper(QStringLiteral("changeStartOnLogin"));
     NamedConnection::flush();
 }
 

@@ -1,4 +1,4 @@
-#include "frontend/TerminalWindow.h"
+#include "cli/TerminalWindow.h"
 
 #include "platform/lists/Bundle.h"
 

@@ -1,17 +1,17 @@
-#include "frontend/WatchCommand.h"
+#include "cli/WatchCommand.h"
 
-#include "frontend/Follower.h"
-#include "frontend/Output.h"
-#include "frontend/ProgressDisplay.h"
-#include "frontend/StatusCommands.h"
+#include "cli/Follower.h"
+#include "cli/Output.h"
+#include "cli/ProgressDisplay.h"
+#include "cli/StatusCommands.h"
 
 namespace {
 
 class Watcher : public Follower
 {
 public:
-    Watcher(HelperClient &helper, bool json)
-        : Follower(helper)
+    Watcher(Session &session, bool json)
+        : Follower(session)
         , m_json(json)
         , m_display(LineDisplay::SubTexts::Show)
     {
@@ -88,8 +88,8 @@ void Watcher::finished(bool completed)
 class LogFollower : public Follower
 {
 public:
-    LogFollower(HelperClient &helper, bool json)
-        : Follower(helper)
+    LogFollower(Session &session, bool json)
+        : Follower(session)
         , m_json(json)
     {
         connect(&frontEnd(), &FrontEndObject::logLine, this, &LogFollower::printNew);
@@ -123,11 +123,11 @@ void LogFollower::printNew()
     }
 }
 
-ExitStatus showLog(HelperClient &helper, bool json)
+ExitStatus showLog(Session &session, bool json)
 {
-    const QString log = helper.askText(QStringLiteral("log"));
-    if (helper.failed())
-        return helper.reportFailure();
+    const QString log = session.helper().askText(QStringLiteral("log"));
+    if (session.failed())
+        return session.report();
     if (json)
         Output::json(QJsonObject{{QStringLiteral("log"), log}});
     else
@@ -140,21 +140,17 @@ ExitStatus showLog(HelperClient &helper, bool json)
 
 ExitStatus runWatch(bool json)
 {
-    HelperClient helper;
-    if (!helper.connectToHelper())
-        return helper.reportFailure();
-    return Watcher(helper, json).run();
+    Session session;
+    return Watcher(session, json).run();
 }
 
 ExitStatus runLog(LogMode mode, bool json)
 {
-    HelperClient helper;
-    if (!helper.connectToHelper())
-        return helper.reportFailure();
+    Session session;
     if (mode == LogMode::Follow)
-        return LogFollower(helper, json).run();
+        return LogFollower(session, json).run();
     if (mode == LogMode::Show)
-        return showLog(helper, json);
-    helper.ask(QStringLiteral("clearLog"));
-    return helper.reportFailure();
+        return showLog(session, json);
+    session.helper().ask(QStringLiteral("clearLog"));
+    return session.report();
 }

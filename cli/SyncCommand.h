@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frontend/ExitStatus.h"
+#include "cli/ExitStatus.h"
 
 /// `caravel sync`: starts a sync and, unless told not to wait, shows it to its end. Ctrl-C cancels
 /// the sync and waits for its end; a second one leaves at once.
