@@ -3,6 +3,7 @@
 #include "app/Log.h"
 #include "platform/desktop/Autostart.h"
 #include "platform/lists/UserDefaults.h"
+#include "util/PathComponents.h"
 
 #include <QVariantMap>
 
@@ -14,10 +15,10 @@ const QString pathKey = QStringLiteral("Path");
 
 QString lastComponent(const QString &path)
 {
-    QStringView rest(path);
+    QString rest = path;
     while (rest.endsWith(u'/'))
         rest.chop(1);
-    return rest.mid(rest.lastIndexOf(u'/') + 1).toString();
+    return PathComponents::lastOf(rest);
 }
 
 // An alias record is another system's way to find a program that was moved.

@@ -12,6 +12,7 @@
 #include "sync/CVSyncManager.h"
 #include "sync/ModuleSelection.h"
 #include "util/PSFParser.h"
+#include "util/PathComponents.h"
 
 #include <QHash>
 #include <QSet>
@@ -92,10 +93,7 @@ QVariantMap row(const QString &name, const Kind &kind, qsizetype size,
 // What comes over the bus may name anything. Slashes in names are the user's own.
 bool isRelativePath(const QString &identifier)
 {
-    const QStringList components = identifier.split(u'/');
-    return std::none_of(components.begin(), components.end(), [](const QString &each) {
-        return each.isEmpty() || each == u"." || each == u"..";
-    });
+    return PathComponents::count(identifier) > 0;
 }
 
 // A movie that waits for its conversion goes by the path of its source.

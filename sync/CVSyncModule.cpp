@@ -17,16 +17,6 @@ FileManager &files()
     return FileManager::defaultManager();
 }
 
-QString lastComponent(const QString &path)
-{
-    return path.mid(path.lastIndexOf(u'/') + 1);
-}
-
-QString folderOf(const QString &path)
-{
-    return path.left(path.lastIndexOf(u'/'));
-}
-
 } // namespace
 
 CVSyncModule::CVSyncModule(CVSyncModuleDelegate *delegate, const QString &saveName)
@@ -150,7 +140,7 @@ bool CVSyncModule::shouldCopy(const CVSyncItem &item, const Measured &source)
             qCInfo(lcSync).noquote() << "Dequeueing" << item.source << "(file does not exist)";
         return false;
     }
-    const Reach folder = reachOf(folderOf(item.destination));
+    const Reach folder = reachOf(PathComponents::folderOf(item.destination));
     if (folder == Reach::ThroughLink)
         return false;
     if (folder == Reach::Missing)
@@ -195,7 +185,7 @@ CVSyncModule::Reach CVSyncModule::reachOf(const QString &folder)
             {{QStringLiteral("Error"), QStringLiteral("Won't follow a link off the stick")},
              {QStringLiteral("Path"), folder}});
         reach = Reach::ThroughLink;
-    } else if (reachOf(folderOf(folder)) == Reach::ThroughLink) {
+    } else if (reachOf(PathComponents::folderOf(folder)) == Reach::ThroughLink) {
         reach = Reach::ThroughLink;
     }
     m_reach.insert(folder, reach);
@@ -257,7 +247,7 @@ bool CVSyncModule::shouldRemove(const CleanUp &pass, size_t entry, const QString
     const FolderEntry &found = pass.entries[entry];
     if (found.path == u".caravel" || found.path.startsWith(u".caravel/"))
         return false;
-    if (lastComponent(found.path) == u".DS_Store")
+    if (PathComponents::lastOf(found.path) == u".DS_Store")
         return true;
     if (found.isFolder)
         return pass.childrenLeft[entry] == 0;
@@ -294,16 +284,17 @@ void CVSyncModule::sync()
     for (const CVSyncItem &item : m_syncQueue) {
         if (m_delegate->syncModuleShouldCancel())
             return;
-        if (!lastComponent(item.source).startsWith(u"._") && files().exists(item.source))
+        if (!PathComponents::lastOf(item.source).startsWith(u"._") && files().exists(item.source))
             syncItem(item);
     }
 }
 
 void CVSyncModule::syncItem(const CVSyncItem &item)
 {
-    const QString folder = folderOf(item.destination);
+    const QString folder = PathComponents::folderOf(item.destination);
     // Other systems keep a file's resource fork beside it under this name.
-    const QString companion = folder + QStringLiteral("/._") + lastComponent(item.destination);
+    const QString companion =
+        folder + QStringLiteral("/._") + PathComponents::lastOf(item.destination);
 
     m_delegate->syncModuleWillProcessItem(item);
     if (m_delegate->pspVolumeIsPresent()) {
@@ -317,7 +308,7 @@ void CVSyncModule::syncItem(const CVSyncItem &item)
 
 bool CVSyncModule::copyItem(const CVSyncItem &item)
 {
-    const QString folder = folderOf(item.destination);
+    const QString folder = PathComponents::folderOf(item.destination);
     if (m_lastFolder != folder)
         FileManagerTools::createPath(folder);
     m_lastFolder = folder;

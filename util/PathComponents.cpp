@@ -1,6 +1,9 @@
 #include "util/PathComponents.h"
 
+#include <QList>
 #include <QTextBoundaryFinder>
+
+#include <algorithm>
 
 namespace PathComponents {
 
@@ -37,11 +40,43 @@ QString cut(const QString &name, qsizetype bytes)
 
 } // namespace
 
+qsizetype count(QStringView path)
+{
+    const QList<QStringView> components = path.split(u'/');
+    const bool leadsAway =
+        std::any_of(components.begin(), components.end(), [](QStringView component) {
+            return component.isEmpty() || component == u"." || component == u"..";
+        });
+    return leadsAway ? 0 : components.size();
+}
+
+QString lastOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+QString folderOf(const QString &path)
+{
+    return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 0));
+}
+
 QStringView extensionOf(QStringView path)
 {
     const QStringView name = path.mid(path.lastIndexOf(u'/') + 1);
     const auto dot = name.lastIndexOf(u'.');
     return dot > 0 ? name.mid(dot + 1) : QStringView();
+}
+
+QString stemOf(const QString &path)
+{
+    const QString name = lastOf(path);
+    const qsizetype extension = extensionOf(name).size();
+    return extension > 0 ? name.chopped(extension + 1) : name;
+}
+
+bool isName(const QString &name)
+{
+    return count(name) == 1 && safe(name) == name;
 }
 
 QString safe(const QString &name, QStringView suffix)

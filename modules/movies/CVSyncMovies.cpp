@@ -125,16 +125,7 @@ std::optional<QString> CVSyncMovies::nextAvailableMovieId()
 
 bool CVSyncMovies::isIdentifier(const QString &text)
 {
-    const QStringList components = text.split(u'/');
-    const auto isPlace = [](const QString &each) {
-        return !each.isEmpty() && each != u"." && each != u"..";
-    };
-    return components.size() == 2 && isPlace(components[0]) && isPlace(components[1]);
-}
-
-bool CVSyncMovies::isTitle(const QString &text)
-{
-    return !text.isEmpty() && !text.contains(u'/') && PathComponents::safe(text) == text;
+    return PathComponents::count(text) == 2;
 }
 
 QString CVSyncMovies::fileOf(const QString &identifier, const QString &ending)
@@ -183,7 +174,8 @@ bool CVSyncMovies::renameMovieWithIdentifier(const QString &identifier, const QS
                                              const QString &forPSP)
 {
     const QString folder = libraryRoot() + u'/' + identifier;
-    if (!isIdentifier(identifier) || !files().linkStatus(folder).isFolder() || !isTitle(newName)) {
+    if (!isIdentifier(identifier) || !files().linkStatus(folder).isFolder() ||
+        !PathComponents::isName(newName)) {
         qCWarning(lcModules).noquote().nospace()
             << "The movie \"" << identifier << "\" can't be renamed to \"" << newName << '"';
         return false;

@@ -39,11 +39,10 @@ public:
     static bool deleteMovieWithIdentifier(const QString &identifier);
     /// Gives the movie another title, in the library and in the selections: the preferences' and
     /// that of the stick at `forPSP` (empty: none). False, said in the system log, when the title
-    /// can't be one (empty, with a "/", too long) or there is no such movie; nothing changes then.
+    /// is no name for a folder (empty, with a "/", too long) or there is no such movie; nothing
+    /// changes then.
     static bool renameMovieWithIdentifier(const QString &identifier, const QString &newName,
                                           const QString &forPSP);
-    /// Whether a text can be a movie's title.
-    static bool isTitle(const QString &text);
 
     static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
     static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);

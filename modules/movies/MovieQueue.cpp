@@ -40,13 +40,6 @@ QString sizeOf(const QString &path)
         FileManager::defaultManager().linkStatus(path).size);
 }
 
-QString titleOf(const QString &path)
-{
-    const QString name = path.section(u'/', -1);
-    const qsizetype extension = PathComponents::extensionOf(name).size();
-    return extension > 0 ? name.chopped(extension + 1) : name;
-}
-
 /// The converter's twelve arguments.
 QStringList argumentsFor(const QString &source)
 {
@@ -54,7 +47,7 @@ QStringList argumentsFor(const QString &source)
         return isOn ? QStringLiteral("1") : QStringLiteral("0");
     };
     return {source,
-            titleOf(source),
+            PathComponents::stemOf(source),
             CVSyncMovies::convertedFile(QStringLiteral(".MP4")),
             CVSyncMovies::convertedFile(QStringLiteral(".THM")),
             QString::number(Settings::movieConvertVideoResolution()),
@@ -108,7 +101,7 @@ QVariantMap MovieQueue::queuedRow(const QString &path) const
         {identifierKey, path},
         {identifier2Key,
          QStringLiteral("%1-%2").arg(path).arg(m_services.clock.now().toSecsSinceEpoch())},
-        {nameKey, titleOf(path)},
+        {nameKey, PathComponents::stemOf(path)},
         {iconKey, QStringLiteral("ConvertWaiting")},
         {orderKey, 0},
         {readyKey, false},
@@ -160,7 +153,7 @@ void MovieQueue::addMoviesFromArray(const QStringList &paths)
     QStringList selected = selection();
     QSet<QString> known(selected.begin(), selected.end());
     for (const QString &path : paths) {
-        if (!path.startsWith(u'/') || titleOf(path).isEmpty()) {
+        if (!path.startsWith(u'/') || PathComponents::stemOf(path).isEmpty()) {
             qCWarning(lcModules).noquote() << "Not the full path of a movie:" << path;
             continue;
         }
@@ -205,7 +198,7 @@ void MovieQueue::renameMovieItem(const QVariantMap &row, const QString &newName)
         const auto found = itemIsInArray(row, *rows);
         if (found == rows->end())
             continue;
-        if (CVSyncMovies::isTitle(newName))
+        if (PathComponents::isName(newName))
             found->insert(nameKey, newName);
         else
             qCWarning(lcModules).noquote() << "This can't be a movie's title:" << newName;

@@ -50,11 +50,7 @@ bool isShown(QStringView extension, qint64 firmware)
 
 QString captionOf(const PhotoLibrary::Image &image)
 {
-    if (image.caption)
-        return *image.caption;
-    const QString name = image.path->section(u'/', -1);
-    const qsizetype extension = PathComponents::extensionOf(name).size();
-    return extension > 0 ? name.chopped(extension + 1) : name;
+    return image.caption ? *image.caption : PathComponents::stemOf(*image.path);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "sync/Log.h"
 #include "util/FileManagerTools.h"
 #include "util/Folders.h"
+#include "util/PathComponents.h"
 #include "util/Settings.h"
 
 #include <algorithm>
@@ -70,11 +71,6 @@ QString timestamp(const Clock &clock)
     return QString::number((clock.now().toMSecsSinceEpoch() + 500) / 1000);
 }
 
-bool isComponent(const QString &text)
-{
-    return !text.isEmpty() && text != u"." && text != u".." && !text.contains(u'/');
-}
-
 // A place for a backup of now that nothing has yet: two within one second, or under a clock that
 // was set back, must not meet.
 QString newBackupFolder(const QString &save, const Clock &clock)
@@ -108,8 +104,8 @@ bool copyWhole(const QString &source, const QString &backup, FileOperationHandle
     if (files().linkStatus(partial).exists())
         files().remove(partial, &handler); // of a run that was interrupted
     FileManagerTools::createPath(partial);
-    FileManagerTools::createPath(backup.section(u'/', 0, -2));
-    bool whole = files().copy(source, partial + u'/' + source.section(u'/', -1), &handler);
+    FileManagerTools::createPath(PathComponents::folderOf(backup));
+    bool whole = files().copy(source, partial + u'/' + PathComponents::lastOf(source), &handler);
     files().flush(partial);
     whole = whole && files().move(partial, backup, &handler);
     if (!whole)
@@ -173,13 +169,12 @@ QString CVSyncBackup::folderOf(const QString &identifier)
 
 bool CVSyncBackup::isSave(const QString &identifier)
 {
-    return isComponent(identifier);
+    return PathComponents::count(identifier) == 1;
 }
 
 bool CVSyncBackup::isBackup(const QString &identifier)
 {
-    const QStringList components = identifier.split(u'/');
-    return components.size() == 2 && isComponent(components[0]) && isComponent(components[1]);
+    return PathComponents::count(identifier) == 2;
 }
 
 // --- The run
@@ -227,7 +222,7 @@ void CVSyncBackup::removeOldBackups()
 
 bool CVSyncBackup::copyItem(const CVSyncItem &item)
 {
-    return copyWhole(item.source, item.destination.section(u'/', 0, -2), *this);
+    return copyWhole(item.source, PathComponents::folderOf(item.destination), *this);
 }
 
 // --- Restoring and deleting
