@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QSemaphore>
 #include <QSocketNotifier>
 #include <QTimer>
 
@@ -12,79 +13,28 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <condition_variable>
 #include <cstdint>
 #include <cstdlib>
 #include <deque>
-#include <memory>
 #include <mutex>
+#include <optional>
 #include <system_error>
 #include <thread>
 
 namespace {
 
-/// Waking a sleeping thread takes far longer than most calls do (100 µs and more on virtual
-/// machines), and calls come in bursts. So the main thread stays awake for a moment after each
-/// (that a chunk of a copy takes in memory; on a stick it takes a hundred times as long), and a
-/// waiting caller for as long as the main thread may take to wake.
-constexpr auto burstGap = std::chrono::microseconds(1000);
-constexpr auto wakeTime = std::chrono::microseconds(250);
+/// How long calls are served in one go, so that timers and requests don't starve.
 constexpr auto longestBurst = std::chrono::microseconds(4000);
-
-template <typename Condition>
-bool stayAwakeUntil(Condition condition, std::chrono::microseconds limit)
-{
-    for (int i = 0; i < 100; ++i) { // most waits are shorter than a system call
-        if (condition())
-            return true;
-    }
-    const auto end = std::chrono::steady_clock::now() + limit;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() >= end)
-            return false;
-        std::this_thread::yield(); // whom we wait for may need this very processor
-    }
-    return true;
-}
-
-/// Lets a waiting caller go on.
-class Completion
-{
-public:
-    void signal()
-    {
-        m_done.store(true, std::memory_order_release);
-        const std::scoped_lock lock(m_mutex);
-        m_changed.notify_one();
-    }
-
-    void wait()
-    {
-        const auto isDone = [this] {
-            return m_done.load(std::memory_order_acquire);
-        };
-        if (stayAwakeUntil(isDone, wakeTime))
-            return;
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, isDone);
-    }
-
-private:
-    std::atomic<bool> m_done = false;
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-};
 
 struct Call
 {
     std::function<void()> work;
-    std::shared_ptr<Completion> completion; // null where nobody waits
+    QSemaphore *done = nullptr; // the waiting caller's; null where nobody waits
 };
 
-/// The calls on their way to the main thread. Workers touch nothing of Qt's: they queue a call and,
-/// unless the main thread looks at the queue anyway, write to an eventfd, which its event loop
-/// watches. While a call is carried out it doesn't look: a nested event loop of the call's serves
-/// what comes meanwhile.
+/// The calls on their way to the main thread. Workers touch nothing of the application's, which may
+/// be gone: they write to an eventfd that its event loop watches. It stays readable while calls
+/// wait, so that a nested event loop of a call's serves what is left.
 class CallQueue
 {
 public:
@@ -107,89 +57,81 @@ public:
 
     void append(Call call)
     {
-        bool isWatched = false;
+        bool isFirst = false;
         {
             const std::scoped_lock lock(m_mutex);
+            isFirst = m_calls.empty();
             m_calls.push_back(std::move(call));
-            ++m_waiting;
-            isWatched = m_isWatched;
         }
-        if (!isWatched)
+        if (isFirst)
             wakeMainThread();
     }
 
     void serveWaiting()
     {
-        for (int count = m_waiting.load(std::memory_order_acquire); count > 0; --count)
-            serveOne();
-        stopWatching();
+        for (size_t count = waiting(); count > 0 && serveOne(); --count) {
+        }
     }
 
 private:
     void wakeMainThread() const
     {
         const std::uint64_t one = 1;
-        while (::write(m_wakeup, &one, sizeof one) < 0 && errno == EINTR) {
-        }
+        [[maybe_unused]] const auto written = ::write(m_wakeup, &one, sizeof one);
     }
 
-    /// A burst of calls is served in one go, but never so long that timers and requests starve.
+    size_t waiting()
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_calls.size();
+    }
+
     void serveBurst()
     {
-        std::uint64_t count = 0;
-        [[maybe_unused]] const auto cleared = ::read(m_wakeup, &count, sizeof count);
         const auto end = std::chrono::steady_clock::now() + longestBurst;
-        const auto hasNext = [this] {
-            return m_waiting.load(std::memory_order_acquire) > 0;
-        };
-        while (serveOne() && std::chrono::steady_clock::now() < end &&
-               stayAwakeUntil(hasNext, burstGap)) {
+        while (serveOne() && std::chrono::steady_clock::now() < end) {
         }
-        stopWatching();
     }
 
-    /// False where nothing waits. The queue is watched afterwards.
+    /// False where nothing waits.
     bool serveOne()
     {
-        Call call;
-        {
-            const std::scoped_lock lock(m_mutex);
-            if (m_calls.empty())
-                return false;
-            call = std::move(m_calls.front());
-            m_calls.pop_front();
-            --m_waiting;
-            m_isWatched = false;
-            if (!m_calls.empty())
-                wakeMainThread();
-        }
-        call.work();
-        call.work = nullptr; // what it captured dies before its caller goes on
-        {
-            const std::scoped_lock lock(m_mutex);
-            m_isWatched = true;
-        }
-        if (call.completion)
-            call.completion->signal();
+        std::optional<Call> call = takeFirst();
+        if (!call)
+            return false;
+        call->work();
+        call->work = nullptr; // what it captured dies before its caller goes on
+        if (call->done)
+            call->done->release();
         return true;
     }
 
-    void stopWatching()
+    std::optional<Call> takeFirst()
     {
         const std::scoped_lock lock(m_mutex);
-        m_isWatched = false;
-        if (!m_calls.empty())
-            wakeMainThread();
+        std::optional<Call> first;
+        if (!m_calls.empty()) {
+            first = std::move(m_calls.front());
+            m_calls.pop_front();
+        }
+        if (m_calls.empty())
+            sleepAgain();
+        return first;
+    }
+
+    /// Lets the event loop wait. With the lock held: a write that comes later is for a later call.
+    void sleepAgain() const
+    {
+        std::uint64_t count = 0;
+        [[maybe_unused]] const auto cleared = ::read(m_wakeup, &count, sizeof count);
     }
 
     const int m_wakeup;
     // Until an application is made, the thread that loaded the program.
     std::atomic<std::thread::id> m_mainThread = std::this_thread::get_id();
 
-    std::atomic<int> m_waiting = 0; // calls in the queue
-    std::mutex m_mutex;             // guards what follows
+    std::mutex m_mutex; // guards what follows
     std::deque<Call> m_calls;
-    bool m_isWatched = false; // the main thread looks at the queue by itself
 };
 
 /// Never destroyed: a detached worker may still call while the process ends. It then waits until
@@ -239,9 +181,9 @@ void performOnMainThread(std::function<void()> work, CallMode mode)
         work();
         return;
     }
-    const auto completion = std::make_shared<Completion>();
-    callQueue().append({std::move(work), completion});
-    completion->wait();
+    QSemaphore done;
+    callQueue().append({std::move(work), &done});
+    done.acquire();
 }
 
 // The toolkit ends the program by itself when its display goes away: no destructor may then run

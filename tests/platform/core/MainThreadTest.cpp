@@ -2,6 +2,9 @@
 
 #include "support/TestSupport.h"
 
+#include <QCoreApplication>
+#include <QTimer>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -75,6 +78,19 @@ TEST(MainThread, ANestedEventLoopServesLaterCalls)
     });
     EXPECT_TRUE(serve());
     EXPECT_TRUE(secondRan);
+}
+
+TEST(MainThread, CallsWithoutEndLeaveTimersTheirTurn)
+{
+    bool isOver = false;
+    std::function<void()> callAgain = [&] {
+        if (!isOver)
+            performOnMainThread(callAgain, CallMode::DontWait);
+    };
+    callAgain();
+    QTimer::singleShot(1ms, [&] { isOver = true; });
+    EXPECT_TRUE(waitFor([&] { return isOver; }));
+    QCoreApplication::processEvents(); // the last call
 }
 
 TEST(MainThread, WhatACallCapturedIsGoneWhenItsCallerGoesOn)
