@@ -6,7 +6,6 @@
 #include "platform/desktop/Sounds.h"
 #include "sync/CVSyncManager.h"
 #include "sync/Log.h"
-#include "util/FileManagerTools.h"
 #include "util/Folders.h"
 #include "util/PathComponents.h"
 #include "util/QMLogger.h"
@@ -21,24 +20,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString identifierKey = QStringLiteral("identifier");
-const QString identifier2Key = QStringLiteral("identifier2");
-const QString nameKey = QStringLiteral("name");
-const QString iconKey = QStringLiteral("icon");
-const QString convertingKey = QStringLiteral("converting");
-const QString enabledKey = QStringLiteral("enabled");
-const QString readyKey = QStringLiteral("ready");
-const QString orderKey = QStringLiteral("order");
-const QString sizeKey = QStringLiteral("size");
-
 // How long a quitting helper waits for its converter to remove what it half wrote.
 constexpr int quitPatience = 3000; // milliseconds
-
-QString sizeOf(const QString &path)
-{
-    return FileManagerTools::sizeDescriptionForByteCount(
-        FileManager::defaultManager().linkStatus(path).size);
-}
 
 /// The converter's twelve arguments.
 QStringList argumentsFor(const QString &source)
@@ -60,14 +43,12 @@ QStringList argumentsFor(const QString &source)
             QString()};
 }
 
-using Rows = QList<QVariantMap>;
-
-Rows::iterator itemIsInArray(const QVariantMap &item, Rows &rows)
+// The movie of a row that came back; the end where it is none of these.
+QList<QueuedMovie>::iterator find(const QVariantMap &row, QList<QueuedMovie> &movies)
 {
-    const QVariant wanted = item.value(identifier2Key);
-    return std::find_if(rows.begin(), rows.end(), [&](const QVariantMap &row) {
-        return wanted.isValid() && row.value(identifier2Key) == wanted;
-    });
+    const QString key = MovieRows::keyOf(row);
+    return std::find_if(movies.begin(), movies.end(),
+                        [&](const QueuedMovie &movie) { return movie.key() == key; });
 }
 
 } // namespace
@@ -95,42 +76,11 @@ void MovieQueue::select(const QStringList &identifiers) const
     CVSyncMovies::setSelectedIdentifiers(identifiers, m_services.manager.pspVolume());
 }
 
-QVariantMap MovieQueue::queuedRow(const QString &path) const
-{
-    return {
-        {identifierKey, path},
-        {identifier2Key,
-         QStringLiteral("%1-%2").arg(path).arg(m_services.clock.now().toSecsSinceEpoch())},
-        {nameKey, PathComponents::stemOf(path)},
-        {iconKey, QStringLiteral("ConvertWaiting")},
-        {orderKey, 0},
-        {readyKey, false},
-        {sizeKey, sizeOf(path)},
-        {enabledKey, true},
-    };
-}
-
-QVariantMap MovieQueue::libraryRow(const QString &identifier, const QStringList &selected) const
-{
-    QVariantMap row{
-        {identifierKey, identifier},
-        {nameKey, identifier.section(u'/', 1)},
-        {iconKey, CVSyncMovies::fileOf(identifier, QStringLiteral(".THM"))},
-        {orderKey, 1},
-        {readyKey, true},
-        {sizeKey, filled(localized("Size: %@"),
-                         {sizeOf(CVSyncMovies::fileOf(identifier, QStringLiteral(".MP4")))})},
-    };
-    if (selected.contains(identifier))
-        row.insert(enabledKey, true);
-    return row;
-}
-
 void MovieQueue::refreshEnabled()
 {
     const QStringList selected = selection();
-    for (QVariantMap &row : m_moviesQueue)
-        row.insert(enabledKey, selected.contains(row.value(identifierKey).toString()));
+    for (QueuedMovie &movie : m_moviesQueue)
+        movie.isEnabled = selected.contains(movie.source);
 }
 
 QVariantList MovieQueue::moviesItems()
@@ -140,11 +90,13 @@ QVariantList MovieQueue::moviesItems()
     for (const QString &identifier : CVSyncMovies::availableIdentifiers()) {
         const QString movie = CVSyncMovies::fileOf(identifier, QStringLiteral(".MP4"));
         if (!identifier.endsWith(u"/.DS_Store") && FileManager::defaultManager().exists(movie))
-            rows.append(libraryRow(identifier, selected));
+            rows.append(MovieRows::libraryRow(identifier, selected.contains(identifier)));
     }
     refreshEnabled();
-    for (const Rows &waiting : {m_moviesQueue, m_moviesFailed})
-        rows.append(QVariantList(waiting.begin(), waiting.end()));
+    for (const QList<QueuedMovie> &movies : {m_moviesQueue, m_moviesFailed}) {
+        for (const QueuedMovie &movie : movies)
+            rows.append(MovieRows::row(movie));
+    }
     return rows;
 }
 
@@ -152,12 +104,15 @@ void MovieQueue::addMoviesFromArray(const QStringList &paths)
 {
     QStringList selected = selection();
     QSet<QString> known(selected.begin(), selected.end());
+    const qint64 now = m_services.clock.now().toSecsSinceEpoch();
     for (const QString &path : paths) {
-        if (!path.startsWith(u'/') || PathComponents::stemOf(path).isEmpty()) {
+        const QString title = PathComponents::stemOf(path);
+        if (!path.startsWith(u'/') || title.isEmpty()) {
             qCWarning(lcModules).noquote() << "Not the full path of a movie:" << path;
             continue;
         }
-        m_moviesQueue.append(queuedRow(path));
+        m_moviesQueue.append(
+            {.source = path, .added = now, .title = title, .size = MovieRows::sizeOf(path)});
         if (!known.contains(path))
             selected.append(path);
         known.insert(path);
@@ -169,7 +124,7 @@ void MovieQueue::addMoviesFromArray(const QStringList &paths)
 
 void MovieQueue::removeMovieItem(const QVariantMap &row)
 {
-    const auto queued = itemIsInArray(row, m_moviesQueue);
+    const auto queued = find(row, m_moviesQueue);
     if (queued != m_moviesQueue.end()) {
         if (queued == m_moviesQueue.begin() && isConvertingMovie()) {
             m_movieQueueDidAbort = true;
@@ -181,12 +136,12 @@ void MovieQueue::removeMovieItem(const QVariantMap &row)
         }
         return;
     }
-    const auto failed = itemIsInArray(row, m_moviesFailed);
+    const auto failed = find(row, m_moviesFailed);
     if (failed != m_moviesFailed.end()) {
         m_moviesFailed.erase(failed);
         return;
     }
-    const QString identifier = row.value(identifierKey).toString();
+    const QString identifier = MovieRows::identifierOf(row);
     if (Settings::useDetailedLogging())
         m_services.logger.log(QStringLiteral("Deleting movie %@... "), identifier);
     CVSyncMovies::deleteMovieWithIdentifier(identifier);
@@ -194,17 +149,17 @@ void MovieQueue::removeMovieItem(const QVariantMap &row)
 
 void MovieQueue::renameMovieItem(const QVariantMap &row, const QString &newName)
 {
-    for (Rows *rows : {&m_moviesQueue, &m_moviesFailed}) {
-        const auto found = itemIsInArray(row, *rows);
-        if (found == rows->end())
+    for (QList<QueuedMovie> *movies : {&m_moviesQueue, &m_moviesFailed}) {
+        const auto found = find(row, *movies);
+        if (found == movies->end())
             continue;
         if (PathComponents::isName(newName))
-            found->insert(nameKey, newName);
+            found->title = newName;
         else
             qCWarning(lcModules).noquote() << "This can't be a movie's title:" << newName;
         return;
     }
-    CVSyncMovies::renameMovieWithIdentifier(row.value(identifierKey).toString(), newName,
+    CVSyncMovies::renameMovieWithIdentifier(MovieRows::identifierOf(row), newName,
                                             m_services.manager.pspVolume());
 }
 
@@ -234,11 +189,10 @@ void MovieQueue::queueRanEmpty()
 
 void MovieQueue::startHead()
 {
-    QVariantMap &head = m_moviesQueue.first();
-    const QString source = head.value(identifierKey).toString();
+    QueuedMovie &head = m_moviesQueue.first();
     if (Settings::useDetailedLogging())
         qCInfo(lcModules).noquote()
-            << QStringLiteral("Starting conversion of movie '%1'...").arg(source);
+            << QStringLiteral("Starting conversion of movie '%1'...").arg(head.source);
     m_progress = ConversionProgress(Settings::movieConvertVideoQuality());
     m_movieQueueDidAbort = false;
     // What an interrupted conversion left must not pass for this one's result.
@@ -251,9 +205,8 @@ void MovieQueue::startHead()
     connect(m_convertTask.get(), &ChildProcess::output, this, &MovieQueue::movieConversionOutput);
     connect(m_convertTask.get(), &ChildProcess::ended, this, &MovieQueue::movieConversionCompleted);
     m_convertTask->start(m_services.resourceFolder + QStringLiteral("/convert.sh"),
-                         argumentsFor(source), m_services.resourceFolder);
-    head.insert(iconKey, QStringLiteral("ConvertWorking1"));
-    head.insert(convertingKey, true);
+                         argumentsFor(head.source), m_services.resourceFolder);
+    head.state = QueuedMovie::State::Converting;
     m_services.delegate.startConversionAnimation();
 }
 
@@ -271,43 +224,40 @@ void MovieQueue::movieConversionCompleted(int exitStatus, const QString &error)
     if (m_moviesQueue.isEmpty())
         return;
     refreshEnabled();
-    QVariantMap row = m_moviesQueue.takeFirst();
+    const QueuedMovie movie = m_moviesQueue.takeFirst();
     if (exitStatus == 0)
-        storeConverted(row);
+        storeConverted(movie);
     else if (!m_movieQueueDidAbort)
-        fail(row, error);
+        fail(movie, error);
     m_percentConverted = ConversionProgress::initialText();
     m_services.delegate.stopConversionAnimation();
     m_services.delegate.reloadMoviesView();
 }
 
-void MovieQueue::storeConverted(QVariantMap &row)
+void MovieQueue::storeConverted(const QueuedMovie &movie)
 {
-    const QString name = row.value(nameKey).toString();
     if (Settings::useDetailedLogging())
-        m_services.logger.log(QStringLiteral("Movie conversion completed: %@"), name);
-    const auto identifier = CVSyncMovies::moveConvertedMovieNamed(name);
+        m_services.logger.log(QStringLiteral("Movie conversion completed: %@"), movie.title);
+    const auto identifier = CVSyncMovies::moveConvertedMovieNamed(movie.title);
     if (!identifier) {
         m_services.delegate.movieAlert(
             localized("Movie could not be stored!"),
             filled(localized("The movie \"%@\" was converted, but there is no place for it in the "
                              "movie library. It is kept in the folder %@."),
-                   {name, Folders::support()}));
+                   {movie.title, Folders::support()}));
         return;
     }
-    if (row.value(enabledKey).toBool())
+    if (movie.isEnabled)
         select(selection() << *identifier);
 }
 
-void MovieQueue::fail(QVariantMap &row, const QString &error)
+void MovieQueue::fail(QueuedMovie movie, const QString &error)
 {
-    const QString name = row.value(nameKey).toString();
-    m_services.logger.log(QStringLiteral("Movie conversion failed: %@"), name);
+    m_services.logger.log(QStringLiteral("Movie conversion failed: %@"), movie.title);
     if (!error.isEmpty())
         qCWarning(lcModules).noquote() << "The converter can't be started:" << error;
-    row.insert(iconKey, QStringLiteral("ConvertFailed"));
-    row.insert(convertingKey, false);
-    m_moviesFailed.append(row);
+    movie.state = QueuedMovie::State::Failed;
+    m_moviesFailed.append(std::move(movie));
 }
 
 void MovieQueue::close()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "modules/movies/ConversionProgress.h"
+#include "modules/movies/MovieRows.h"
 #include "platform/core/ChildProcess.h"
 
 #include <QTimer>
@@ -29,11 +30,7 @@ public:
 
 /// The movies that wait for their conversion, one conversion at a time, and the list of all movies.
 /// A finished movie goes to the library (CVSyncMovies) and into the mounted PSP's selection.
-///
-/// A row is a map with "identifier" (the source's path, or of a movie in the library its
-/// identifier), "name", "icon", "order", "ready", "size", "enabled" (absent where a movie of the
-/// library isn't selected), and of a queued or failed one also "identifier2", by which it is found
-/// again, and "converting". Nothing of the queue survives the process. Main thread.
+/// Nothing of the queue survives the process. Rows are those of MovieRows. Main thread.
 class MovieQueue : public QObject
 {
     Q_OBJECT
@@ -71,18 +68,16 @@ private:
     void startHead();
     void movieConversionOutput(const QByteArray &chunk);
     void movieConversionCompleted(int exitStatus, const QString &error);
-    void storeConverted(QVariantMap &row);
-    void fail(QVariantMap &row, const QString &error);
+    void storeConverted(const QueuedMovie &movie);
+    void fail(QueuedMovie movie, const QString &error);
     void refreshEnabled();
     void queueRanEmpty();
     QStringList selection() const;
     void select(const QStringList &identifiers) const;
-    QVariantMap queuedRow(const QString &path) const;
-    QVariantMap libraryRow(const QString &identifier, const QStringList &selected) const;
 
     const Services m_services;
-    QList<QVariantMap> m_moviesQueue; // the head is the one being converted
-    QList<QVariantMap> m_moviesFailed;
+    QList<QueuedMovie> m_moviesQueue; // the head is the one being converted
+    QList<QueuedMovie> m_moviesFailed;
     QTimer m_movieQueueTimer;
     std::unique_ptr<ChildProcess> m_convertTask; // while one runs or has just ended
     ConversionProgress m_progress{0};

@@ -126,7 +126,7 @@ TEST_F(MovieQueueTest, ConvertsOneAfterTheOtherAndSyncsThen)
     EXPECT_EQ(row(QStringLiteral("b")).value(QStringLiteral("size")), QStringLiteral("Size: 6 b"));
     EXPECT_EQ(animations, 0);
     EXPECT_EQ(reloads, 3);
-    EXPECT_EQ(harness.defaults.stringArrayForKey(QStringLiteral("enabledMovies"))->mid(2),
+    EXPECT_EQ(Settings::selection(CVSyncMovies::saveName())->mid(2),
               list({"M4V00001/My Clip", "M4V00002/b"}));
     const QString support = harness.home(QStringLiteral("Library/Application Support/Caravel"));
     EXPECT_EQ(
@@ -202,7 +202,7 @@ TEST_F(MovieQueueTest, RemovesRowsInEveryState)
     EXPECT_EQ(rows(), list({"a ConvertWorking1+", "c ConvertWaiting+"}));
     queue.renameMovieItem(row(QStringLiteral("c")), QStringLiteral("Sea"));
     queue.renameMovieItem(row(QStringLiteral("Sea")), QStringLiteral("a/b"));
-    harness.defaults.setObject(QStringLiteral("enabledMovies"), QStringList());
+    Settings::setSelection(CVSyncMovies::saveName(), {});
     const QVariantMap head = row(QStringLiteral("a"));
     setConverter(succeeds);
     queue.removeMovieItem(head);
@@ -236,7 +236,7 @@ TEST_F(MovieQueueTest, QueuesAThousandAtOnce)
     paths.append(paths.first());
     queue.addMoviesFromArray(paths);
     EXPECT_EQ(queue.moviesItems().size(), 1001);
-    EXPECT_EQ(harness.defaults.stringArrayForKey(QStringLiteral("enabledMovies"))->size(), 1000);
+    EXPECT_EQ(Settings::selection(CVSyncMovies::saveName())->size(), 1000);
     for (const QVariant &each : queue.moviesItems())
         queue.removeMovieItem(each.toMap());
     ASSERT_TRUE(waitUntilIdle());
