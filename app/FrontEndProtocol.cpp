@@ -2,7 +2,7 @@
 
 #include "app/CaravelHelperController.h"
 #include "platform/lists/UserDefaults.h"
-#include "util/FileManagerTools.h"
+#include "util/ByteCount.h"
 
 namespace FrontEndProtocol {
 

@@ -10,7 +10,7 @@
 #include "platform/lists/UserDefaults.h"
 #include "sync/CVSyncItem.h"
 #include "sync/CVSyncManager.h"
-#include "util/FileManagerTools.h"
+#include "util/ByteCount.h"
 #include "util/QMLogger.h"
 #include "util/Settings.h"
 #include "util/TextFormat.h"
@@ -22,16 +22,6 @@ namespace {
 QString size(std::optional<quint64> bytes)
 {
     return FileManagerTools::sizeDescriptionForByteCount(bytes);
-}
-
-// One line for the log, keys in a fixed order.
-QString description(const ErrorInfo &error)
-{
-    QString text = QStringLiteral("%1: %2").arg(error.value(QStringLiteral("Error")).toString(),
-                                                error.value(QStringLiteral("Path")).toString());
-    if (const QString reason = error.value(QStringLiteral("Reason")).toString(); !reason.isEmpty())
-        text += QStringLiteral(" (%1)").arg(reason);
-    return text;
 }
 
 } // namespace
@@ -210,19 +200,20 @@ void SyncStatus::syncWillCancel()
          localized("Please wait while Caravel completes the previous task..."));
 }
 
-void SyncStatus::syncError(const ErrorInfo &error)
+void SyncStatus::syncError(const ErrorInfo &info)
 {
-    const QString kind = error.value(QStringLiteral("Error")).toString();
+    const FileError error = fileError(info);
     // A write that fails leaves a file as incomplete as one that couldn't be made.
-    if (kind != u"Couldn't create" && kind != u"Couldn't write") {
-        qCWarning(lcApp).noquote() << description(error);
+    if (error.operation != FileError::Operation::Create &&
+        error.operation != FileError::Operation::Write) {
+        qCWarning(lcApp).noquote() << error.description();
         return;
     }
     CVSyncManager &manager = m_services.manager;
     if (manager.pspIsMounted() && manager.pspFreeSpace().value_or(0) == 0)
         memoryStickFilled();
     else
-        m_services.logger.log(QStringLiteral("Unexpected error: %@"), description(error));
+        m_services.logger.log(QStringLiteral("Unexpected error: %@"), error.description());
 }
 
 void SyncStatus::memoryStickFilled()

@@ -63,7 +63,7 @@ public:
     void syncDidCopyBytes(quint64 count) override;
     void syncDidCopyLastBytes() override;
     void syncDidProcessItem(const CVSyncItem &item) override;
-    void syncError(const ErrorInfo &error) override;
+    void syncError(const ErrorInfo &info) override;
     void finalizeDidStart() override;
     bool shouldUnmountPSP() override;
     void pspWillUnmount() override;

@@ -119,7 +119,7 @@ struct NoStick : CVSyncModuleDelegate
     void syncModuleWillProcessItem(const CVSyncItem &) override {}
     void syncModuleDidCopyBytes(quint64) override {}
     void syncModuleDidProcessItem(const CVSyncItem &) override {}
-    void syncModuleError(const ErrorInfo &) override {}
+    void syncModuleError(const FileError &) override {}
 };
 
 size_t itemsToSync()

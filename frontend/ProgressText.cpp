@@ -1,6 +1,6 @@
 #include "frontend/ProgressText.h"
 
-#include "util/FileManagerTools.h"
+#include "util/ByteCount.h"
 
 #include <algorithm>
 #include <cmath>

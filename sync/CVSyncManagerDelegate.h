@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/files/FileManager.h"
+#include "sync/ErrorInfo.h"
 
 #include <QString>
 
@@ -39,7 +39,7 @@ public:
     /// The bytes copied have reached the run's total. Not told when there was nothing to copy.
     virtual void syncDidCopyLastBytes() = 0;
     virtual void syncDidProcessItem(const CVSyncItem &item) = 0;
-    /// A file operation failed; the run goes on. Keys: "Error", "Path", perhaps "Reason".
+    /// A file operation failed; the run goes on.
     virtual void syncError(const ErrorInfo &error) = 0;
     virtual void finalizeDidStart() = 0;
     /// Whether a completed run may eject. Asked on the run's thread; must change nothing.

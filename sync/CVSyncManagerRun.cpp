@@ -18,11 +18,6 @@ namespace {
 constexpr int startPauses = 5;
 constexpr auto startPause = std::chrono::seconds(1);
 
-FileManager &files()
-{
-    return FileManager::defaultManager();
-}
-
 } // namespace
 
 void CVSyncManager::sync()
@@ -212,9 +207,9 @@ void CVSyncManager::recordSizes(SyncRun &run)
         if (const auto space = files().volumeSpace(run.pspVolume()))
             Settings::lastFreeSpace.set(space->free);
         const QString path = StickFiles::lastSyncSize(run.pspVolume());
-        QString reason;
-        if (!files().writeAtomically(path, NumberArchive::encode(size), &reason))
-            qCWarning(lcSync).noquote() << "Can't write" << path << ":" << reason;
+        if (const auto written = files().writeAtomically(path, NumberArchive::encode(size));
+            !written)
+            qCWarning(lcSync).noquote() << "Can't write" << path << ":" << written.error().text;
     }
     m_syncBytesTotal = 1;
     m_syncBytes = 0;

@@ -10,15 +10,6 @@
 
 #include <QHash>
 
-namespace {
-
-FileManager &files()
-{
-    return FileManager::defaultManager();
-}
-
-} // namespace
-
 CVSyncModule::CVSyncModule(CVSyncModuleDelegate *delegate, const QString &saveName)
     : m_delegate(delegate)
     , m_saveName(saveName)
@@ -182,8 +173,7 @@ CVSyncModule::Reach CVSyncModule::reachOf(const QString &folder)
     Reach reach = status.exists() ? Reach::Present : Reach::Missing;
     if (status.kind == FileStatus::Kind::Link) {
         fileManagerShouldProceedAfterError(
-            {{QStringLiteral("Error"), QStringLiteral("Won't follow a link off the stick")},
-             {QStringLiteral("Path"), folder}});
+            FileError::of(FileError::Operation::FollowLink, folder, 0));
         reach = Reach::ThroughLink;
     } else if (reachOf(PathComponents::folderOf(folder)) == Reach::ThroughLink) {
         reach = Reach::ThroughLink;
@@ -321,7 +311,7 @@ bool CVSyncModule::fileManagerCopiedBytes(quint64 bytes, const QString &)
     return m_delegate->syncModuleShouldCancel();
 }
 
-bool CVSyncModule::fileManagerShouldProceedAfterError(const ErrorInfo &error)
+bool CVSyncModule::fileManagerShouldProceedAfterError(const FileError &error)
 {
     m_delegate->syncModuleError(error);
     return true;

@@ -66,7 +66,7 @@ public:
 
     // The hooks of the module's file operations: the delegate hears of chunks and errors.
     bool fileManagerCopiedBytes(quint64 bytes, const QString &toPath) override;
-    bool fileManagerShouldProceedAfterError(const ErrorInfo &error) override;
+    bool fileManagerShouldProceedAfterError(const FileError &error) override;
 
 protected:
     /// Copies one item of the queue to its destination, making the folders above it; false where it

@@ -30,5 +30,5 @@ public:
     virtual void syncModuleDidCopyBytes(quint64 count) = 0;
     virtual void syncModuleDidProcessItem(const CVSyncItem &item) = 0;
     /// A file operation of the module failed; the module goes on.
-    virtual void syncModuleError(const ErrorInfo &error) = 0;
+    virtual void syncModuleError(const FileError &error) = 0;
 };

@@ -50,9 +50,10 @@ void SyncRun::syncModuleDidProcessItem(const CVSyncItem &item)
     m_manager.tell([&item](CVSyncManagerDelegate &delegate) { delegate.syncDidProcessItem(item); });
 }
 
-void SyncRun::syncModuleError(const ErrorInfo &error)
+void SyncRun::syncModuleError(const FileError &error)
 {
-    m_manager.tell([&error](CVSyncManagerDelegate &delegate) { delegate.syncError(error); });
+    m_manager.tell(
+        [&error](CVSyncManagerDelegate &delegate) { delegate.syncError(errorInfo(error)); });
 }
 
 void SyncRun::learnHowNamesCompare()

@@ -30,7 +30,7 @@ public:
     void syncModuleWillProcessItem(const CVSyncItem &item) override;
     void syncModuleDidCopyBytes(quint64 count) override;
     void syncModuleDidProcessItem(const CVSyncItem &item) override;
-    void syncModuleError(const ErrorInfo &error) override;
+    void syncModuleError(const FileError &error) override;
 
     /// Finds out how the stick compares names, by a folder that is known to lie on it.
     void learnHowNamesCompare();

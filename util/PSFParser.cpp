@@ -142,7 +142,7 @@ void logDetail(const QString &text)
 
 std::optional<QMap<QString, QString>> PSFParser::dictionaryWithPSFFile(const QString &path)
 {
-    const auto contents = FileManager::defaultManager().readFile(path, fileLimit);
+    const auto contents = files().readFile(path, fileLimit);
     if (!contents) {
         logDetail(QStringLiteral("PSF file cannot be opened: ") + path);
         return std::nullopt;

@@ -5,6 +5,8 @@
 
 #include <QStringDecoder>
 
+#include <cerrno>
+
 namespace {
 
 QString decoded(const QByteArray &bytes)
@@ -20,14 +22,13 @@ QString decoded(const QByteArray &bytes)
 
 std::optional<QString> TextFile::read(const QString &path, quint64 limit)
 {
-    const FileManager &files = FileManager::defaultManager();
-    const std::optional<QByteArray> bytes = files.readFile(path, limit);
+    const auto bytes = files().readFile(path, limit);
     if (bytes)
         return decoded(*bytes);
-    if (const FileStatus status = files.status(path); status.size > limit)
+    if (bytes.error().number == EFBIG)
         qCWarning(lcUtil).noquote()
             << "Can't read" << path << "which is longer than" << limit << "bytes";
-    else if (status.exists())
+    else if (!bytes.error().isMissing())
         qCWarning(lcUtil).noquote() << "Can't read" << path;
     return std::nullopt;
 }

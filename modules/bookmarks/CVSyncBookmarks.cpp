@@ -105,10 +105,10 @@ std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
     const QString name = QStringLiteral("/bookmarks.html");
     const QString staged = Folders::support() + name;
     const QByteArray lines = bookmarkLines();
-    QString reason;
-    if (!FileManager::defaultManager().writeAtomically(staged, header + lines + "</DL><p>",
-                                                       &reason))
-        qCWarning(lcModules).noquote().nospace() << "Can't write " << staged << ": " << reason;
+    const auto written = files().writeAtomically(staged, header + lines + "</DL><p>");
+    if (!written)
+        qCWarning(lcModules).noquote().nospace()
+            << "Can't write " << staged << ": " << written.error().text;
     if (lines.isEmpty())
         return {};
     return {CVSyncItem(staged, rootSyncFolder() + name, progressText())};

@@ -2,6 +2,7 @@
 
 #include "modules/contacts/own/ContactsPage.h"
 #include "platform/core/Localized.h"
+#include "platform/files/OpenFile.h"
 #include "platform/people/ContactPicture.h"
 #include "sync/Log.h"
 #include "util/Folders.h"
@@ -16,36 +17,28 @@ namespace {
 
 constexpr quint64 maximumStagedBytes = 1 << 20; // of a picture; it has a few thousand
 
-FileManager &files()
-{
-    return FileManager::defaultManager();
-}
-
 QString staged(const QString &name)
 {
     return Folders::support() + u'/' + name;
 }
 
-void sayNotWritten(const QString &path, const QString &reason)
+void sayNotWritten(const FileError &error)
 {
-    qCWarning(lcModules).noquote().nospace() << "Can't write " << path << ": " << reason;
+    qCWarning(lcModules).noquote().nospace() << "Can't write " << error.path << ": " << error.text;
 }
 
 /// In place: a picture that is cut off is told by its missing end, and made anew.
 void writePicture(const QString &path, const QByteArray &bytes)
 {
-    const int descriptor = files().createForWriting(path, FileManager::Existing::Truncate);
-    qint64 done = 0;
-    qint64 step = descriptor < 0 ? -1 : 1;
-    while (step > 0 && done < bytes.size()) {
-        step = files().write(descriptor, bytes.constData() + done,
-                             static_cast<size_t>(bytes.size() - done));
-        done += std::max<qint64>(step, 0);
+    auto file = OpenFile::forWriting(path, FileManager::Existing::Truncate);
+    if (!file) {
+        sayNotWritten(file.error());
+        return;
     }
-    const int error = errno;
-    const bool isClosed = descriptor >= 0 && files().close(descriptor);
-    if (done < bytes.size() || !isClosed)
-        sayNotWritten(path, QString::fromLocal8Bit(std::strerror(isClosed ? error : errno)));
+    const auto written = file->write(bytes.constData(), static_cast<size_t>(bytes.size()));
+    const auto closed = file->close();
+    if (!written || !closed)
+        sayNotWritten(written ? closed.error() : written.error());
 }
 
 void stagePicture(const QByteArray &image, const QString &path, const QString &person)
@@ -63,9 +56,8 @@ void stagePicture(const QByteArray &image, const QString &path, const QString &p
 
 void stagePage(const ContactsPage &page, const QString &path)
 {
-    QString reason;
-    if (!files().writeAtomically(path, page.html().toUtf8(), &reason))
-        sayNotWritten(path, reason);
+    if (const auto written = files().writeAtomically(path, page.html().toUtf8()); !written)
+        sayNotWritten(written.error());
 }
 
 /// By first name, then organization; nobody's name comes first.

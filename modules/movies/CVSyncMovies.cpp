@@ -1,6 +1,8 @@
 #include "modules/movies/CVSyncMovies.h"
 
 #include "platform/core/Localized.h"
+#include "platform/desktop/Workspace.h"
+#include "sync/ErrorLog.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
 #include "util/FileManagerTools.h"
@@ -24,11 +26,6 @@ QString dropbox()
     return Folders::dropbox(QStringLiteral("Movies"));
 }
 
-FileManager &files()
-{
-    return FileManager::defaultManager();
-}
-
 QString idOf(const QString &identifier)
 {
     return identifier.section(u'/', 0, 0);
@@ -39,24 +36,10 @@ QString titleOf(const QString &identifier)
     return identifier.section(u'/', 1);
 }
 
-/// Errors of a move, for the system log.
-class LoggingHandler : public FileOperationHandler
-{
-public:
-    bool fileManagerCopiedBytes(quint64, const QString &) override { return false; }
-    bool fileManagerShouldProceedAfterError(const ErrorInfo &error) override
-    {
-        qCWarning(lcModules).noquote() << error.value(QStringLiteral("Error")).toString()
-                                       << error.value(QStringLiteral("Path")).toString()
-                                       << error.value(QStringLiteral("Reason")).toString();
-        return true;
-    }
-};
-
 bool moveReported(const QString &source, const QString &destination)
 {
-    LoggingHandler handler;
-    return files().move(source, destination, &handler);
+    ErrorLog errors;
+    return files().move(source, destination, &errors);
 }
 
 // A free name in the support folder: what an earlier movie of that title left there stays.
@@ -165,7 +148,7 @@ bool CVSyncMovies::deleteMovieWithIdentifier(const QString &identifier)
 {
     const QString folder = libraryRoot() + u'/' + idOf(identifier);
     if (isIdentifier(identifier) && files().linkStatus(folder).exists())
-        return FileManagerTools::trashFileAtPath(folder);
+        return Workspace::recycle(folder);
     qCWarning(lcModules).noquote() << "There is no movie to delete named" << identifier;
     return false;
 }

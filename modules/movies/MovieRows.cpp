@@ -2,7 +2,7 @@
 
 #include "modules/movies/CVSyncMovies.h"
 #include "platform/core/Localized.h"
-#include "util/FileManagerTools.h"
+#include "util/ByteCount.h"
 #include "util/TextFormat.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "modules/music/own/MusicNaming.h"
 
-#include "util/FileManagerTools.h"
+#include "util/Filename.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
 

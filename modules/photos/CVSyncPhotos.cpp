@@ -4,6 +4,7 @@
 #include "platform/lists/UserDefaults.h"
 #include "sync/ModuleSelection.h"
 #include "util/FileManagerTools.h"
+#include "util/Filename.h"
 #include "util/Folders.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"

@@ -2,6 +2,8 @@
 
 #include "platform/core/Clock.h"
 #include "platform/core/Localized.h"
+#include "platform/desktop/Workspace.h"
+#include "sync/ErrorLog.h"
 #include "sync/Log.h"
 #include "util/FileManagerTools.h"
 #include "util/Folders.h"
@@ -11,11 +13,6 @@
 #include <algorithm>
 
 namespace {
-
-FileManager &files()
-{
-    return FileManager::defaultManager();
-}
 
 QString backupFolder()
 {
@@ -82,20 +79,6 @@ QString newBackupFolder(const QString &save, const Clock &clock)
         ++number;
     return folder + QString::number(number);
 }
-
-/// Errors go to the system log; whether there were any is remembered.
-class Errors : public FileOperationHandler
-{
-public:
-    bool fileManagerCopiedBytes(quint64, const QString &) override { return false; }
-    bool fileManagerShouldProceedAfterError(const ErrorInfo &error) override
-    {
-        qCWarning(lcModules).noquote() << error.value(QStringLiteral("Error")).toString()
-                                       << error.value(QStringLiteral("Path")).toString()
-                                       << error.value(QStringLiteral("Reason")).toString();
-        return true;
-    }
-};
 
 // Copies a save into a new folder of the history, which is there once all of it is, in one step.
 bool copyWhole(const QString &source, const QString &backup, FileOperationHandler &handler)
@@ -211,7 +194,7 @@ void CVSyncBackup::removeOldBackups()
     const qint64 choice = Settings::backupsToKeep();
     if (choice > static_cast<qint64>(std::size(kept)))
         return;
-    Errors errors;
+    ErrorLog errors;
     for (const QString &save : availableIdentifiers()) {
         QStringList names = availableSubIdentifiersForIdentifier(save);
         std::sort(names.begin(), names.end());
@@ -239,7 +222,7 @@ CVSyncBackup::Restored CVSyncBackup::restoreBackupWithIdentifier(const QString &
     const QString save = identifier.section(u'/', 0, 0);
     const QString backup = folderOf(identifier);
     const QString target = savedataFolder(volume) + u'/' + save;
-    Errors errors;
+    ErrorLog errors;
     removeLeftovers(volume);
     if (files().linkStatus(target).exists()) {
         if (files().contentsEqual(backup, target))
@@ -269,7 +252,7 @@ bool CVSyncBackup::deleteBackupWithIdentifier(const QString &identifier)
 {
     const QString path = backupRoot() + u'/' + identifier;
     if ((isSave(identifier) || isBackup(identifier)) && files().linkStatus(path).exists())
-        return FileManagerTools::trashFileAtPath(path);
+        return Workspace::recycle(path);
     qCWarning(lcModules).noquote() << "There is no backup to delete named" << identifier;
     return false;
 }

@@ -51,7 +51,8 @@ QByteArray contents(const QString &name, const QString &executable)
 bool hasContents(const QString &path, const QByteArray &wanted)
 {
     const auto limit = static_cast<quint64>(wanted.size());
-    return FileManager::defaultManager().readFile(path, limit) == wanted;
+    const auto contents = files().readFile(path, limit);
+    return contents && *contents == wanted;
 }
 
 } // namespace
@@ -63,10 +64,10 @@ bool Autostart::add(const QString &entry, const QString &name, const QString &ex
     if (hasContents(path, wanted))
         return true;
     QDir().mkpath(folder());
-    QString reason;
-    if (FileManager::defaultManager().writeAtomically(path, wanted, &reason))
+    const auto written = files().writeAtomically(path, wanted);
+    if (written)
         return true;
-    qCWarning(lcPlatform).noquote() << "Can't write" << path << "-" << reason;
+    qCWarning(lcPlatform).noquote() << "Can't write" << path << "-" << written.error().text;
     return false;
 }
 

@@ -14,10 +14,10 @@
 #include <cerrno>
 #include <cstdio>
 
-namespace {
+using Posix::newFileMode;
+using Posix::retryInterrupted;
 
-constexpr mode_t newFileMode = 0644;
-constexpr mode_t newFolderMode = 0755;
+namespace {
 
 std::atomic<FileManager *> replacement = nullptr;
 
@@ -27,15 +27,6 @@ FileStatus statusFrom(const struct stat &status)
                       : S_ISLNK(status.st_mode) ? FileStatus::Kind::Link
                                                 : FileStatus::Kind::File;
     return {kind, static_cast<quint64>(status.st_size)};
-}
-
-template <typename Operation>
-auto retryInterrupted(Operation operation)
-{
-    auto result = operation();
-    while (result < 0 && errno == EINTR)
-        result = operation();
-    return result;
 }
 
 /// A file that stands in for another until all of it is on the device. Removed again unless it was
@@ -109,19 +100,6 @@ private:
     int m_file = -1;
 };
 
-bool writeAll(FileManager &files, int descriptor, const QByteArray &contents)
-{
-    qsizetype written = 0;
-    while (written < contents.size()) {
-        const qint64 count = files.write(descriptor, contents.constData() + written,
-                                         static_cast<size_t>(contents.size() - written));
-        if (count <= 0)
-            return false;
-        written += count;
-    }
-    return true;
-}
-
 void flushFileSystemOf(const Posix::Descriptor &any)
 {
     if (!any || ::syncfs(any.get()) != 0)
@@ -165,9 +143,11 @@ FileStatus FileManager::linkStatus(const QString &path) const
                                                                   : FileStatus();
 }
 
-bool FileManager::createFolder(const QString &path)
+FileResult<> FileManager::createFolder(const QString &path)
 {
-    return ::mkdir(Posix::native(path).constData(), newFolderMode) == 0;
+    if (::mkdir(Posix::native(path).constData(), Posix::newFolderMode) == 0)
+        return {};
+    return FileError::of(FileError::Operation::Create, path, errno);
 }
 
 int FileManager::openForReading(const QString &path)
@@ -220,28 +200,42 @@ void FileManager::flush(const QString &path)
         ::open(Posix::native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)));
 }
 
-bool FileManager::writeAtomically(const QString &path, const QByteArray &contents, QString *reason)
+FileResult<> FileManager::writeAtomically(const QString &path, const QByteArray &contents)
 {
     const QByteArray target = Posix::native(path);
-    const auto fail = [reason] {
-        if (reason)
-            *reason = Posix::reason(errno);
-        return false;
-    };
     TemporaryFile temporary(target);
-    if (temporary.descriptor() < 0 || !writeAll(*this, temporary.descriptor(), contents))
-        return fail();
-    if (!temporary.moveIntoPlace(target) || !flushFolderOf(target))
-        return fail();
+    if (temporary.descriptor() >= 0 &&
+        writeAll(temporary.descriptor(), contents.constData(), size_t(contents.size())) &&
+        temporary.moveIntoPlace(target) && flushFolderOf(target))
+        return {};
+    return FileError::of(FileError::Operation::Write, path, errno);
+}
+
+bool FileManager::writeAll(int descriptor, const void *bytes, size_t count)
+{
+    const char *rest = static_cast<const char *>(bytes);
+    while (count > 0) {
+        errno = 0; // a write of nothing sets none
+        const qint64 written = write(descriptor, rest, count);
+        if (written <= 0)
+            return false;
+        rest += written;
+        count -= static_cast<size_t>(written);
+    }
     return true;
 }
 
-std::optional<QByteArray> FileManager::readFile(const QString &path, quint64 limit) const
+FileResult<QByteArray> FileManager::readFile(const QString &path, quint64 limit) const
 {
+    const auto failed = [&path](int error) {
+        return FileError::of(FileError::Operation::Read, path, error);
+    };
     const Posix::Descriptor file(Posix::openRegularFile(Posix::native(path).constData()));
     struct stat status;
-    if (!file || ::fstat(file.get(), &status) != 0 || static_cast<quint64>(status.st_size) > limit)
-        return std::nullopt;
+    if (!file || ::fstat(file.get(), &status) != 0)
+        return failed(errno);
+    if (static_cast<quint64>(status.st_size) > limit)
+        return failed(EFBIG);
     QByteArray contents;
     qint64 count = 0;
     do {
@@ -254,7 +248,7 @@ std::optional<QByteArray> FileManager::readFile(const QString &path, quint64 lim
         contents.resize(known + std::max<qint64>(count, 0));
     } while (count > 0 && static_cast<quint64>(contents.size()) <= limit);
     if (count != 0)
-        return std::nullopt;
+        return failed(count < 0 ? errno : EFBIG);
     return contents;
 }
 

@@ -1,16 +1,12 @@
 #pragma once
 
+#include "platform/files/FileError.h"
+
 #include <QByteArray>
 #include <QString>
-#include <QVariantMap>
 
-#include <memory>
 #include <optional>
 #include <vector>
-
-/// What a failed file operation tells its handler: "Error" (what could not be done), "Path" (the
-/// path concerned, absolute) and, where the system gave one, "Reason" (its own text).
-using ErrorInfo = QVariantMap;
 
 /// Told of the progress and the errors of file operations, on the thread that runs them.
 class FileOperationHandler
@@ -23,7 +19,7 @@ public:
 
     /// One step of an operation failed; the operation goes on with the next step when the answer is
     /// true and ends there when it is false. The chunked copy ignores the answer.
-    virtual bool fileManagerShouldProceedAfterError(const ErrorInfo &error) = 0;
+    virtual bool fileManagerShouldProceedAfterError(const FileError &error) = 0;
 };
 
 /// What one look at a path tells.
@@ -91,18 +87,20 @@ public:
     /// False when anything can't be read.
     virtual bool contentsEqual(const QString &first, const QString &second) const;
 
-    /// Makes one folder (0755 less the umask). False when it could not, or something is there.
-    virtual bool createFolder(const QString &path);
+    /// Makes one folder (0755 less the umask); fails where something is there.
+    virtual FileResult<> createFolder(const QString &path);
 
-    /// Raw access for chunked copies, as POSIX: a descriptor or -1, a count or -1, errno set. Reads
-    /// and writes are retried when interrupted. Regular files only: reading another kind fails with
-    /// EISDIR or EINVAL. A new file has 0644 less the umask; where something is there already, a
-    /// link that leads nowhere too, `Refuse` fails with EEXIST.
+    /// Raw access, which OpenFile makes handy, as POSIX: a descriptor or -1, a count or -1, errno
+    /// set. Reads and writes are retried when interrupted. Regular files only: reading another kind
+    /// fails with EISDIR or EINVAL. A new file has 0644 less the umask; where something is there
+    /// already, a link that leads nowhere too, `Refuse` fails with EEXIST.
     enum class Existing { Truncate, Refuse };
     virtual int openForReading(const QString &path);
     virtual int createForWriting(const QString &path, Existing existing);
     virtual qint64 read(int descriptor, void *buffer, size_t count);
     virtual qint64 write(int descriptor, const void *buffer, size_t count);
+    /// All of it, in as many steps as it takes; false and errno where that fails.
+    bool writeAll(int descriptor, const void *bytes, size_t count);
     virtual bool close(int descriptor);
 
     /// Closes a file that was written, then writes the buffers of its file system to the device
@@ -142,13 +140,13 @@ public:
     virtual bool removeEmptyFolder(const QString &path, FileOperationHandler *handler);
 
     /// Replaces a small file whole: a temporary beside it, flushed, renamed, and the folder
-    /// flushed. On failure the old file stays, no temporary is left and the reason is stored; only
-    /// when nothing but the folder's flush failed, the new file is in place already.
-    virtual bool writeAtomically(const QString &path, const QByteArray &contents, QString *reason);
+    /// flushed. On failure the old file stays and no temporary is left; only when nothing but the
+    /// folder's flush failed, the new file is in place already.
+    virtual FileResult<> writeAtomically(const QString &path, const QByteArray &contents);
 
-    /// A whole file, or nothing when it is missing, unreadable, no regular file, or longer than the
-    /// limit.
-    virtual std::optional<QByteArray> readFile(const QString &path, quint64 limit) const;
+    /// A whole file; fails where it is missing, unreadable, no regular file, or longer than the
+    /// limit (EFBIG).
+    virtual FileResult<QByteArray> readFile(const QString &path, quint64 limit) const;
 
     /// Space of the file system that holds the path; nothing where the path doesn't exist.
     virtual std::optional<VolumeSpace> volumeSpace(const QString &path) const;
@@ -156,3 +154,9 @@ public:
     /// What the desktop would call the file: its name.
     virtual QString displayName(const QString &path) const;
 };
+
+/// FileManager::defaultManager() for short.
+inline FileManager &files()
+{
+    return FileManager::defaultManager();
+}

@@ -244,5 +244,8 @@ bool PropertyList::writeAtomically(const QVariant &root, const QString &path, QS
             *reason = QStringLiteral("no property list can hold the value");
         return false;
     }
-    return FileManager::defaultManager().writeAtomically(path, xml, reason);
+    const auto written = files().writeAtomically(path, xml);
+    if (!written && reason)
+        *reason = written.error().text;
+    return bool(written);
 }

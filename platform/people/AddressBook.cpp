@@ -53,7 +53,7 @@ QByteArray PersonImage::data() const
     if (!contents)
         qCWarning(lcPlatform).noquote()
             << "A contact's picture can't be read, or is larger than 64 MiB:" << file;
-    return contents.value_or(QByteArray());
+    return contents.valueOr(QByteArray());
 }
 
 AddressBook &AddressBook::sharedAddressBook()

@@ -34,9 +34,11 @@ public:
         ++listings;
         return FileManager::subpaths(folder);
     }
-    bool createFolder(const QString &path) override
+    FileResult<> createFolder(const QString &path) override
     {
-        return !isReadOnly(path) && FileManager::createFolder(path);
+        if (isReadOnly(path))
+            return FileError::of(FileError::Operation::Create, path, EROFS);
+        return FileManager::createFolder(path);
     }
     int createForWriting(const QString &path, Existing existing) override
     {
@@ -66,9 +68,11 @@ public:
         return isReadOnly(path) ? refuse(path, handler)
                                 : FileManager::removeEmptyFolder(path, handler);
     }
-    bool writeAtomically(const QString &path, const QByteArray &contents, QString *reason) override
+    FileResult<> writeAtomically(const QString &path, const QByteArray &contents) override
     {
-        return !isReadOnly(path) && FileManager::writeAtomically(path, contents, reason);
+        if (isReadOnly(path))
+            return FileError::of(FileError::Operation::Write, path, EROFS);
+        return FileManager::writeAtomically(path, contents);
     }
     std::optional<VolumeSpace> volumeSpace(const QString &path) const override
     {
@@ -90,9 +94,7 @@ private:
     {
         if (handler) {
             handler->fileManagerShouldProceedAfterError(
-                {{QStringLiteral("Error"), QStringLiteral("Couldn't remove")},
-                 {QStringLiteral("Path"), path},
-                 {QStringLiteral("Reason"), QStringLiteral("Read-only file system")}});
+                FileError::of(FileError::Operation::Remove, path, EROFS));
         }
         return false;
     }

@@ -1,4 +1,6 @@
 #include "util/FileManagerTools.h"
+#include "util/ByteCount.h"
+#include "util/Filename.h"
 
 #include "support/TestSupport.h"
 
@@ -86,11 +88,11 @@ public:
         paths.insert(toPath);
         return chunks.size() == m_stopAfter;
     }
-    bool fileManagerShouldProceedAfterError(const ErrorInfo &error) override
+    bool fileManagerShouldProceedAfterError(const FileError &error) override
     {
-        errors.push_back(error[QStringLiteral("Error")].toString().toStdString());
-        paths.insert(error[QStringLiteral("Path")].toString());
-        EXPECT_FALSE(error[QStringLiteral("Reason")].toString().isEmpty());
+        errors.push_back(error.what().toStdString());
+        paths.insert(error.path);
+        EXPECT_FALSE(error.text.isEmpty());
         return true;
     }
 

@@ -3,15 +3,31 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cerrno>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include <sys/types.h>
+
 struct stat;
 
-/// What the file layer shares: POSIX calls with their bookkeeping. For the .cpp files of this
-/// folder.
+/// POSIX calls with their bookkeeping, for the rooms of the platform.
 namespace Posix {
+
+/// Of what is made anew, less the umask.
+inline constexpr mode_t newFileMode = 0644;
+inline constexpr mode_t newFolderMode = 0755;
+
+/// Calls again as long as a signal interrupts.
+template <typename Operation>
+auto retryInterrupted(Operation operation)
+{
+    auto result = operation();
+    while (result < 0 && errno == EINTR)
+        result = operation();
+    return result;
+}
 
 /// The path as the system takes it: UTF-8 whatever the locale. Empty, and so reaching nothing, for
 /// a path with a NUL character in it.

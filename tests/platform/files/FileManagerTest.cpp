@@ -20,11 +20,6 @@ using testing::IsEmpty;
 
 namespace {
 
-FileManager &files()
-{
-    return FileManager::defaultManager();
-}
-
 void makeLink(const QString &target, const QString &path)
 {
     ASSERT_EQ(::symlink(target.toUtf8().constData(), path.toUtf8().constData()), 0);
@@ -53,12 +48,10 @@ public:
     }
 
     bool fileManagerCopiedBytes(quint64, const QString &) override { return false; }
-    bool fileManagerShouldProceedAfterError(const ErrorInfo &error) override
+    bool fileManagerShouldProceedAfterError(const FileError &error) override
     {
-        const QString path = error[QStringLiteral("Path")].toString();
-        notes.push_back(error[QStringLiteral("Error")].toString().toStdString() + ' ' +
-                        path.mid(m_folder.size() + 1).toStdString());
-        EXPECT_FALSE(error[QStringLiteral("Reason")].toString().isEmpty());
+        notes.push_back((error.what() + u' ' + error.path.mid(m_folder.size() + 1)).toStdString());
+        EXPECT_FALSE(error.text.isEmpty());
         return m_proceed;
     }
 
@@ -171,12 +164,14 @@ TEST(FileManager, ReadsNothingThatIsNoRegularFileOrTooLong)
     const TemporaryFolder folder;
     makeTree(folder);
     makePipe(folder / QStringLiteral("pipe"));
-    EXPECT_EQ(files().readFile(folder / QStringLiteral("a/to file"), 8), "contents");
-    EXPECT_EQ(files().readFile(folder / QStringLiteral("a/file"), 7), std::nullopt);
+    EXPECT_EQ(*files().readFile(folder / QStringLiteral("a/to file"), 8), "contents");
+    EXPECT_EQ(files().readFile(folder / QStringLiteral("a/file"), 7).error().number, EFBIG);
     EXPECT_GT(files().readFile(QStringLiteral("/proc/self/stat"), 100000)->size(), 10);
     for (const QString &name :
          {QStringLiteral("pipe"), QStringLiteral("a"), QStringLiteral("none")}) {
-        EXPECT_EQ(files().readFile(folder / name, 100), std::nullopt) << name.toStdString();
+        const auto contents = files().readFile(folder / name, 100);
+        ASSERT_FALSE(contents) << name.toStdString();
+        EXPECT_EQ(contents.error().isMissing(), name == u"none") << name.toStdString();
         EXPECT_EQ(files().openForReading(folder / name), -1) << name.toStdString();
     }
 }
@@ -357,17 +352,17 @@ TEST(FileManager, ReplacesAFileWholeOrNotAtAll)
 {
     const TemporaryFolder folder;
     const QString path = folder / QStringLiteral("state.plist");
-    QString reason;
-    EXPECT_TRUE(files().writeAtomically(path, "first", &reason));
-    EXPECT_TRUE(files().writeAtomically(path, "second", &reason));
+    EXPECT_TRUE(files().writeAtomically(path, "first"));
+    EXPECT_TRUE(files().writeAtomically(path, "second"));
     EXPECT_EQ(readFile(path), "second");
     FullDisk full(3);
-    EXPECT_FALSE(full.writeAtomically(path, "third", &reason));
-    EXPECT_FALSE(reason.isEmpty());
+    const auto third = full.writeAtomically(path, "third");
+    ASSERT_FALSE(third);
+    EXPECT_EQ(third.error().number, ENOSPC);
     EXPECT_EQ(readFile(path), "second");
-    EXPECT_FALSE(files().writeAtomically(folder / QStringLiteral("none/x"), "x", nullptr));
+    EXPECT_FALSE(files().writeAtomically(folder / QStringLiteral("none/x"), "x"));
     QDir().mkpath(folder / QStringLiteral("folder/x"));
-    EXPECT_FALSE(files().writeAtomically(folder / QStringLiteral("folder"), "x", &reason));
+    EXPECT_FALSE(files().writeAtomically(folder / QStringLiteral("folder"), "x"));
     EXPECT_THAT(treeOf(folder.path()),
                 ElementsAre(QStringLiteral("folder/"), QStringLiteral("folder/x/"),
                             QStringLiteral("state.plist")));
