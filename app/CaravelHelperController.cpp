@@ -15,6 +15,7 @@
 #include "platform/desktop/Workspace.h"
 #include "platform/files/FileManager.h"
 #include "platform/lists/UserDefaults.h"
+#include "protocol/Protocol.h"
 #include "util/FileManagerTools.h"
 #include "util/Folders.h"
 #include "util/Settings.h"
@@ -128,10 +129,10 @@ void CaravelHelperController::initialize()
     createFolders();
     m_manager.refreshSyncBytesEstimate();
     logDetail(QStringLiteral("Creating helper connection..."));
-    m_helperConnection.exportObject(QStringLiteral("/CaravelHelper"),
-                                    QStringLiteral("org.caravel.CaravelHelperProtocol"),
+    m_helperConnection.exportObject(Protocol::helperPath.toString(),
+                                    Protocol::helperInterface.toString(),
                                     FrontEndProtocol::methods(*this));
-    const QString name = QStringLiteral("CaravelHelper ") + m_services.bundle.version();
+    const QString name = Protocol::helperConnection(m_services.bundle.version());
     if (!m_helperConnection.registerName(name))
         qCWarning(lcApp).noquote() << "Another process has the connection name" << name
                                    << "; this one is reached when that one leaves";

@@ -1,6 +1,9 @@
 #include "app/FrontEnd.h"
 
 #include "platform/bus/RemoteObject.h"
+#include "protocol/Protocol.h"
+
+namespace Callback = Protocol::FrontEnd;
 
 FrontEnd::FrontEnd(QObject *parent)
     : QObject(parent)
@@ -12,8 +15,7 @@ FrontEnd::~FrontEnd() = default;
 void FrontEnd::connectTo(const QString &address, const QString &objectPath)
 {
     disconnect();
-    m_remote = std::make_unique<RemoteObject>(address, objectPath,
-                                              QStringLiteral("org.caravel.CaravelFrontEnd"));
+    m_remote = std::make_unique<RemoteObject>(address, objectPath, Callback::interface.toString());
     connect(m_remote.get(), &RemoteObject::vanished, this, &FrontEnd::vanished);
     // One that died since it called is not told of any more.
     if (!m_remote->isAvailable())
@@ -39,70 +41,69 @@ bool FrontEnd::isOpen() const
 {
     if (!m_remote)
         return false;
-    const auto answer =
-        m_remote->call(QStringLiteral("isOpen"), {}, std::chrono::seconds(1), false);
+    const auto answer = m_remote->call(Callback::isOpen.key(), {}, std::chrono::seconds(1), false);
     return answer.value && answer.value->toBool();
 }
 
-void FrontEnd::send(const QString &method, const QVariantList &arguments) const
+void FrontEnd::send(const Protocol::Method &method, const QVariantList &arguments) const
 {
     if (m_remote)
-        m_remote->send(method, arguments);
+        m_remote->send(method.key(), arguments);
 }
 
 void FrontEnd::doAlert(const QString &title, const QString &message, AlertStyle style)
 {
     if (m_remote)
-        m_remote->send(QStringLiteral("doAlert"), {title, message, static_cast<int>(style)}, this,
+        m_remote->send(Callback::doAlert.key(), {title, message, static_cast<int>(style)}, this,
                        [=, this] { Q_EMIT notShown(title, message, style); });
 }
 
 void FrontEnd::updateUserInterface() const
 {
-    send(QStringLiteral("updateUserInterface"));
+    send(Callback::updateUserInterface);
 }
 
 void FrontEnd::updateSyncBytes() const
 {
-    send(QStringLiteral("updateSyncBytes"));
+    send(Callback::updateSyncBytes);
 }
 
 void FrontEnd::updateSyncBytesEstimate() const
 {
-    send(QStringLiteral("updateSyncBytesEstimate"));
+    send(Callback::updateSyncBytesEstimate);
 }
 
 void FrontEnd::syncDidFinish(bool completed) const
 {
-    send(QStringLiteral("syncDidFinish"), {completed});
+    send(Callback::syncDidFinish, {completed});
 }
 
 void FrontEnd::pspDidMount() const
 {
-    send(QStringLiteral("pspDidMount"));
+    send(Callback::pspDidMount);
 }
 
 void FrontEnd::pspDidUnmount() const
 {
-    send(QStringLiteral("pspDidUnmount"));
+    send(Callback::pspDidUnmount);
 }
 
 void FrontEnd::writeToLog(const QString &line) const
 {
-    send(QStringLiteral("writeToLog"), {line});
+    send(Callback::writeToLog, {line});
 }
 
 void FrontEnd::reloadMoviesView() const
 {
-    send(QStringLiteral("reloadMoviesView"));
+    send(Callback::reloadMoviesView);
 }
 
 void FrontEnd::startConversionAnimation() const
 {
-    send(QStringLiteral("startConversionAnimation"));
+    send(Callback::startConversionAnimation);
 }
 
 void FrontEnd::stopConversionAnimation() const
 {
-    send(QStringLiteral("stopConversionAnimation"));
+    send(Callback::stopConversionAnimation);
 }

@@ -8,6 +8,9 @@
 #include <memory>
 
 class RemoteObject;
+namespace Protocol {
+struct Method;
+}
 
 /// The connected front-end's object. While none is connected every call is passed over. Calls don't
 /// wait for the front-end (but isOpen()), and reach it in order. Main thread.
@@ -48,7 +51,7 @@ Q_SIGNALS:
     void notShown(const QString &title, const QString &message, AlertStyle style);
 
 private:
-    void send(const QString &method, const QVariantList &arguments = {}) const;
+    void send(const Protocol::Method &method, const QVariantList &arguments = {}) const;
 
     std::unique_ptr<RemoteObject> m_remote;
 };

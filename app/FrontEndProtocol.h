@@ -6,8 +6,7 @@
 
 class CaravelHelperController;
 
-/// What a front-end may call: the methods of "org.caravel.CaravelHelperProtocol", in their declared
-/// order. Names, types and modes are fixed: front-ends of other builds know them.
+/// What a front-end may call: Protocol::helperMethods, bound to the helper.
 namespace FrontEndProtocol {
 
 /// The controller must outlive the methods.

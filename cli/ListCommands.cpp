@@ -106,25 +106,14 @@ ExitStatus refuseNames(const ListKind &kind, const QStringList &names)
 
 const std::vector<ListKind> &listKinds()
 {
+    using namespace Protocol;
     static const std::vector<ListKind> kinds = {
-        {QStringLiteral("music"),
-         QStringLiteral("musicItems"),
-         QStringLiteral("setSelectedMusicIdentifiers"),
-         {}},
-        {QStringLiteral("photos"),
-         QStringLiteral("photosItems"),
-         QStringLiteral("setSelectedPhotosIdentifiers"),
-         {}},
-        {QStringLiteral("bookmarks"),
-         QStringLiteral("bookmarksItems"),
-         QStringLiteral("setSelectedBookmarksIdentifiers"),
-         {}},
-        {QStringLiteral("movies"),
-         QStringLiteral("moviesItems"),
-         QStringLiteral("setSelectedMoviesIdentifiers"),
-         {}},
-        {QStringLiteral("saves"), QStringLiteral("backupItems"),
-         QStringLiteral("setSelectedBackupIdentifiers"), QStringLiteral("enabledBackup")},
+        {QStringLiteral("music"), musicItems, setSelectedMusicIdentifiers, {}},
+        {QStringLiteral("photos"), photosItems, setSelectedPhotosIdentifiers, {}},
+        {QStringLiteral("bookmarks"), bookmarksItems, setSelectedBookmarksIdentifiers, {}},
+        {QStringLiteral("movies"), moviesItems, setSelectedMoviesIdentifiers, {}},
+        {QStringLiteral("saves"), backupItems, setSelectedBackupIdentifiers,
+         QStringLiteral("enabledBackup")},
     };
     return kinds;
 }
@@ -153,7 +142,7 @@ ExitStatus runList(const QString &kindName, bool json)
     const ListKind &kind = kindNamed(kindName);
     Session session;
     HelperClient &helper = session.helper();
-    const QVariantList rows = helper.ask(kind.itemsMethod).toList();
+    const QVariantList rows = helper.ask(kind.items).toList();
     if (helper.failed())
         return session.report();
     if (json)
@@ -168,15 +157,15 @@ ExitStatus runSelect(const QString &kindName, SelectMode mode, const QStringList
     const ListKind &kind = kindNamed(kindName);
     Session session;
     HelperClient &helper = session.helper();
-    const QVariantList rows = helper.ask(kind.itemsMethod).toList();
+    const QVariantList rows = helper.ask(kind.items).toList();
     if (helper.failed())
         return session.report();
     const Selection selection = changedSelection(rows, currentSelection(kind, rows), mode, names);
     if (!selection.unknown.isEmpty())
         return refuseNames(kind, selection.unknown);
-    helper.tell(kind.selectMethod, {selection.identifiers});
+    helper.tell(kind.select, {selection.identifiers});
     // Asked after the change, and served after it.
-    const QVariantList now = helper.ask(kind.itemsMethod).toList();
+    const QVariantList now = helper.ask(kind.items).toList();
     if (helper.failed())
         return session.report();
     const bool rowsTell = kind.preferenceKey.isEmpty();

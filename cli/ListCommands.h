@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/ExitStatus.h"
+#include "protocol/Protocol.h"
 
 #include <QStringList>
 #include <QVariantList>
@@ -11,9 +12,9 @@
 /// One kind of media whose rows the user selects from.
 struct ListKind
 {
-    QString name;        ///< as the command line calls it
-    QString itemsMethod; ///< the protocol's methods
-    QString selectMethod;
+    QString name; ///< as the command line calls it
+    const Protocol::Method &items;
+    const Protocol::Method &select;
     /// Of the selection in the shared preferences, for a kind whose rows don't tell what is
     /// selected; else empty.
     QString preferenceKey;

@@ -4,10 +4,10 @@
 #include "frontend/HelperClient.h"
 #include "frontend/Rows.h"
 
-QVariantMap meantRow(HelperClient &helper, const QString &itemsMethod, const QString &id,
+QVariantMap meantRow(HelperClient &helper, const Protocol::Method &items, const QString &id,
                      const QString &what, const QString &list)
 {
-    const QList<QVariantMap> meant = Rows::meant(helper.ask(itemsMethod).toList(), id);
+    const QList<QVariantMap> meant = Rows::meant(helper.ask(items).toList(), id);
     if (meant.size() == 1)
         return meant.first();
     if (!helper.failed())

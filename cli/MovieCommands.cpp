@@ -10,7 +10,7 @@ namespace {
 
 QVariantMap meantMovie(HelperClient &helper, const QString &id)
 {
-    return meantRow(helper, QStringLiteral("moviesItems"), id, QStringLiteral("movie"),
+    return meantRow(helper, Protocol::moviesItems, id, QStringLiteral("movie"),
                     QStringLiteral("movies"));
 }
 
@@ -37,7 +37,7 @@ ExitStatus runAddMovies(const QStringList &files)
     }
     Session session;
     HelperClient &helper = session.helper();
-    helper.ask(QStringLiteral("addMoviesFromArray"), {paths});
+    helper.ask(Protocol::addMoviesFromArray, {paths});
     return session.report();
 }
 
@@ -47,7 +47,7 @@ ExitStatus runRemoveMovie(const QString &id)
     HelperClient &helper = session.helper();
     const QVariantMap row = meantMovie(helper, id);
     if (!row.isEmpty())
-        helper.ask(QStringLiteral("removeMovieItem"), {row});
+        helper.ask(Protocol::removeMovieItem, {row});
     return row.isEmpty() && !helper.failed() ? Refused : session.report();
 }
 
@@ -61,6 +61,6 @@ ExitStatus runRenameMovie(const QString &id, const QString &title)
     HelperClient &helper = session.helper();
     const QVariantMap row = meantMovie(helper, id);
     if (!row.isEmpty())
-        helper.ask(QStringLiteral("renameMovieItem"), {row, title});
+        helper.ask(Protocol::renameMovieItem, {row, title});
     return row.isEmpty() && !helper.failed() ? Refused : session.report();
 }

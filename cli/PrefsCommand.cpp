@@ -108,7 +108,7 @@ void tellOthers(const QString &name)
     DistributedNotificationCenter::defaultCenter().post(
         QStringLiteral("CVPrefsDidChangeNotification"));
     if (name == Settings::startOnLogin.name)
-        HelperClient::tellRunningHelper(QStringLiteral("changeStartOnLogin"));
+        HelperClient::tellRunningHelper(Protocol::changeStartOnLogin);
     NamedConnection::flush();
 }
 

@@ -16,12 +16,12 @@ namespace {
 
 QVariantList backupsOf(HelperClient &helper, const QString &save)
 {
-    return helper.ask(QStringLiteral("backupSubItemsForIdentifier"), {save}).toList();
+    return helper.ask(Protocol::backupSubItemsForIdentifier, {save}).toList();
 }
 
 QVariantMap meantSave(HelperClient &helper, const QString &id)
 {
-    return meantRow(helper, QStringLiteral("backupItems"), id, QStringLiteral("game save"),
+    return meantRow(helper, Protocol::backupItems, id, QStringLiteral("game save"),
                     QStringLiteral("saves"));
 }
 
@@ -82,10 +82,7 @@ public:
     }
 
 protected:
-    void begin() override
-    {
-        helper().ask(QStringLiteral("restoreBackupWithIdentifier"), {m_backup});
-    }
+    void begin() override { helper().ask(Protocol::restoreBackupWithIdentifier, {m_backup}); }
     void stateRead(const HelperState & /*state*/) override
     {
         // An alert came before the answers, and lies in front of this.
@@ -183,7 +180,7 @@ ExitStatus runDeleteSave(const QString &id, bool isSure)
         return refuseDuringSync();
     if (const ExitStatus answer = isSure ? Done : confirm(session, named); answer != Done)
         return answer;
-    helper.ask(QStringLiteral("deleteBackupWithIdentifier"), {named});
+    helper.ask(Protocol::deleteBackupWithIdentifier, {named});
     const bool isLeft =
         named.contains(u'/') ? isBackup(helper, named) : !backupsOf(helper, named).isEmpty();
     if (isLeft && !helper.failed())

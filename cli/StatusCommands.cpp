@@ -20,8 +20,8 @@ struct Estimate
 
 Estimate readEstimate(HelperClient &helper)
 {
-    return {helper.askText(QStringLiteral("syncBytesEstimate")),
-            helper.askCount(QStringLiteral("syncPercentEstimate"))};
+    return {helper.askText(Protocol::syncBytesEstimate),
+            helper.askCount(Protocol::syncPercentEstimate)};
 }
 
 QString estimateText(const Estimate &estimate)
@@ -66,7 +66,7 @@ bool refreshEstimate(Session &session)
     });
     QObject::connect(&helper, &HelperClient::gone, &loop, &QEventLoop::quit);
     QTimer::singleShot(60s, &loop, &QEventLoop::quit);
-    helper.tell(QStringLiteral("refreshSyncBytesEstimate"));
+    helper.tell(Protocol::refreshSyncBytesEstimate);
     if (!helper.failed())
         loop.exec();
     return arrived;
@@ -118,7 +118,7 @@ ExitStatus runStatus(bool json)
     Session session;
     HelperClient &helper = session.helper();
     const HelperState state = helper.state();
-    const bool firstSync = helper.askBool(QStringLiteral("isFirstSync"));
+    const bool firstSync = helper.askBool(Protocol::isFirstSync);
     const Estimate estimate = readEstimate(helper);
     if (helper.failed())
         return session.report();
@@ -137,7 +137,7 @@ ExitStatus runEstimate(bool json)
 {
     Session session;
     HelperClient &helper = session.helper();
-    const bool syncing = helper.askBool(QStringLiteral("isSyncing"));
+    const bool syncing = helper.askBool(Protocol::isSyncing);
     if (!helper.failed() && !syncing && !refreshEstimate(session) && !helper.failed()) {
         Output::error(QStringLiteral("the helper has made no estimate within a minute"));
         return Refused;
@@ -158,8 +158,8 @@ ExitStatus runEject()
 {
     Session session;
     HelperClient &helper = session.helper();
-    const bool mounted = helper.askBool(QStringLiteral("pspIsMounted"));
-    const bool canSync = helper.askBool(QStringLiteral("canSync"));
+    const bool mounted = helper.askBool(Protocol::pspIsMounted);
+    const bool canSync = helper.askBool(Protocol::canSync);
     if (helper.failed())
         return session.report();
     if (!canSync) {
@@ -167,6 +167,6 @@ ExitStatus runEject()
                               : QStringLiteral("No PSP is connected."));
         return Refused;
     }
-    helper.tell(QStringLiteral("ejectPSP"), {QVariantMap()});
+    helper.tell(Protocol::ejectPSP, {QVariantMap()});
     return waitForEject(session);
 }

@@ -17,7 +17,7 @@ void requestCancel()
 
 void requestSync(HelperClient &helper)
 {
-    helper.tell(QStringLiteral("syncNow"), {QVariantMap()});
+    helper.tell(Protocol::syncNow, {QVariantMap()});
 }
 
 class SyncFollower : public Follower
@@ -135,7 +135,7 @@ ExitStatus runSync(bool wait)
     Session session;
     HelperClient &helper = session.helper();
     const HelperState state = helper.state();
-    const bool canSync = helper.askBool(QStringLiteral("canSync"));
+    const bool canSync = helper.askBool(Protocol::canSync);
     if (helper.failed())
         return session.report();
     if (state.syncing)

@@ -107,7 +107,7 @@ private:
 
 void LogFollower::printNew()
 {
-    const QString log = helper().askText(QStringLiteral("log"));
+    const QString log = helper().askText(Protocol::log);
     if (helper().failed()) {
         finish(NoHelper);
         return;
@@ -125,7 +125,7 @@ void LogFollower::printNew()
 
 ExitStatus showLog(Session &session, bool json)
 {
-    const QString log = session.helper().askText(QStringLiteral("log"));
+    const QString log = session.helper().askText(Protocol::log);
     if (session.failed())
         return session.report();
     if (json)
@@ -151,6 +151,6 @@ ExitStatus runLog(LogMode mode, bool json)
         return LogFollower(session, json).run();
     if (mode == LogMode::Show)
         return showLog(session, json);
-    session.helper().ask(QStringLiteral("clearLog"));
+    session.helper().ask(Protocol::clearLog);
     return session.report();
 }

@@ -1,69 +1,46 @@
 #include "frontend/FrontEndObject.h"
 
 #include "frontend/HelperClient.h"
+#include "protocol/ServedMethods.h"
 
-namespace {
-
-RemoteMethod notice(QStringView name, const QStringList &types, const QStringList &names,
-                    std::function<void(const QVariantList &)> act)
-{
-    return {name.toString(), types, names, {}, true, [act](const RemoteRequest &request) {
-                act(request.arguments);
-                return QVariant();
-            }};
-}
-
-RemoteMethod notice(QStringView name, std::function<void()> act)
-{
-    return notice(name, {}, {}, [act](const QVariantList &) { act(); });
-}
-
-} // namespace
+namespace Callback = Protocol::FrontEnd;
 
 FrontEndObject::FrontEndObject(HelperClient &helper)
     : m_helper(helper)
 {
     const QString path = QStringLiteral("/CaravelFrontEnd");
-    m_connection.exportObject(path, QStringLiteral("org.caravel.CaravelFrontEnd"), methods());
-    m_helper.ask(QStringLiteral("setApplication"), {QVariant::fromValue(ObjectPath{path})});
+    m_connection.exportObject(path, Callback::interface.toString(), methods());
+    m_helper.ask(Protocol::setApplication, {QVariant::fromValue(ObjectPath{path})});
 }
 
 FrontEndObject::~FrontEndObject()
 {
-    m_helper.tell(QStringLiteral("applicationWillQuit"));
+    m_helper.tell(Protocol::applicationWillQuit);
     NamedConnection::flush();
 }
 
 std::vector<RemoteMethod> FrontEndObject::methods()
 {
-    const QString string = QStringLiteral("s");
-    return {
-        {QStringLiteral("isOpen"),
-         {},
-         {},
-         QStringLiteral("b"),
-         false,
-         [](const RemoteRequest &) {
-             return QVariant(false);
-         }},
-        notice(u"doAlert", {string, string, QStringLiteral("i")},
-               {QStringLiteral("title"), QStringLiteral("message"), QStringLiteral("style")},
-               [this](const QVariantList &arguments) {
-                   Q_EMIT alert(arguments[0].toString(), arguments[1].toString(),
-                                arguments[2].toInt());
-               }),
-        notice(u"updateUserInterface", [this] { Q_EMIT changed(); }),
-        notice(u"updateSyncBytes", [this] { Q_EMIT changed(); }),
-        notice(u"updateSyncBytesEstimate", [this] { Q_EMIT estimateChanged(); }),
-        notice(
-            u"syncDidFinish", {QStringLiteral("b")}, {QStringLiteral("completed")},
-            [this](const QVariantList &arguments) { Q_EMIT syncDidFinish(arguments[0].toBool()); }),
-        notice(u"pspDidMount", [this] { Q_EMIT pspDidMount(); }),
-        notice(u"pspDidUnmount", [this] { Q_EMIT pspDidUnmount(); }),
-        notice(u"writeToLog", {string}, {QStringLiteral("line")},
-               [this](const QVariantList &arguments) { Q_EMIT logLine(arguments[0].toString()); }),
-        notice(u"reloadMoviesView", [this] { Q_EMIT changed(); }),
-        notice(u"startConversionAnimation", [this] { Q_EMIT changed(); }),
-        notice(u"stopConversionAnimation", [this] { Q_EMIT changed(); }),
-    };
+    ServedMethods served;
+    served.answer(Callback::isOpen, [] { return false; });
+    served.perform(Callback::doAlert, [this](const RemoteRequest &request) {
+        const QVariantList &given = request.arguments;
+        Q_EMIT alert(given[0].toString(), given[1].toString(), given[2].toInt());
+    });
+    for (const auto *method :
+         {&Callback::updateUserInterface, &Callback::updateSyncBytes, &Callback::reloadMoviesView,
+          &Callback::startConversionAnimation, &Callback::stopConversionAnimation})
+        served.perform(*method, [this](const RemoteRequest &) { Q_EMIT changed(); });
+    served.perform(Callback::updateSyncBytesEstimate,
+                   [this](const RemoteRequest &) { Q_EMIT estimateChanged(); });
+    served.perform(Callback::syncDidFinish, [this](const RemoteRequest &request) {
+        Q_EMIT syncDidFinish(request.arguments[0].toBool());
+    });
+    served.perform(Callback::pspDidMount, [this](const RemoteRequest &) { Q_EMIT pspDidMount(); });
+    served.perform(Callback::pspDidUnmount,
+                   [this](const RemoteRequest &) { Q_EMIT pspDidUnmount(); });
+    served.perform(Callback::writeToLog, [this](const RemoteRequest &request) {
+        Q_EMIT logLine(request.arguments[0].toString());
+    });
+    return served.take(Callback::methods);
 }

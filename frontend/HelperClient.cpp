@@ -43,10 +43,10 @@ bool startDetached(const QString &program)
 
 std::unique_ptr<RemoteObject> remoteHelper()
 {
-    const QString connection = QStringLiteral("CaravelHelper ") + Bundle::main().version();
+    const QString connection = Protocol::helperConnection(Bundle::main().version());
     return std::make_unique<RemoteObject>(NamedConnection::busName(connection),
-                                          QStringLiteral("/CaravelHelper"),
-                                          QStringLiteral("org.caravel.CaravelHelperProtocol"));
+                                          Protocol::helperPath.toString(),
+                                          Protocol::helperInterface.toString());
 }
 
 } // namespace
@@ -69,15 +69,15 @@ void HelperClient::connectToHelper()
     });
 }
 
-void HelperClient::tellRunningHelper(const QString &method)
+void HelperClient::tellRunningHelper(const Protocol::Method &method)
 {
-    remoteHelper()->send(method);
+    remoteHelper()->send(method.key());
 }
 
 // The bus starts the helper where it knows how to; else its executable beside ours is started.
 bool HelperClient::start()
 {
-    if (m_remote->call(QStringLiteral("pspIsMounted"), {}, startLimit).value)
+    if (m_remote->call(Protocol::pspIsMounted.key(), {}, startLimit).value)
         return true;
     const QString program = Bundle(helperBundle()).executable();
     if (program.isEmpty())
@@ -102,15 +102,15 @@ bool HelperClient::waitUntilThere()
     return m_remote->isAvailable();
 }
 
-QVariant HelperClient::ask(const QString &method, const QVariantList &arguments)
+QVariant HelperClient::ask(const Protocol::Method &method, const QVariantList &arguments)
 {
     if (failed())
         return {};
-    const RemoteObject::Answer answer = m_remote->call(method, arguments, answerLimit, false);
+    const RemoteObject::Answer answer = m_remote->call(method.key(), arguments, answerLimit, false);
     if (answer.value)
         return *answer.value;
     if (m_remote->isAvailable())
-        fail(Kind::Refused, QStringLiteral("%1: %2").arg(method, answer.error));
+        fail(Kind::Refused, QStringLiteral("%1: %2").arg(method.name, answer.error));
     else
         fail(Kind::NoHelper, QStringLiteral("the helper has gone away"));
     return {};
@@ -119,16 +119,16 @@ QVariant HelperClient::ask(const QString &method, const QVariantList &arguments)
 HelperState HelperClient::state()
 {
     return {
-        .mounted = askBool(QStringLiteral("pspIsMounted")),
-        .syncing = askBool(QStringLiteral("isSyncing")),
-        .canCancel = askBool(QStringLiteral("canCancelSync")),
-        .indeterminate = askBool(QStringLiteral("isIndeterminate")),
-        .statusText = askText(QStringLiteral("statusText")),
-        .statusSubText = askText(QStringLiteral("statusSubText")),
-        .syncBytes = askCount(QStringLiteral("syncBytes")),
-        .syncBytesTotal = askCount(QStringLiteral("syncBytesTotal")),
-        .converting = askBool(QStringLiteral("isConvertingMovie")),
-        .percentConverted = askText(QStringLiteral("percentConverted")),
+        .mounted = askBool(Protocol::pspIsMounted),
+        .syncing = askBool(Protocol::isSyncing),
+        .canCancel = askBool(Protocol::canCancelSync),
+        .indeterminate = askBool(Protocol::isIndeterminate),
+        .statusText = askText(Protocol::statusText),
+        .statusSubText = askText(Protocol::statusSubText),
+        .syncBytes = askCount(Protocol::syncBytes),
+        .syncBytesTotal = askCount(Protocol::syncBytesTotal),
+        .converting = askBool(Protocol::isConvertingMovie),
+        .percentConverted = askText(Protocol::percentConverted),
     };
 }
 
@@ -138,10 +138,10 @@ bool HelperClient::isText(const QString &text, const char *english)
     return isLocalizedForm(text, english, helper.resourcePath() + QStringLiteral("/translations"));
 }
 
-void HelperClient::tell(const QString &method, const QVariantList &arguments)
+void HelperClient::tell(const Protocol::Method &method, const QVariantList &arguments)
 {
     if (!failed())
-        m_remote->send(method, arguments);
+        m_remote->send(method.key(), arguments);
 }
 
 void HelperClient::fail(Kind kind, const QString &text)

@@ -2,6 +2,7 @@
 
 #include "frontend/HelperState.h"
 #include "platform/bus/RemoteObject.h"
+#include "protocol/Protocol.h"
 
 #include <QObject>
 #include <QVariantList>
@@ -34,19 +35,19 @@ public:
     void connectToHelper();
 
     /// Sends a oneway call without arguments to the helper if one runs.
-    static void tellRunningHelper(const QString &method);
+    static void tellRunningHelper(const Protocol::Method &method);
 
-    QVariant ask(const QString &method, const QVariantList &arguments = {});
-    bool askBool(const QString &method) { return ask(method).toBool(); }
-    QString askText(const QString &method) { return ask(method).toString(); }
-    quint64 askCount(const QString &method) { return ask(method).toULongLong(); }
+    QVariant ask(const Protocol::Method &method, const QVariantList &arguments = {});
+    bool askBool(const Protocol::Method &method) { return ask(method).toBool(); }
+    QString askText(const Protocol::Method &method) { return ask(method).toString(); }
+    quint64 askCount(const Protocol::Method &method) { return ask(method).toULongLong(); }
     HelperState state();
 
     /// Whether a text of the helper's is that English one, whatever language the helper speaks.
     static bool isText(const QString &text, const char *english);
 
     /// Sends a oneway call.
-    void tell(const QString &method, const QVariantList &arguments = {});
+    void tell(const Protocol::Method &method, const QVariantList &arguments = {});
 
     bool failed() const { return m_failure.has_value(); }
     /// The first failure.

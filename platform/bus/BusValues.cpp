@@ -8,6 +8,7 @@
 #include <QDBusSignature>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVariant>
+#include <QHash>
 
 namespace {
 
@@ -111,6 +112,41 @@ QVariant rowsFrom(const QVariantList &list)
     return QVariant::fromValue(rows);
 }
 
+using Converter = QVariant (*)(const QVariant &);
+
+template <typename T>
+QVariant converted(const QVariant &value)
+{
+    return QVariant::fromValue(value.value<T>());
+}
+
+/// Null for a type that RemoteMethod doesn't name.
+Converter converterTo(const QString &signature)
+{
+    static const QHash<QString, Converter> converters{
+        {QStringLiteral("b"), converted<bool>},
+        {QStringLiteral("i"), converted<int>},
+        {QStringLiteral("u"), converted<uint>},
+        {QStringLiteral("t"), converted<qulonglong>},
+        {QStringLiteral("d"), converted<double>},
+        {QStringLiteral("s"), converted<QString>},
+        {QStringLiteral("as"), converted<QStringList>},
+        {QStringLiteral("a{sv}"),
+         [](const QVariant &value) -> QVariant {
+             return sendable(value.toMap());
+         }},
+        {QStringLiteral("aa{sv}"),
+         [](const QVariant &value) {
+             return rowsFrom(value.toList());
+         }},
+        {QStringLiteral("o"),
+         [](const QVariant &value) {
+             return QVariant::fromValue(QDBusObjectPath(value.toString()));
+         }},
+    };
+    return converters.value(signature);
+}
+
 } // namespace
 
 QVariant BusValues::toPlain(const QVariant &value)
@@ -143,27 +179,14 @@ QVariantList BusValues::toPlain(const QVariantList &values)
     return plain;
 }
 
+bool BusValues::isType(const QString &signature)
+{
+    return converterTo(signature) != nullptr;
+}
+
 QVariant BusValues::toBus(const QVariant &value, const QString &signature)
 {
-    if (signature == u"b")
-        return value.toBool();
-    if (signature == u"i")
-        return value.toInt();
-    if (signature == u"u")
-        return value.toUInt();
-    if (signature == u"t")
-        return value.toULongLong();
-    if (signature == u"d")
-        return value.toDouble();
-    if (signature == u"as")
-        return value.toStringList();
-    if (signature == u"a{sv}")
-        return sendable(value.toMap());
-    if (signature == u"aa{sv}")
-        return rowsFrom(value.toList());
-    if (signature == u"o")
-        return QVariant::fromValue(QDBusObjectPath(value.toString()));
-    return value.toString();
+    return converterTo(signature)(value);
 }
 
 QVariant BusValues::toBus(const QVariant &value)

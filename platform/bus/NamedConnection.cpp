@@ -13,6 +13,18 @@
 
 namespace {
 
+void checkTypes(const RemoteMethod &method)
+{
+    QStringList types = method.in;
+    if (!method.out.isEmpty())
+        types.append(method.out);
+    for (const QString &type : types) {
+        if (!BusValues::isType(type))
+            qFatal("%ls: \"%ls\" is no type that a method can have", qUtf16Printable(method.name),
+                   qUtf16Printable(type));
+    }
+}
+
 // One exported object: checks a call against the table of methods, and runs and answers it.
 class ServedObject : public QDBusVirtualObject
 {
@@ -22,6 +34,8 @@ public:
         , m_interface(std::move(interfaceName))
         , m_methods(std::move(methods))
     {
+        for (const RemoteMethod &method : m_methods)
+            checkTypes(method);
     }
 
     QString path() const { return m_path; }

@@ -19,7 +19,8 @@ struct RemoteRequest
 ///
 /// The signatures are D-Bus's, one string a value: "b" bool, "i" int, "u" uint, "t" qulonglong,
 /// "d" double, "s" QString, "as" QStringList, "a{sv}" QVariantMap, "aa{sv}" QVariantList of
-/// QVariantMap, "o" an object's path as QString.
+/// QVariantMap, "o" an object's path as QString. There are no others: to serve a method with one
+/// ends the process.
 struct RemoteMethod
 {
     QString name;

@@ -15,6 +15,9 @@ namespace BusValues {
 QVariant toPlain(const QVariant &value);
 QVariantList toPlain(const QVariantList &values);
 
+/// Whether RemoteMethod names the signature.
+bool isType(const QString &signature);
+
 /// The value in the exact type of a signature that RemoteMethod names, ready to be sent. A value
 /// that can't be converted becomes that type's empty value; in a dictionary or list it is left out.
 QVariant toBus(const QVariant &value, const QString &signature);

@@ -279,6 +279,13 @@ TEST_F(BusTest, DescribesItselfToTheBussTools)
               QDBusMessage::ReplyMessage);
 }
 
+TEST_F(BusTest, AMethodOfATypeThatIsNoneIsNotServed)
+{
+    const QString unknown = QStringLiteral("a{ss}");
+    EXPECT_DEATH(serve({method(QStringLiteral("take"), {unknown}, {})}), "take: \"a\\{ss\\}\"");
+    EXPECT_DEATH(serve({method(QStringLiteral("give"), {}, unknown)}), "give: \"a\\{ss\\}\"");
+}
+
 TEST_F(BusTest, OneObjectAPathAndOneProcessAName)
 {
     serve({});

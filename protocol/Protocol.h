@@ -1,0 +1,193 @@
+#pragma once
+
+#include <QString>
+
+/// What the helper and its front-ends say to each other over the session bus: the one place where
+/// the names and types are written that either end serves and calls. They are frozen: front-ends
+/// and helpers of other builds know them. The types are those of RemoteMethod.
+namespace Protocol {
+
+struct Argument
+{
+    QStringView type; ///< empty: there is none
+    QStringView name;
+};
+
+enum class Mode {
+    Answered, ///< the caller waits
+    Oneway,   ///< it does not; annotated so
+};
+
+struct Method
+{
+    QStringView name; ///< of a literal
+    Argument in[3] = {};
+    QStringView out = {}; ///< type of the answer; empty: none
+    Mode mode = Mode::Answered;
+
+    QString key() const { return QString::fromRawData(name.data(), name.size()); }
+};
+
+// --- The helper's object
+
+inline constexpr QStringView helperPath = u"/CaravelHelper";
+inline constexpr QStringView helperInterface = u"org.caravel.CaravelHelperProtocol";
+
+/// The connection name of the helper of that build, see NamedConnection::busName().
+inline QString helperConnection(const QString &build)
+{
+    return QStringLiteral("CaravelHelper ") + build;
+}
+
+/// Whoever asks for something: empty, or the "title" of the menu item that was chosen.
+inline constexpr Argument sender{u"a{sv}", u"sender"};
+inline constexpr Argument identifier{u"s", u"identifier"};
+inline constexpr Argument identifiers{u"as", u"identifiers"};
+/// A row of moviesItems.
+inline constexpr Argument movie{u"a{sv}", u"movie"};
+
+/// The object that the helper is to tell of what happens, on the caller's own connection.
+inline constexpr Method setApplication{u"setApplication", {{u"o", u"frontEnd"}}};
+inline constexpr Method applicationWillQuit{u"applicationWillQuit", {}, {}, Mode::Oneway};
+inline constexpr Method ejectPSP{u"ejectPSP", {sender}, {}, Mode::Oneway};
+inline constexpr Method openCaravel{u"openCaravel", {sender}, {}, Mode::Oneway};
+/// Cancels the running sync where the sender's title is "Cancel Sync".
+inline constexpr Method syncNow{u"syncNow", {sender}, {}, Mode::Oneway};
+
+inline constexpr Method log{u"log", {}, u"s"};
+inline constexpr Method isFirstSync{u"isFirstSync", {}, u"b"};
+inline constexpr Method pspIsMounted{u"pspIsMounted", {}, u"b"};
+inline constexpr Method canSync{u"canSync", {}, u"b"};
+inline constexpr Method isSyncing{u"isSyncing", {}, u"b"};
+inline constexpr Method canCancelSync{u"canCancelSync", {}, u"b"};
+inline constexpr Method isIndeterminate{u"isIndeterminate", {}, u"b"};
+inline constexpr Method syncBytesTotal{u"syncBytesTotal", {}, u"t"};
+inline constexpr Method syncBytes{u"syncBytes", {}, u"t"};
+inline constexpr Method statusText{u"statusText", {}, u"s"};
+inline constexpr Method statusSubText{u"statusSubText", {}, u"s"};
+inline constexpr Method setIsInteractive{u"setIsInteractive", {{u"b", u"interactive"}}};
+inline constexpr Method percentConverted{u"percentConverted", {}, u"s"};
+inline constexpr Method changeStartOnLogin{u"changeStartOnLogin", {}, {}, Mode::Oneway};
+inline constexpr Method clearLog{u"clearLog"};
+
+/// Of the PSP's capacity, 0 upwards.
+inline constexpr Method syncPercentEstimate{u"syncPercentEstimate", {}, u"u"};
+/// A text such as "1.2 GB".
+inline constexpr Method syncBytesEstimate{u"syncBytesEstimate", {}, u"s"};
+inline constexpr Method refreshSyncBytesEstimate{u"refreshSyncBytesEstimate", {}, {}, Mode::Oneway};
+
+inline constexpr Method musicItems{u"musicItems", {}, u"aa{sv}"};
+inline constexpr Method setSelectedMusicIdentifiers{
+    u"setSelectedMusicIdentifiers", {identifiers}, {}, Mode::Oneway};
+inline constexpr Method photosItems{u"photosItems", {}, u"aa{sv}"};
+inline constexpr Method setSelectedPhotosIdentifiers{
+    u"setSelectedPhotosIdentifiers", {identifiers}, {}, Mode::Oneway};
+inline constexpr Method bookmarksItems{u"bookmarksItems", {}, u"aa{sv}"};
+inline constexpr Method setSelectedBookmarksIdentifiers{
+    u"setSelectedBookmarksIdentifiers", {identifiers}, {}, Mode::Oneway};
+
+inline constexpr Method moviesItems{u"moviesItems", {}, u"aa{sv}"};
+inline constexpr Method setSelectedMoviesIdentifiers{
+    u"setSelectedMoviesIdentifiers", {identifiers}, {}, Mode::Oneway};
+inline constexpr Method isConvertingMovie{u"isConvertingMovie", {}, u"b"};
+inline constexpr Method addMoviesFromArray{u"addMoviesFromArray", {{u"as", u"paths"}}};
+inline constexpr Method removeMovieItem{u"removeMovieItem", {movie}};
+inline constexpr Method renameMovieItem{u"renameMovieItem", {movie, {u"s", u"newName"}}};
+
+inline constexpr Method backupItems{u"backupItems", {}, u"aa{sv}"};
+inline constexpr Method setSelectedBackupIdentifiers{
+    u"setSelectedBackupIdentifiers", {identifiers}, {}, Mode::Oneway};
+inline constexpr Method logChanged{u"logChanged", {{u"s", u"line"}}, {}, Mode::Oneway};
+/// The backups of the game save of that identifier.
+inline constexpr Method backupSubItemsForIdentifier{
+    u"backupSubItemsForIdentifier", {identifier}, u"aa{sv}"};
+inline constexpr Method restoreBackupWithIdentifier{u"restoreBackupWithIdentifier", {identifier}};
+inline constexpr Method deleteBackupWithIdentifier{u"deleteBackupWithIdentifier", {identifier}};
+
+/// All of them, in the order in which the helper declares them.
+inline constexpr const Method *helperMethods[] = {
+    &setApplication,
+    &applicationWillQuit,
+    &ejectPSP,
+    &openCaravel,
+    &syncNow,
+    &log,
+    &isFirstSync,
+    &pspIsMounted,
+    &canSync,
+    &isSyncing,
+    &canCancelSync,
+    &isIndeterminate,
+    &syncBytesTotal,
+    &syncBytes,
+    &statusText,
+    &statusSubText,
+    &setIsInteractive,
+    &percentConverted,
+    &changeStartOnLogin,
+    &clearLog,
+    &syncPercentEstimate,
+    &syncBytesEstimate,
+    &refreshSyncBytesEstimate,
+    &musicItems,
+    &setSelectedMusicIdentifiers,
+    &photosItems,
+    &setSelectedPhotosIdentifiers,
+    &bookmarksItems,
+    &setSelectedBookmarksIdentifiers,
+    &moviesItems,
+    &setSelectedMoviesIdentifiers,
+    &isConvertingMovie,
+    &addMoviesFromArray,
+    &removeMovieItem,
+    &renameMovieItem,
+    &backupItems,
+    &setSelectedBackupIdentifiers,
+    &logChanged,
+    &backupSubItemsForIdentifier,
+    &restoreBackupWithIdentifier,
+    &deleteBackupWithIdentifier,
+};
+
+// --- A front-end's object
+
+namespace FrontEnd {
+
+inline constexpr QStringView interface = u"org.caravel.CaravelFrontEnd";
+
+/// Whether the helper is to stay for it; asked for a second at most.
+inline constexpr Method isOpen{u"isOpen", {}, u"b"};
+/// The style is 0 for a warning, 1 for information, 2 for what is critical.
+inline constexpr Method doAlert{
+    u"doAlert", {{u"s", u"title"}, {u"s", u"message"}, {u"i", u"style"}}, {}, Mode::Oneway};
+inline constexpr Method updateUserInterface{u"updateUserInterface", {}, {}, Mode::Oneway};
+inline constexpr Method updateSyncBytes{u"updateSyncBytes", {}, {}, Mode::Oneway};
+inline constexpr Method updateSyncBytesEstimate{u"updateSyncBytesEstimate", {}, {}, Mode::Oneway};
+inline constexpr Method syncDidFinish{u"syncDidFinish", {{u"b", u"completed"}}, {}, Mode::Oneway};
+inline constexpr Method pspDidMount{u"pspDidMount", {}, {}, Mode::Oneway};
+inline constexpr Method pspDidUnmount{u"pspDidUnmount", {}, {}, Mode::Oneway};
+/// A line of the helper's log with its line feed.
+inline constexpr Method writeToLog{u"writeToLog", {{u"s", u"line"}}, {}, Mode::Oneway};
+inline constexpr Method reloadMoviesView{u"reloadMoviesView", {}, {}, Mode::Oneway};
+inline constexpr Method startConversionAnimation{u"startConversionAnimation", {}, {}, Mode::Oneway};
+inline constexpr Method stopConversionAnimation{u"stopConversionAnimation", {}, {}, Mode::Oneway};
+
+/// All of them, in the order in which a front-end declares them.
+inline constexpr const Method *methods[] = {
+    &isOpen,
+    &doAlert,
+    &updateUserInterface,
+    &updateSyncBytes,
+    &updateSyncBytesEstimate,
+    &syncDidFinish,
+    &pspDidMount,
+    &pspDidUnmount,
+    &writeToLog,
+    &reloadMoviesView,
+    &startConversionAnimation,
+    &stopConversionAnimation,
+};
+
+} // namespace FrontEnd
+
+} // namespace Protocol
