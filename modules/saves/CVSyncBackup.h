@@ -2,7 +2,6 @@
 
 #include "sync/CVSyncModule.h"
 
-#include <optional>
 #include <vector>
 
 class Clock;
@@ -26,17 +25,11 @@ public:
     /// as they lie there.
     static QStringList availableIdentifiers();
     static QStringList availableSubIdentifiersForIdentifier(const QString &identifier);
-    /// The newest timestamp of a save; 0 where it has none.
-    static double latestTimestampForBackupIdentifier(const QString &identifier);
     /// The number that a backup's folder name begins with; 0 for none.
     static double timestampOf(const QString &name);
-    /// The folder that holds a backup's own files; the identifier is "<save>/<timestamp>".
+    /// The folder that holds a backup's own files; the identifier is "<save>/<timestamp>", and any
+    /// other has none.
     static QString folderOf(const QString &identifier);
-
-    /// Whether a text names a save, or one backup of a save ("<save>/<timestamp>"): it leads
-    /// nowhere outside of the backup root then.
-    static bool isSave(const QString &identifier);
-    static bool isBackup(const QString &identifier);
 
     enum class Restored {
         Done,

@@ -134,22 +134,6 @@ TEST_F(CVSyncBackupTest, PrunesByThePreference)
     }
 }
 
-TEST_F(CVSyncBackupTest, RestoresAndKeepsWhatWasThere)
-{
-    using Restored = CVSyncBackup::Restored;
-    EXPECT_TRUE(harness.run());
-    EXPECT_EQ(restore(identifier(0)), Restored::Done);
-    EXPECT_EQ(history().size(), 1) << "it was the same";
-    putSave("newer");
-    for (const char *bad : {"", "GAME", "GAME/", "GAME/..", "../x", "/etc/passwd", "GAME/5"})
-        EXPECT_EQ(restore(QString::fromUtf8(bad)), Restored::NoBackup) << bad;
-    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "newer");
-    pass(60);
-    EXPECT_EQ(restore(identifier(0)), Restored::Done);
-    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "first");
-    EXPECT_EQ(history(), list({"0: first", "60: newer"}));
-}
-
 TEST_F(CVSyncBackupTest, LosesNothingWhenItCannotRestore)
 {
     using Restored = CVSyncBackup::Restored;
@@ -157,6 +141,8 @@ TEST_F(CVSyncBackupTest, LosesNothingWhenItCannotRestore)
     putSave("other");
     pass(60);
     const SystemLogCapture log;
+    for (const char *bad : {"", "GAME", "GAME/", "GAME/..", "../x", "/etc/passwd", "GAME/5"})
+        EXPECT_EQ(restore(QString::fromUtf8(bad)), Restored::NoBackup) << bad;
     const auto restoreWithRoomFor = [&](qint64 bytes) {
         FailingFileManager files;
         FileManager::setDefaultManager(&files);
