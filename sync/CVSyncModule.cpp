@@ -216,7 +216,7 @@ void CVSyncModule::cleanUp(const QString &folder, bool ownOnly)
     // there is none at all does everything count as ours.
     pass.ownOnly = ownOnly && files().exists(indexPath);
     if (pass.ownOnly) {
-        for (const QString &path : PropertyList::readStringArray(indexPath).value_or(QStringList()))
+        for (const QString &path : PropertyList::readStringArray(indexPath).valueOr({}))
             pass.ownFiles.insert(comparable(path));
     }
     pass.entries = files().subpaths(folder);
@@ -324,7 +324,7 @@ void CVSyncModule::finalize()
     if (!m_delegate->pspVolumeIsPresent())
         return;
     const QString path = StickFiles::syncIndex(pspVolume(), m_saveName);
-    QString reason;
-    if (!PropertyList::writeAtomically(m_syncIndex, path, &reason))
-        qCWarning(lcSync).noquote() << "Can't write the index" << path << ":" << reason;
+    if (const FileResult<> written = PropertyList::writeAtomically(m_syncIndex, path); !written)
+        qCWarning(lcSync).noquote()
+            << "Can't write the index" << path << ":" << written.error().text;
 }

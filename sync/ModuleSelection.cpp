@@ -18,16 +18,16 @@ bool hasProfiles(const QString &volume)
 
 void storeProfile(const QStringList &identifiers, const QString &profile)
 {
-    QString reason;
-    if (!PropertyList::writeAtomically(identifiers, profile, &reason))
-        qCWarning(lcSync).noquote() << "Can't store the selection in" << profile << ":" << reason;
+    if (const FileResult<> written = PropertyList::writeAtomically(identifiers, profile); !written)
+        qCWarning(lcSync).noquote()
+            << "Can't store the selection in" << profile << ":" << written.error().text;
 }
 
-bool replaceIn(std::optional<QStringList> &selection, const QString &before, const QString &after)
+bool replaceIn(QStringList &selection, const QString &before, const QString &after)
 {
-    const qsizetype index = selection ? selection->indexOf(before) : -1;
+    const qsizetype index = selection.indexOf(before);
     if (index >= 0)
-        selection->replace(index, after);
+        selection.replace(index, after);
     return index >= 0;
 }
 
@@ -40,7 +40,7 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
         // stick.
         if (auto profile =
                 PropertyList::readStringArray(StickFiles::selectionProfile(volume, moduleSaveName)))
-            return profile;
+            return *profile;
     }
     return Settings::selection(moduleSaveName);
 }
@@ -58,11 +58,11 @@ void rename(const QString &identifier, const QString &newIdentifier, const QStri
     if (hasProfiles(volume)) {
         const QString profile = StickFiles::selectionProfile(volume, moduleSaveName);
         auto selection = PropertyList::readStringArray(profile);
-        if (replaceIn(selection, identifier, newIdentifier))
+        if (selection && replaceIn(*selection, identifier, newIdentifier))
             storeProfile(*selection, profile);
     }
     auto selection = Settings::selection(moduleSaveName);
-    if (replaceIn(selection, identifier, newIdentifier))
+    if (selection && replaceIn(*selection, identifier, newIdentifier))
         Settings::setSelection(moduleSaveName, *selection);
 }
 

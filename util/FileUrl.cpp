@@ -67,7 +67,7 @@ std::optional<QString> path(std::string_view url)
         decoded.pop_back();
     if (!decoded.starts_with('/') || decoded.find('\0') != decoded.npos)
         return std::nullopt;
-    return QString::fromUtf8(decoded.data(), static_cast<qsizetype>(decoded.size()));
+    return QString::fromUtf8(decoded);
 }
 
 } // namespace FileUrl

@@ -5,13 +5,12 @@
 
 QVariantList BookmarkList::topLevelEntries(const QString &path)
 {
-    PropertyListError error;
-    const auto root = PropertyList::read(path, PropertyList::defaultLimit, &error);
-    if (root && root->typeId() != QMetaType::QVariantMap)
-        error = {QStringLiteral("its root is no dictionary")};
-    if (error)
-        qCWarning(lcModules).noquote() << "Can't read the bookmarks" << error.in(path);
-    return children(dictionary(root.value_or(QVariant())));
+    const FileResult<QVariantMap> root = PropertyList::readDictionary(path);
+    if (!root && !root.error().isMissing()) {
+        qCWarning(lcModules).noquote()
+            << "Can't read the bookmarks" << PropertyList::logText(root.error());
+    }
+    return children(root.valueOr({}));
 }
 
 QVariantList BookmarkList::children(const QVariantMap &entry)

@@ -34,8 +34,7 @@ bool isPlayable(const MusicLibrary::Track &track, qint64 firmware)
     if (dot == std::string_view::npos || track.location->size() - dot > 5)
         return false;
     const std::string_view extension = track.location->substr(dot + 1);
-    return MusicNaming::isPlayable(
-        QString::fromUtf8(extension.data(), static_cast<qsizetype>(extension.size())), firmware);
+    return MusicNaming::isPlayable(QString::fromUtf8(extension), firmware);
 }
 
 } // namespace

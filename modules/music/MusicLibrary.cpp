@@ -1,6 +1,6 @@
 #include "modules/music/MusicLibrary.h"
 
-#include "platform/lists/PropertyListReader.h"
+#include "platform/lists/PropertyListOutline.h"
 #include "sync/Log.h"
 
 #include <algorithm>
@@ -23,278 +23,116 @@ std::optional<std::int64_t> trackId(std::string_view key)
     return id;
 }
 
-std::int32_t clampedInteger(const PropertyListScalar &value)
+std::int32_t clamped(std::int64_t number)
 {
     return static_cast<std::int32_t>(
-        std::clamp<std::int64_t>(value.toInteger(), std::numeric_limits<std::int32_t>::min(),
+        std::clamp<std::int64_t>(number, std::numeric_limits<std::int32_t>::min(),
                                  std::numeric_limits<std::int32_t>::max()));
 }
 
 } // namespace
 
-// Follows the list's shape with a stack of places; what stands where it doesn't belong opens a
-// place in which everything is passed over.
-class MusicLibrary::Reader : public PropertyListHandler
+class MusicLibrary::Reader
 {
 public:
     Reader(MusicLibrary &library, Part part)
         : m_library(library)
-        , m_part(part)
+        , m_outline(root(part))
     {
     }
 
-    bool rootIsDictionary() const { return m_rootIsDictionary; }
-
-    bool key(std::string_view name) override;
-    void beginDictionary() override;
-    void endDictionary() override { m_places.pop_back(); }
-    void beginArray() override;
-    void endArray() override { m_places.pop_back(); }
-    void scalar(const PropertyListScalar &value) override;
+    FileResult<> read(const QString &path) { return m_outline.read(path, libraryLimit); }
 
 private:
-    enum class In { Nothing, Root, Tracks, Track, Playlists, Playlist, Items, Item, Unknown };
-    enum class Field {
-        None,
-        TrackTable,
-        PlaylistList, // of the root
-        Type,
-        Kind,
-        Location,
-        Artist,
-        Album,
-        Name,
-        TrackNumber,
-        DiscNumber, // of a track
-        PlaylistName,
-        Items,
-        Master,
-        Podcasts,
-        PartyShuffle,
-        PurchasedMusic,
-        Videos,  // of a playlist
-        TrackId, // of an item
-    };
+    using Outline = PropertyListOutline::Place;
 
-    In place() const { return m_places.empty() ? In::Nothing : m_places.back(); }
-    bool rootKey(std::string_view name);
-    bool trackTableKey(std::string_view name);
-    bool trackKey(std::string_view name);
-    bool playlistKey(std::string_view name);
-    void trackScalar(const PropertyListScalar &value);
-    void playlistScalar(const PropertyListScalar &value);
+    Outline root(Part part);
+    Outline tracks();
+    Outline playlists();
+    Outline text(Place StoredTrack::*field);
+    Outline number(std::int32_t StoredTrack::*field);
+    Outline flag(bool Playlist::*field);
+
+    StoredTrack &track() { return m_library.m_tracks.back(); }
+    Playlist &playlist() { return m_library.m_playlists.back(); }
     Place keep(std::string_view text);
 
     MusicLibrary &m_library;
-    const Part m_part;
-    std::vector<In> m_places;
-    Field m_field = Field::None; // of the key read last
-    std::int64_t m_trackId = 0;
-    bool m_rootIsDictionary = false;
+    std::int64_t m_trackId = 0; // of the key read last
+    PropertyListOutline m_outline;
 };
 
-bool MusicLibrary::Reader::key(std::string_view name)
+MusicLibrary::Reader::Outline MusicLibrary::Reader::root(Part part)
 {
-    switch (place()) {
-    case In::Track:
-        return trackKey(name);
-    case In::Tracks:
-        return trackTableKey(name);
-    case In::Item:
-        m_field = Field::TrackId;
-        return name == "Track ID";
-    case In::Playlist:
-        return playlistKey(name);
-    case In::Root:
-        return rootKey(name);
-    default:
-        return false;
-    }
+    Outline::Keys keys{{"Playlists", playlists()}};
+    if (part == Part::Everything)
+        keys.emplace_back("Tracks", tracks());
+    return Outline::dictionary(std::move(keys));
 }
 
-bool MusicLibrary::Reader::rootKey(std::string_view name)
+MusicLibrary::Reader::Outline MusicLibrary::Reader::tracks()
 {
-    if (name == "Tracks" && m_part == Part::Everything)
-        m_field = Field::TrackTable;
-    else if (name == "Playlists")
-        m_field = Field::PlaylistList;
-    else
-        return false;
-    return true;
+    const Outline each = Outline::dictionary(
+        {
+            {"Name", text(&StoredTrack::name)},
+            {"Artist", text(&StoredTrack::artist)},
+            {"Album", text(&StoredTrack::album)},
+            {"Kind", Outline::value<std::string_view>([this](std::string_view kind) {
+                 track().isLossless = kind.find("Lossless") != kind.npos;
+             })},
+            {"Location", text(&StoredTrack::location)},
+            {"Track Type", Outline::value<std::string_view>(
+                               [this](std::string_view type) { track().isFile = type == "File"; })},
+            {"Track Number", number(&StoredTrack::trackNumber)},
+            {"Disc Number", number(&StoredTrack::discNumber)},
+        },
+        [this] { m_library.m_tracks.emplace_back().id = m_trackId; });
+    return Outline::table(each, [this](std::string_view key) {
+        const auto id = trackId(key);
+        m_trackId = id.value_or(0);
+        return id.has_value();
+    });
 }
 
-bool MusicLibrary::Reader::trackTableKey(std::string_view name)
+MusicLibrary::Reader::Outline MusicLibrary::Reader::playlists()
 {
-    const auto id = trackId(name);
-    m_trackId = id.value_or(0);
-    return id.has_value();
+    const Outline item =
+        Outline::dictionary({{"Track ID", Outline::value<std::int64_t>([this](std::int64_t id) {
+                                  playlist().tracks.push_back(id);
+                              })}},
+                            [this] { ++playlist().size; });
+    const Outline each = Outline::dictionary(
+        {
+            {"Name", Outline::value<std::string_view>([this](std::string_view name) {
+                 playlist().name = QString::fromUtf8(name);
+             })},
+            {"Playlist Items", Outline::array(item)},
+            {"Master", flag(&Playlist::isMaster)},
+            {"Podcasts", flag(&Playlist::isPodcasts)},
+            {"Party Shuffle", flag(&Playlist::isPartyShuffle)},
+            {"Purchased Music", flag(&Playlist::isPurchasedMusic)},
+            {"Videos", flag(&Playlist::isVideos)},
+            {"Smart Info", Outline::presence([this] { playlist().isSmart = true; })},
+        },
+        [this] { m_library.m_playlists.emplace_back(); });
+    return Outline::array(each);
 }
 
-bool MusicLibrary::Reader::trackKey(std::string_view name)
+MusicLibrary::Reader::Outline MusicLibrary::Reader::text(Place StoredTrack::*field)
 {
-    static constexpr std::pair<std::string_view, Field> fields[] = {
-        {"Name", Field::Name},
-        {"Artist", Field::Artist},
-        {"Album", Field::Album},
-        {"Kind", Field::Kind},
-        {"Location", Field::Location},
-        {"Track Type", Field::Type},
-        {"Track Number", Field::TrackNumber},
-        {"Disc Number", Field::DiscNumber},
-    };
-    for (const auto &[key, field] : fields) {
-        if (name == key) {
-            m_field = field;
-            return true;
-        }
-    }
-    return false;
+    return Outline::value<std::string_view>(
+        [this, field](std::string_view text) { track().*field = keep(text); });
 }
 
-bool MusicLibrary::Reader::playlistKey(std::string_view name)
+MusicLibrary::Reader::Outline MusicLibrary::Reader::number(std::int32_t StoredTrack::*field)
 {
-    static constexpr std::pair<std::string_view, Field> fields[] = {
-        {"Name", Field::PlaylistName},
-        {"Playlist Items", Field::Items},
-        {"Master", Field::Master},
-        {"Podcasts", Field::Podcasts},
-        {"Party Shuffle", Field::PartyShuffle},
-        {"Purchased Music", Field::PurchasedMusic},
-        {"Videos", Field::Videos},
-    };
-    for (const auto &[key, field] : fields) {
-        if (name == key) {
-            m_field = field;
-            return true;
-        }
-    }
-    // Its presence alone tells.
-    if (name == "Smart Info")
-        m_library.m_playlists.back().isSmart = true;
-    return false;
+    return Outline::value<std::int64_t>(
+        [this, field](std::int64_t number) { track().*field = clamped(number); });
 }
 
-void MusicLibrary::Reader::beginDictionary()
+MusicLibrary::Reader::Outline MusicLibrary::Reader::flag(bool Playlist::*field)
 {
-    In next = In::Unknown;
-    switch (place()) {
-    case In::Nothing:
-        m_rootIsDictionary = true;
-        next = In::Root;
-        break;
-    case In::Root:
-        if (m_field == Field::TrackTable)
-            next = In::Tracks;
-        break;
-    case In::Tracks:
-        m_library.m_tracks.emplace_back().id = m_trackId;
-        next = In::Track;
-        break;
-    case In::Playlists:
-        m_library.m_playlists.emplace_back();
-        next = In::Playlist;
-        break;
-    case In::Items:
-        ++m_library.m_playlists.back().size;
-        next = In::Item;
-        break;
-    default:
-        break;
-    }
-    m_places.push_back(next);
-}
-
-void MusicLibrary::Reader::beginArray()
-{
-    In next = In::Unknown;
-    if (place() == In::Root && m_field == Field::PlaylistList)
-        next = In::Playlists;
-    else if (place() == In::Playlist && m_field == Field::Items)
-        next = In::Items;
-    m_places.push_back(next);
-}
-
-void MusicLibrary::Reader::scalar(const PropertyListScalar &value)
-{
-    switch (place()) {
-    case In::Track:
-        trackScalar(value);
-        break;
-    case In::Playlist:
-        playlistScalar(value);
-        break;
-    case In::Item:
-        if (value.type == PropertyListType::Integer)
-            m_library.m_playlists.back().tracks.push_back(value.toInteger());
-        break;
-    default:
-        break;
-    }
-}
-
-void MusicLibrary::Reader::trackScalar(const PropertyListScalar &value)
-{
-    StoredTrack &track = m_library.m_tracks.back();
-    if (value.type == PropertyListType::Integer) {
-        if (m_field == Field::TrackNumber)
-            track.trackNumber = clampedInteger(value);
-        else if (m_field == Field::DiscNumber)
-            track.discNumber = clampedInteger(value);
-    }
-    if (value.type != PropertyListType::String)
-        return;
-    switch (m_field) {
-    case Field::Type:
-        track.isFile = value.text == "File";
-        break;
-    case Field::Kind:
-        track.isLossless = value.text.find("Lossless") != value.text.npos;
-        break;
-    case Field::Location:
-        track.location = keep(value.text);
-        break;
-    case Field::Artist:
-        track.artist = keep(value.text);
-        break;
-    case Field::Album:
-        track.album = keep(value.text);
-        break;
-    case Field::Name:
-        track.name = keep(value.text);
-        break;
-    default:
-        break;
-    }
-}
-
-void MusicLibrary::Reader::playlistScalar(const PropertyListScalar &value)
-{
-    Playlist &playlist = m_library.m_playlists.back();
-    if (m_field == Field::PlaylistName && value.type == PropertyListType::String) {
-        playlist.name =
-            QString::fromUtf8(value.text.data(), static_cast<qsizetype>(value.text.size()));
-        return;
-    }
-    const bool isTrue = value.type == PropertyListType::Boolean && value.text == "true";
-    switch (m_field) {
-    case Field::Master:
-        playlist.isMaster = isTrue;
-        break;
-    case Field::Podcasts:
-        playlist.isPodcasts = isTrue;
-        break;
-    case Field::PartyShuffle:
-        playlist.isPartyShuffle = isTrue;
-        break;
-    case Field::PurchasedMusic:
-        playlist.isPurchasedMusic = isTrue;
-        break;
-    case Field::Videos:
-        playlist.isVideos = isTrue;
-        break;
-    default:
-        break;
-    }
+    return Outline::value<bool>([this, field](bool isSet) { playlist().*field = isSet; });
 }
 
 MusicLibrary::Place MusicLibrary::Reader::keep(std::string_view text)
@@ -307,16 +145,12 @@ MusicLibrary::Place MusicLibrary::Reader::keep(std::string_view text)
 std::optional<MusicLibrary> MusicLibrary::read(const QString &path, Part part)
 {
     MusicLibrary library;
-    Reader reader(library, part);
-    PropertyListError error;
-    if (readPropertyList(path, libraryLimit, reader, &error) && !reader.rootIsDictionary())
-        error.text = QStringLiteral("the list's root is no dictionary");
-    if (error) {
-        qCWarning(lcModules).noquote()
-            << "Can't read the music library" << path << "line" << error.line << ":" << error.text;
-    }
-    if (error || !reader.rootIsDictionary())
+    if (const FileResult<> done = Reader(library, part).read(path); !done) {
+        const FileError &error = done.error();
+        if (!error.isMissing())
+            qCWarning(lcModules).noquote() << "Can't read the music library" << path << error.text;
         return std::nullopt;
+    }
     library.sortTracks();
     return library;
 }

@@ -11,11 +11,6 @@ using Settings::MusicPrefix;
 
 namespace {
 
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // Decimal with at least so many digits, as printf's "%0<width>i".
 void appendPadded(QString &text, int number, qsizetype width)
 {
@@ -61,7 +56,7 @@ const MusicNaming::Name &MusicNaming::nameOf(const MusicLibrary::Text &text)
         return m_unsorted;
     const auto [place, isNew] = m_names.try_emplace(*text);
     if (isNew)
-        place->second = nameOf(toQString(*text));
+        place->second = nameOf(QString::fromUtf8(*text));
     return place->second;
 }
 
@@ -101,7 +96,7 @@ QString MusicNaming::relativePath(const MusicLibrary::Track &track, int position
     appendPrefix(file, track, position);
     if (m_folders == MusicFolders::Playlist)
         file.append(nameOf(track.artist).sanitized).append(QStringLiteral(" - "));
-    file += track.name ? FileManagerTools::makeFilename(toQString(*track.name))
+    file += track.name ? FileManagerTools::makeFilename(QString::fromUtf8(*track.name))
                        : QStringLiteral("Untitled");
 
     QString path = folder(track);

@@ -1,149 +1,109 @@
 #include "modules/photos/PhotoLibrary.h"
 
-#include "platform/lists/PropertyListReader.h"
+#include "platform/lists/PropertyList.h"
+#include "platform/lists/PropertyListOutline.h"
 #include "sync/Log.h"
 
 namespace {
 
 constexpr quint64 libraryLimit = 1ULL << 30; // bytes
 
-QString toText(std::string_view text)
+bool isTrue(const PropertyListScalar &value)
 {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const bool *flag = std::get_if<bool>(&value);
+    const std::int64_t *number = std::get_if<std::int64_t>(&value);
+    return (flag && *flag) || (number && *number != 0);
 }
 
 } // namespace
 
-// Follows the list's shape with a stack of places; what stands where it doesn't belong opens a
-// place in which everything is passed over.
-class PhotoLibrary::Reader : public PropertyListHandler
+class PhotoLibrary::Reader
 {
 public:
     Reader(PhotoLibrary &library, Part part)
         : m_library(library)
-        , m_part(part)
+        , m_outline(root(part))
     {
     }
 
-    bool rootIsDictionary() const { return m_rootIsDictionary; }
-
-    bool key(std::string_view name) override;
-    void beginDictionary() override;
-    void endDictionary() override { m_places.pop_back(); }
-    void beginArray() override;
-    void endArray() override { m_places.pop_back(); }
-    void scalar(const PropertyListScalar &value) override;
+    FileResult<> read(const QString &path) { return m_outline.read(path, libraryLimit); }
 
 private:
-    enum class In { Nothing, Root, Albums, Album, Keys, Images, Image, Unknown };
+    using Place = PropertyListOutline::Place;
 
-    In place() const { return m_places.empty() ? In::Nothing : m_places.back(); }
-    void albumScalar(const PropertyListScalar &value);
-    void imageScalar(const PropertyListScalar &value);
+    Place root(Part part);
+    Place albums(Part part);
+    Place images();
+    Album &album() { return m_library.m_albums.back(); }
+
+    /// A text that goes where `target` says at that moment.
+    template <typename Target>
+    static Place text(Target target)
+    {
+        return Place::value<std::string_view>(
+            [target](std::string_view text) { target() = QString::fromUtf8(text); });
+    }
 
     PhotoLibrary &m_library;
-    const Part m_part;
-    std::vector<In> m_places;
-    std::string m_key; // read last in the open dictionary
+    QString m_imageKey; // read last
     Image *m_image = nullptr;
-    bool m_rootIsDictionary = false;
+    PropertyListOutline m_outline;
 };
 
-bool PhotoLibrary::Reader::key(std::string_view name)
+PhotoLibrary::Reader::Place PhotoLibrary::Reader::root(Part part)
 {
-    m_key = name;
-    switch (place()) {
-    case In::Root:
-        return name == "List of Albums" ||
-               (name == "Master Image List" && m_part == Part::Everything);
-    case In::Album:
-        return name == "AlbumName" || name == "KeyList" || name == "Album Type" || name == "Master";
-    case In::Images:
+    Place::Keys keys{{"List of Albums", albums(part)}};
+    if (part == Part::Everything)
+        keys.emplace_back("Master Image List", images());
+    return Place::dictionary(std::move(keys));
+}
+
+PhotoLibrary::Reader::Place PhotoLibrary::Reader::albums(Part part)
+{
+    const Place imageKey = Place::scalar([this, part](const PropertyListScalar &value) {
+        ++album().size;
+        const auto *text = std::get_if<std::string_view>(&value);
+        if (part == Part::Everything)
+            album().keys.append(text ? QString::fromUtf8(*text) : QString());
+    });
+    const Place each = Place::dictionary(
+        {
+            {"AlbumName", text([this]() -> auto & { return album().name; })},
+            {"Album Type", text([this]() -> auto & { return album().type; })},
+            {"KeyList", Place::array(imageKey)},
+            {"Master", Place::scalar([this](const PropertyListScalar &value) {
+                 album().isMaster = isTrue(value);
+             })},
+        },
+        [this] { m_library.m_albums.emplace_back(); });
+    return Place::array(each);
+}
+
+PhotoLibrary::Reader::Place PhotoLibrary::Reader::images()
+{
+    const Place each = Place::dictionary(
+        {
+            {"Caption", text([this]() -> auto & { return m_image->caption; })},
+            {"ImagePath", text([this]() -> auto & { return m_image->path; })},
+        },
+        [this] { m_image = &m_library.m_images[m_imageKey]; });
+    return Place::table(each, [this](std::string_view key) {
+        m_imageKey = QString::fromUtf8(key);
         return true;
-    case In::Image:
-        return name == "Caption" || name == "ImagePath";
-    default:
-        return false;
-    }
-}
-
-void PhotoLibrary::Reader::beginDictionary()
-{
-    In opened = In::Unknown;
-    if (m_places.empty()) {
-        opened = In::Root;
-        m_rootIsDictionary = true;
-    } else if (place() == In::Root && m_key == "Master Image List") {
-        opened = In::Images;
-    } else if (place() == In::Albums) {
-        opened = In::Album;
-        m_library.m_albums.emplace_back();
-    } else if (place() == In::Images) {
-        opened = In::Image;
-        m_image = &m_library.m_images[toText(m_key)];
-    }
-    m_places.push_back(opened);
-}
-
-void PhotoLibrary::Reader::beginArray()
-{
-    In opened = In::Unknown;
-    if (place() == In::Root && m_key == "List of Albums")
-        opened = In::Albums;
-    else if (place() == In::Album && m_key == "KeyList")
-        opened = In::Keys;
-    m_places.push_back(opened);
-}
-
-void PhotoLibrary::Reader::scalar(const PropertyListScalar &value)
-{
-    if (place() == In::Album)
-        albumScalar(value);
-    else if (place() == In::Image && value.type == PropertyListType::String)
-        imageScalar(value);
-    else if (place() == In::Keys) {
-        Album &album = m_library.m_albums.back();
-        ++album.size;
-        if (m_part == Part::Everything)
-            album.keys.append(value.type == PropertyListType::String ? toText(value.text)
-                                                                     : QString());
-    }
-}
-
-void PhotoLibrary::Reader::albumScalar(const PropertyListScalar &value)
-{
-    Album &album = m_library.m_albums.back();
-    const bool isString = value.type == PropertyListType::String;
-    if (m_key == "AlbumName" && isString)
-        album.name = toText(value.text);
-    else if (m_key == "Album Type" && isString)
-        album.type = toText(value.text);
-    else if (m_key == "Master")
-        album.isMaster = (value.type == PropertyListType::Boolean && value.text == "true") ||
-                         value.toInteger() != 0;
-}
-
-void PhotoLibrary::Reader::imageScalar(const PropertyListScalar &value)
-{
-    if (m_key == "Caption")
-        m_image->caption = toText(value.text);
-    else
-        m_image->path = toText(value.text);
+    });
 }
 
 std::optional<PhotoLibrary> PhotoLibrary::read(const QString &path, Part part)
 {
     PhotoLibrary library;
-    Reader reader(library, part);
-    PropertyListError error;
-    const bool done = readPropertyList(path, libraryLimit, reader, &error);
-    if (done && !reader.rootIsDictionary())
-        error = {QStringLiteral("its root is no dictionary")};
-    if (error)
-        qCWarning(lcModules).noquote() << "Can't read the photo library" << error.in(path);
-    if (!done || error)
-        return std::nullopt;
-    return library;
+    const FileResult<> done = Reader(library, part).read(path);
+    if (done)
+        return library;
+    if (!done.error().isMissing()) {
+        qCWarning(lcModules).noquote()
+            << "Can't read the photo library" << PropertyList::logText(done.error());
+    }
+    return std::nullopt;
 }
 
 const PhotoLibrary::Image *PhotoLibrary::image(const QString &key) const

@@ -7,12 +7,9 @@
 
 namespace {
 
-std::optional<QVariantMap> infoOf(const QString &bundle)
+FileResult<QVariantMap> infoOf(const QString &bundle)
 {
-    const auto info = PropertyList::read(bundle + QStringLiteral("/Contents/Info.plist"));
-    if (!info || info->typeId() != QMetaType::QVariantMap)
-        return std::nullopt;
-    return info->toMap();
+    return PropertyList::readDictionary(bundle + QStringLiteral("/Contents/Info.plist"));
 }
 
 QString ownExecutable()
@@ -40,7 +37,7 @@ Bundle Bundle::main()
 
 bool Bundle::exists() const
 {
-    return infoOf(m_path).has_value();
+    return bool(infoOf(m_path));
 }
 
 QString Bundle::resourcePath() const
@@ -50,7 +47,7 @@ QString Bundle::resourcePath() const
 
 QString Bundle::infoString(const QString &key) const
 {
-    const QVariant value = infoOf(m_path).value_or(QVariantMap()).value(key);
+    const QVariant value = infoOf(m_path).valueOr({}).value(key);
     switch (value.typeId()) {
     case QMetaType::QString:
     case QMetaType::LongLong:

@@ -2,9 +2,8 @@
 
 #include "platform/lists/PropertyListReader.h"
 
+#include <QStringList>
 #include <QVariant>
-
-#include <optional>
 
 /// Property lists as trees. A dictionary is a QVariantMap, an array a QVariantList, a string a
 /// QString, an integer qlonglong (qulonglong above its range), a real double, a boolean bool, a
@@ -14,21 +13,25 @@ namespace PropertyList {
 /// Largest list that is read by default, in bytes.
 inline constexpr quint64 defaultLimit = 64ULL << 20;
 
-/// Reads a list, XML or binary. Nothing when the file is missing (`error` then stays empty), longer
-/// than the limit, or no property list (`error` says what and where).
-std::optional<QVariant> read(const QString &path, quint64 limit = defaultLimit,
-                             PropertyListError *error = nullptr);
+/// Reads a list, XML or binary. Errors are those of readPropertyList().
+FileResult<QVariant> read(const QString &path, quint64 limit = defaultLimit);
 
-/// Convenience for lists of strings, as sync indexes and selections are: entries of another type
-/// are left out; nothing when the file's root is no array. A file that exists but can't be used is
-/// named in the system log.
-std::optional<QStringList> readStringArray(const QString &path);
+/// The same for a list whose root must be a dictionary.
+FileResult<QVariantMap> readDictionary(const QString &path);
 
-/// The list as an XML document. Values of a type that no list can hold are left out.
+/// The same for lists of strings, as sync indexes and selections are: entries of another type are
+/// left out. A file that exists but can't be used is named in the system log.
+FileResult<QStringList> readStringArray(const QString &path);
+
+/// Of a list that couldn't be read, for logs: "PATH:LINE: TEXT", without the line where there is
+/// none.
+QString logText(const FileError &error);
+
+/// The list as an XML document. Values of a type that no list can hold are left out; empty where
+/// the root is one.
 QByteArray toXml(const QVariant &root);
 
-/// Writes the list as XML in the place of the old file, atomically. On failure the old file stays
-/// and `reason` (may be null) gets the system's text.
-bool writeAtomically(const QVariant &root, const QString &path, QString *reason = nullptr);
+/// Writes the list as XML in the place of the old file, atomically. On failure the old file stays.
+FileResult<> writeAtomically(const QVariant &root, const QString &path);
 
 } // namespace PropertyList

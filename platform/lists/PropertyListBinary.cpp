@@ -1,387 +1,406 @@
 #include "platform/lists/own/PropertyListParts.h"
 
-#include "platform/core/own/Posix.h"
-
-#include <QByteArray>
-
-#include <plist/plist.h>
+#include <QByteArrayView>
+#include <QtEndian>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdlib>
-#include <cstring>
+#include <bit>
+#include <cmath>
 #include <limits>
-#include <memory>
-#include <optional>
-#include <unordered_map>
 
 using namespace PropertyListParts;
 
 namespace {
 
-/// Looks a binary list over before libplist unfolds it. The format lets an object be referred to
-/// many times, by itself included, and libplist copies an object at each reference and recurses:
-/// without this check a file of a few hundred bytes could take all memory or the stack.
-class BinaryShape
+// A binary list is "bplist00", its objects, a table of their positions, and a trailer: six bytes of
+// no matter, the width of a position and of a reference in bytes, then in eight bytes each the
+// number of objects, the root and the table's position. A reference is an index into the table.
+// Numbers are big-endian.
+constexpr qsizetype trailerSize = 32;
+
+// An object's first byte: its kind, and in the lower half what the kind makes of it.
+enum Kind : unsigned {
+    Plain = 0x0,     // the lower half tells which value
+    Integer = 0x1,   // in 2^n bytes: of 8 and 16 signed, else unsigned
+    Real = 0x2,      // in 2^n bytes
+    Date = 0x3,      // a real of 8 bytes: seconds since 2001 began in UTC
+    Data = 0x4,      // n bytes
+    Ascii = 0x5,     // n characters
+    Utf16 = 0x6,     // n units
+    Uid = 0x8,       // an unsigned number in n + 1 bytes
+    Array = 0xA,     // n references
+    Set = 0xC,       // the same
+    Dictionary = 0xD // n references to keys, then n to values
+};
+constexpr unsigned falseValue = 0x8;
+constexpr unsigned trueValue = 0x9;
+constexpr unsigned countFollows = 0xF; // the n stands behind, as an integer object
+
+quint64 numberIn(QByteArrayView bytes)
+{
+    quint64 number = 0;
+    for (const char byte : bytes)
+        number = number << 8 | static_cast<unsigned char>(byte);
+    return number;
+}
+
+/// The real in 4 or 8 bytes.
+double realIn(QByteArrayView bytes)
+{
+    if (bytes.size() == sizeof(float))
+        return std::bit_cast<float>(static_cast<quint32>(numberIn(bytes)));
+    return std::bit_cast<double>(numberIn(bytes));
+}
+
+/// Tells a handler of a binary list what it would have heard of the same list in XML. An object may
+/// be referred to many times, by itself included, and is told each time: what a list unfolds to has
+/// a limit of its own, without which a few hundred bytes would take all memory.
+class BinaryReader
 {
 public:
     /// `budget`: bytes that the unfolded list may weigh.
-    BinaryShape(const QByteArray &bytes, quint64 budget);
+    BinaryReader(QByteArrayView bytes, quint64 budget, PropertyListHandler &handler)
+        : m_bytes(bytes)
+        , m_budget(budget)
+        , m_left(budget)
+        , m_handler(handler)
+    {
+    }
 
-    /// Empty when the list can be unfolded safely.
+    /// Empty when all of the list was told.
     QString problem();
 
 private:
-    static constexpr quint64 trailerSize = 32;
-    static constexpr quint64 nodeWeight = 32; // of every value, besides the bytes that it holds
-
     struct Object
     {
-        quint64 position; // of the contents
-        quint64 count;    // of references in a container, else of bytes
-        bool isContainer;
-        quint64 keys = 0;      // of a dictionary: the references in front
-        quint64 unitWidth = 0; // of a text: bytes of a unit
+        unsigned kind;
+        unsigned low;
+        QByteArrayView contents;
     };
 
-    struct Measure
-    {
-        quint64 weight;
-        std::size_t height; // containers from here to the deepest one
-    };
-
-    quint64 number(quint64 position, quint64 width) const;
-    bool holds(quint64 position, quint64 count, quint64 width) const;
+    std::optional<QByteArrayView> part(quint64 position, quint64 count, quint64 width) const;
     bool readTrailer();
-    std::optional<Object> object(quint64 index) const;
-    bool hasNul(quint64 index) const;
-    std::optional<Measure> measure(quint64 index, std::size_t depth);
-    std::optional<Measure> measureContents(const Object &container, std::size_t depth);
-    std::nullopt_t fail(const QString &text);
+    std::optional<quint64> followingCount(quint64 &position) const;
+    quint64 unitWidth(unsigned kind) const;
+    std::optional<Object> objectAt(quint64 index) const;
+    std::optional<Object> take(quint64 index);
+    quint64 reference(QByteArrayView references, qsizetype index) const;
 
-    const unsigned char *const m_bytes;
-    const quint64 m_size;
+    // Each tells the handler of one value; false where that failed.
+    bool value(quint64 index, std::size_t depth);
+    bool scalar(const Object &object);
+    bool plain(const Object &object);
+    bool integer(QByteArrayView bytes);
+    bool date(QByteArrayView bytes);
+    bool uid(QByteArrayView bytes);
+    bool array(QByteArrayView references, std::size_t depth);
+    bool dictionary(QByteArrayView references, std::size_t depth);
+
+    std::string_view text(const Object &object);
+    bool tell(const PropertyListScalar &value);
+    bool tellUnsigned(quint64 number);
+    bool fail(const QString &text);
+    bool failOverKind() { return fail(QStringLiteral("a value of an unknown kind")); }
+
+    const QByteArrayView m_bytes;
     const quint64 m_budget;
-    quint64 m_offsetWidth = 0;
+    quint64 m_left; // of the budget
+    PropertyListHandler &m_handler;
+    quint64 m_positionWidth = 0;
     quint64 m_referenceWidth = 0;
     quint64 m_objects = 0;
     quint64 m_root = 0;
-    quint64 m_offsets = 0;                           // position of the table of offsets
-    std::unordered_map<quint64, Measure> m_measured; // containers, by index
+    QByteArrayView m_table; // of positions
+    QByteArray m_text;      // the last one that had to be converted
     QString m_problem;
 };
 
-BinaryShape::BinaryShape(const QByteArray &bytes, quint64 budget)
-    : m_bytes(reinterpret_cast<const unsigned char *>(bytes.constData()))
-    , m_size(static_cast<quint64>(bytes.size()))
-    , m_budget(budget)
-{
-}
-
-QString BinaryShape::problem()
+QString BinaryReader::problem()
 {
     if (!readTrailer())
-        return QStringLiteral("binary list: damaged trailer");
-    measure(m_root, 1);
+        fail(QStringLiteral("damaged trailer"));
+    else
+        value(m_root, 1);
     return m_problem;
 }
 
-std::nullopt_t BinaryShape::fail(const QString &text)
+bool BinaryReader::fail(const QString &text)
 {
     m_problem = QStringLiteral("binary list: ") + text;
-    return std::nullopt;
-}
-
-quint64 BinaryShape::number(quint64 position, quint64 width) const
-{
-    quint64 value = 0;
-    for (quint64 i = 0; i < width; ++i)
-        value = value << 8 | m_bytes[position + i];
-    return value;
-}
-
-bool BinaryShape::holds(quint64 position, quint64 count, quint64 width) const
-{
-    return position <= m_size && count <= (m_size - position) / width;
-}
-
-bool BinaryShape::readTrailer()
-{
-    if (m_size < trailerSize)
-        return false;
-    const quint64 trailer = m_size - trailerSize;
-    m_offsetWidth = m_bytes[trailer + 6];
-    m_referenceWidth = m_bytes[trailer + 7];
-    m_objects = number(trailer + 8, 8);
-    m_root = number(trailer + 16, 8);
-    m_offsets = number(trailer + 24, 8);
-    const auto isWidth = [](quint64 width) {
-        return width >= 1 && width <= 8;
-    };
-    return isWidth(m_offsetWidth) && isWidth(m_referenceWidth) &&
-           holds(m_offsets, m_objects, m_offsetWidth);
-}
-
-std::optional<BinaryShape::Object> BinaryShape::object(quint64 index) const
-{
-    if (index >= m_objects)
-        return std::nullopt;
-    quint64 position = number(m_offsets + index * m_offsetWidth, m_offsetWidth);
-    if (!holds(position, 1, 1))
-        return std::nullopt;
-    const unsigned kind = m_bytes[position] >> 4;
-    quint64 count = m_bytes[position] & 0x0FU;
-    ++position;
-    const bool isText = kind == 0x4 || kind == 0x5 || kind == 0x6;
-    const bool isContainer = kind == 0xA || kind == 0xC || kind == 0xD;
-    if (!isText && !isContainer)
-        return Object{position, 0, false};
-    if (count == 0x0F) {
-        // The length stands behind as an integer object of 1, 2, 4 or 8 bytes.
-        if (!holds(position, 1, 1) || (m_bytes[position] & 0xFCU) != 0x10)
-            return std::nullopt;
-        const quint64 width = 1ULL << (m_bytes[position] & 0x03U);
-        if (!holds(position + 1, 1, width))
-            return std::nullopt;
-        count = number(position + 1, width);
-        position += 1 + width;
-    }
-    const quint64 parts = kind == 0x6 || kind == 0xD ? 2 : 1;
-    if (!holds(position, count, parts * (isContainer ? m_referenceWidth : 1)))
-        return std::nullopt;
-    return Object{position, count * parts, isContainer, kind == 0xD ? count : 0,
-                  kind == 0x5 || kind == 0x6 ? parts : 0};
-}
-
-bool BinaryShape::hasNul(quint64 index) const
-{
-    const std::optional<Object> text = object(index);
-    if (!text || text->unitWidth == 0)
-        return false;
-    for (quint64 i = 0; i < text->count; i += text->unitWidth) {
-        if (number(text->position + i, text->unitWidth) == 0)
-            return true;
-    }
     return false;
 }
 
-std::optional<BinaryShape::Measure> BinaryShape::measure(quint64 index, std::size_t depth)
+/// So many units of the file; nothing where they reach outside.
+std::optional<QByteArrayView> BinaryReader::part(quint64 position, quint64 count,
+                                                 quint64 width) const
 {
-    const std::optional<Object> found = object(index);
-    if (!found)
-        return fail(QStringLiteral("object %1 lies outside the file").arg(index));
-    if (!found->isContainer)
-        return Measure{nodeWeight + found->count, 0};
-    auto known = m_measured.find(index);
-    if (known == m_measured.end()) {
-        // A container inside itself ends here too: it never gets measured.
-        const std::optional<Measure> contents =
-            depth > depthLimit ? fail(tooDeepText()) : measureContents(*found, depth);
-        if (!contents)
-            return std::nullopt;
-        known = m_measured.emplace(index, *contents).first;
+    const auto size = static_cast<quint64>(m_bytes.size());
+    if (position > size || count > (size - position) / width)
+        return std::nullopt;
+    return m_bytes.sliced(static_cast<qsizetype>(position), static_cast<qsizetype>(count * width));
+}
+
+bool BinaryReader::readTrailer()
+{
+    if (m_bytes.size() < trailerSize)
+        return false;
+    const QByteArrayView trailer = m_bytes.last(trailerSize);
+    m_positionWidth = numberIn(trailer.sliced(6, 1));
+    m_referenceWidth = numberIn(trailer.sliced(7, 1));
+    m_objects = numberIn(trailer.sliced(8, 8));
+    m_root = numberIn(trailer.sliced(16, 8));
+    const auto isWidth = [](quint64 width) {
+        return width >= 1 && width <= 8;
+    };
+    if (!isWidth(m_positionWidth) || !isWidth(m_referenceWidth))
+        return false;
+    const auto table = part(numberIn(trailer.sliced(24, 8)), m_objects, m_positionWidth);
+    m_table = table.value_or(QByteArrayView());
+    return table.has_value();
+}
+
+/// A count that stands behind an object's first byte; moves the position behind it.
+std::optional<quint64> BinaryReader::followingCount(quint64 &position) const
+{
+    const auto marker = part(position, 1, 1);
+    if (!marker || (numberIn(*marker) & ~3ULL) != Integer << 4)
+        return std::nullopt;
+    const quint64 width = 1ULL << (numberIn(*marker) & 3);
+    const auto bytes = part(position + 1, 1, width);
+    if (!bytes)
+        return std::nullopt;
+    position += 1 + width;
+    return numberIn(*bytes);
+}
+
+/// Bytes of what the kind has n of; 0 where it has no such count.
+quint64 BinaryReader::unitWidth(unsigned kind) const
+{
+    switch (kind) {
+    case Data:
+    case Ascii:
+        return 1;
+    case Utf16:
+        return 2;
+    case Array:
+    case Set:
+        return m_referenceWidth;
+    case Dictionary:
+        return 2 * m_referenceWidth;
+    default:
+        return 0;
     }
-    if (depth + known->second.height - 1 > depthLimit)
+}
+
+/// Nothing where there is no such object, or it reaches outside the file.
+std::optional<BinaryReader::Object> BinaryReader::objectAt(quint64 index) const
+{
+    if (index >= m_objects)
+        return std::nullopt;
+    const auto width = static_cast<qsizetype>(m_positionWidth);
+    quint64 position = numberIn(m_table.sliced(static_cast<qsizetype>(index) * width, width));
+    const auto marker = part(position, 1, 1);
+    if (!marker)
+        return std::nullopt;
+    ++position;
+    const auto kind = static_cast<unsigned>(numberIn(*marker) >> 4);
+    const auto low = static_cast<unsigned>(numberIn(*marker) & 0xF);
+    std::optional<quint64> count = low;
+    const quint64 unit = unitWidth(kind);
+    if (unit > 0 && low == countFollows)
+        count = followingCount(position);
+    else if (kind == Integer || kind == Real || kind == Date)
+        count = 1ULL << low;
+    else if (kind == Uid)
+        count = low + 1;
+    else if (unit == 0)
+        count = 0;
+    const auto contents = count ? part(position, *count, std::max<quint64>(unit, 1)) : std::nullopt;
+    return contents ? std::optional(Object{kind, low, *contents}) : std::nullopt;
+}
+
+/// An object to tell of, for which the budget pays; nothing where that failed.
+std::optional<BinaryReader::Object> BinaryReader::take(quint64 index)
+{
+    constexpr quint64 weightOfNone = 32; // of every value, besides the bytes that it holds
+    const std::optional<Object> object = objectAt(index);
+    if (!object) {
+        fail(QStringLiteral("object %1 lies outside the file").arg(index));
+        return std::nullopt;
+    }
+    const quint64 weight = weightOfNone + static_cast<quint64>(object->contents.size());
+    if (weight > m_left) {
+        fail(QStringLiteral("unfolds to more than %1 bytes").arg(m_budget));
+        return std::nullopt;
+    }
+    m_left -= weight;
+    return object;
+}
+
+quint64 BinaryReader::reference(QByteArrayView references, qsizetype index) const
+{
+    const auto width = static_cast<qsizetype>(m_referenceWidth);
+    return numberIn(references.sliced(index * width, width));
+}
+
+bool BinaryReader::value(quint64 index, std::size_t depth)
+{
+    const std::optional<Object> object = take(index);
+    if (!object)
+        return false;
+    const bool isDictionary = object->kind == Dictionary;
+    if (!isDictionary && object->kind != Array && object->kind != Set)
+        return scalar(*object);
+    // A container inside itself ends here too.
+    if (depth > depthLimit)
         return fail(tooDeepText());
-    return known->second;
+    return isDictionary ? dictionary(object->contents, depth) : array(object->contents, depth);
 }
 
-std::optional<BinaryShape::Measure> BinaryShape::measureContents(const Object &container,
-                                                                 std::size_t depth)
+bool BinaryReader::scalar(const Object &object)
 {
-    Measure total{nodeWeight, 0};
-    for (quint64 i = 0; i < container.count; ++i) {
-        const quint64 reference =
-            number(container.position + i * m_referenceWidth, m_referenceWidth);
-        const std::optional<Measure> part = measure(reference, depth + 1);
-        if (!part)
-            return std::nullopt;
-        total.weight += part->weight;
-        total.height = std::max(total.height, part->height);
-        if (total.weight > m_budget)
-            return fail(QStringLiteral("unfolds to more than %1 bytes").arg(m_budget));
-        // libplist ends the process over such a key.
-        if (i < container.keys && hasNul(reference))
-            return fail(QStringLiteral("a key with a NUL inside"));
+    const QByteArrayView bytes = object.contents;
+    switch (object.kind) {
+    case Plain:
+        return plain(object);
+    case Integer:
+        return integer(bytes);
+    case Real:
+        return bytes.size() == 4 || bytes.size() == 8 ? tell(realIn(bytes)) : failOverKind();
+    case Date:
+        return date(bytes);
+    case Data:
+        return tell(bytes.toByteArray());
+    case Ascii:
+    case Utf16:
+        return tell(text(object));
+    case Uid:
+        return uid(bytes);
+    default:
+        return failOverKind();
     }
-    ++total.height;
-    return total;
 }
 
-struct FreeNode
+bool BinaryReader::plain(const Object &object)
 {
-    void operator()(void *node) const { plist_free(node); }
-};
-
-struct FreeMemory
-{
-    void operator()(char *memory) const { std::free(memory); }
-};
-
-/// Tells a handler of an unfolded binary list what it would have heard of the same list in XML.
-class BinaryWalk
-{
-public:
-    explicit BinaryWalk(PropertyListHandler &handler)
-        : m_handler(handler)
-    {
-    }
-
-    /// Empty when all of it was told.
-    QString problem() const { return m_problem; }
-
-    void value(plist_t node);
-
-private:
-    void dictionary(plist_t node);
-    void array(plist_t node);
-    void uid(plist_t node);
-    void text(plist_t node);
-    void scalar(PropertyListType type, std::string_view text);
-    void printed(PropertyListType type, plist_t node);
-
-    PropertyListHandler &m_handler;
-    QString m_problem;
-};
-
-void BinaryWalk::value(plist_t node)
-{
-    switch (plist_get_node_type(node)) {
-    case PLIST_DICT:
-        return dictionary(node);
-    case PLIST_ARRAY:
-        return array(node);
-    case PLIST_STRING:
-        return text(node);
-    case PLIST_BOOLEAN:
-        return scalar(PropertyListType::Boolean, plist_bool_val_is_true(node) ? "true" : "false");
-    case PLIST_UINT:
-        return printed(PropertyListType::Integer, node);
-    case PLIST_REAL:
-        return printed(PropertyListType::Real, node);
-    case PLIST_DATE:
-        return printed(PropertyListType::Date, node);
-    case PLIST_DATA:
-        return printed(PropertyListType::Data, node);
-    case PLIST_UID:
-        return uid(node);
-    case PLIST_KEY:
-    case PLIST_NONE:
-        break;
-    }
-    m_problem = QStringLiteral("binary list: a value of an unknown kind");
+    const bool isTrue = object.low == trueValue;
+    return isTrue || object.low == falseValue ? tell(isTrue) : failOverKind();
 }
 
-void BinaryWalk::dictionary(plist_t node)
+bool BinaryReader::integer(QByteArrayView bytes)
 {
-    m_handler.beginDictionary();
-    plist_dict_iter position = nullptr;
-    plist_dict_new_iter(node, &position);
-    const std::unique_ptr<char, FreeMemory> owner(static_cast<char *>(position));
-    while (m_problem.isEmpty()) {
-        char *key = nullptr;
-        plist_t item = nullptr;
-        plist_dict_next_item(node, position, &key, &item);
-        if (!item)
-            break;
-        const std::unique_ptr<char, FreeMemory> name(key);
-        if (m_handler.key(key ? std::string_view(key) : std::string_view()))
-            value(item);
-    }
-    if (m_problem.isEmpty()) // else it would end behind a key
-        m_handler.endDictionary();
+    if (bytes.size() > 16)
+        return failOverKind();
+    const quint64 low = numberIn(bytes.last(std::min<qsizetype>(bytes.size(), 8)));
+    const auto asSigned = static_cast<qint64>(low);
+    // The bits above: written out, or the sign of eight bytes.
+    const quint64 sign = asSigned < 0 ? ~0ULL : 0;
+    const quint64 high = bytes.size() == 16 ? numberIn(bytes.first(8)) : sign;
+    if (high == sign)
+        return tell(std::int64_t(asSigned));
+    return high == 0 ? tellUnsigned(low) : fail(QStringLiteral("an integer of over 64 bits"));
 }
 
-void BinaryWalk::array(plist_t node)
+bool BinaryReader::date(QByteArrayView bytes)
 {
-    m_handler.beginArray();
-    plist_array_iter position = nullptr;
-    plist_array_new_iter(node, &position);
-    const std::unique_ptr<char, FreeMemory> owner(static_cast<char *>(position));
-    while (m_problem.isEmpty()) {
-        plist_t item = nullptr;
-        plist_array_next_item(node, position, &item);
-        if (!item)
-            break;
-        value(item);
-    }
-    if (m_problem.isEmpty())
-        m_handler.endArray();
+    if (bytes.size() != 8)
+        return failOverKind();
+    constexpr double since1970 = 978307200;
+    constexpr double firstOfYear1 = -62135596800;
+    constexpr double firstOfYear10000 = 253402300800;
+    const double seconds = std::trunc(realIn(bytes)) + since1970;
+    if (!(seconds >= firstOfYear1 && seconds < firstOfYear10000)) // a NaN is no date either
+        return fail(QStringLiteral("a date outside the years 1 to 9999"));
+    return tell(QDateTime::fromSecsSinceEpoch(static_cast<qint64>(seconds), Qt::UTC));
 }
 
 /// XML has no such type; there it is this dictionary.
-void BinaryWalk::uid(plist_t node)
+bool BinaryReader::uid(QByteArrayView bytes)
 {
+    if (bytes.size() > 8)
+        return failOverKind();
     m_handler.beginDictionary();
     if (m_handler.key("CF$UID"))
-        printed(PropertyListType::Integer, node);
+        tellUnsigned(numberIn(bytes));
     m_handler.endDictionary();
+    return true;
 }
 
-void BinaryWalk::text(plist_t node)
+bool BinaryReader::array(QByteArrayView references, std::size_t depth)
 {
-    uint64_t length = 0;
-    const char *bytes = plist_get_string_ptr(node, &length);
-    scalar(PropertyListType::String, bytes ? std::string_view(bytes, length) : std::string_view());
+    m_handler.beginArray();
+    const qsizetype count = references.size() / static_cast<qsizetype>(m_referenceWidth);
+    for (qsizetype i = 0; i < count; ++i) {
+        if (!value(reference(references, i), depth + 1))
+            return false;
+    }
+    m_handler.endArray();
+    return true;
 }
 
-void BinaryWalk::scalar(PropertyListType type, std::string_view text)
+bool BinaryReader::dictionary(QByteArrayView references, std::size_t depth)
 {
-    const PropertyListScalar value{type, text};
-    if (isValid(value))
-        m_handler.scalar(value);
-    else
-        m_problem = QStringLiteral("binary list: ") + invalidScalarText(value);
+    m_handler.beginDictionary();
+    const qsizetype count = references.size() / static_cast<qsizetype>(m_referenceWidth) / 2;
+    for (qsizetype i = 0; i < count; ++i) {
+        const std::optional<Object> key = take(reference(references, i));
+        if (!key)
+            return false;
+        if (key->kind != Ascii && key->kind != Utf16)
+            return fail(QStringLiteral("a key that is no text"));
+        if (m_handler.key(text(*key)) && !value(reference(references, count + i), depth + 1))
+            return false;
+    }
+    m_handler.endDictionary();
+    return true;
 }
 
-/// libplist's calls give an integer without its sign and cut a date to 32 bits of seconds; its XML
-/// has both right.
-void BinaryWalk::printed(PropertyListType type, plist_t node)
+/// As UTF-8, until the next text.
+std::string_view BinaryReader::text(const Object &object)
 {
-    char *xml = nullptr;
-    uint32_t length = 0;
-    plist_to_xml(node, &xml, &length);
-    const std::unique_ptr<char, FreeMemory> owner(xml);
-    const std::string_view document(xml ? xml : "", xml ? length : 0);
-    const char *opening = type == PropertyListType::Integer ? "<integer>"
-                          : type == PropertyListType::Real  ? "<real>"
-                          : type == PropertyListType::Date  ? "<date>"
-                                                            : "<data>";
-    const std::size_t tagStart = document.find(opening);
-    if (tagStart == std::string_view::npos)
-        return scalar(type, {});
-    const std::size_t start = tagStart + std::strlen(opening);
-    scalar(type, document.substr(start, document.find("</", start) - start));
+    const QByteArrayView bytes = object.contents;
+    if (object.kind == Ascii)
+        return {bytes.data(), static_cast<std::size_t>(bytes.size())};
+    QString units(bytes.size() / 2, Qt::Uninitialized);
+    qFromBigEndian<quint16>(bytes.data(), units.size(), units.data());
+    m_text = units.toUtf8();
+    return {m_text.constData(), static_cast<std::size_t>(m_text.size())};
+}
+
+bool BinaryReader::tell(const PropertyListScalar &value)
+{
+    m_handler.scalar(value);
+    return true;
+}
+
+bool BinaryReader::tellUnsigned(quint64 number)
+{
+    const bool fitsSigned = number <= quint64(std::numeric_limits<std::int64_t>::max());
+    return fitsSigned ? tell(std::int64_t(number)) : tell(std::uint64_t(number));
 }
 
 } // namespace
 
-PropertyListError PropertyListParts::readBinary(int descriptor, quint64 size, quint64 limit,
-                                                PropertyListHandler &handler)
+FileResult<> PropertyListParts::readBinary(ListFile &file, quint64 limit,
+                                           PropertyListHandler &handler)
 {
-    if (size > std::numeric_limits<uint32_t>::max())
-        return PropertyListError{tooLongText(std::numeric_limits<uint32_t>::max())};
-    QByteArray bytes(static_cast<qsizetype>(size), Qt::Uninitialized);
-    qsizetype filled = 0;
-    while (filled < bytes.size()) {
-        const ssize_t count = readSome(descriptor, bytes.data() + filled,
-                                       static_cast<std::size_t>(bytes.size() - filled));
-        if (count < 0)
-            return diskError();
-        if (count == 0)
-            bytes.truncate(filled);
-        filled += count;
+    constexpr qsizetype chunk = 1 << 20;
+    QByteArray bytes;
+    for (;;) {
+        const qsizetype known = bytes.size();
+        bytes.resize(known + chunk);
+        const FileResult<size_t> count = file.read(bytes.data() + known, chunk);
+        if (!count)
+            return count.error();
+        bytes.truncate(known + static_cast<qsizetype>(*count));
+        if (static_cast<quint64>(bytes.size()) > limit)
+            return file.tooLong(limit);
+        if (*count == 0)
+            break;
     }
     constexpr quint64 smallestBudget = 1 << 20; // a caller's limit for text may be tiny
-    if (const QString problem = BinaryShape(bytes, std::max(limit, smallestBudget)).problem();
-        !problem.isEmpty())
-        return PropertyListError{problem};
-    plist_t root = nullptr;
-    plist_from_bin(bytes.constData(), static_cast<uint32_t>(bytes.size()), &root);
-    const std::unique_ptr<void, FreeNode> owner(root);
-    if (!root)
-        return PropertyListError{QStringLiteral("binary list: damaged")};
-    BinaryWalk walk(handler);
-    walk.value(root);
-    return PropertyListError{walk.problem()};
+    const QString problem = BinaryReader(bytes, std::max(limit, smallestBudget), handler).problem();
+    if (!problem.isEmpty())
+        return file.damage(problem);
+    return {};
 }

@@ -1,41 +1,18 @@
 #pragma once
 
-#include <QString>
+#include "platform/files/FileError.h"
+
+#include <QByteArray>
+#include <QDateTime>
 
 #include <cstdint>
 #include <string_view>
+#include <variant>
 
-/// Why a list could not be read.
-struct PropertyListError
-{
-    QString text; ///< empty: no error
-    int line = 0; ///< of the XML text, counted from 1; 0 where lines have no meaning
-    /// The file could not be read, which says nothing of what it holds.
-    bool isOfDisk = false;
-
-    explicit operator bool() const { return !text.isEmpty(); }
-
-    /// For the log: "PATH:LINE: TEXT", without the line where there is none.
-    QString in(const QString &path) const;
-};
-
-enum class PropertyListType { String, Integer, Real, Boolean, Date, Data };
-
-/// One scalar of a list as its reader met it. The text is UTF-8 and valid only during the call; of
-/// a boolean it is "true" or "false", of data the base64 text, of a date ISO 8601.
-struct PropertyListScalar
-{
-    PropertyListType type;
-    std::string_view text;
-
-    /// The integer, or nothing useful (0) when the type is another or the text is no number that
-    /// fits; `ok` tells.
-    std::int64_t toInteger(bool *ok = nullptr) const;
-    /// The same for what only an unsigned number holds.
-    std::uint64_t toUnsigned(bool *ok = nullptr) const;
-    /// The real, with "nan" and "infinity" as such; 0 where the type is another.
-    double toReal() const;
-};
+/// One scalar of a list: a string (UTF-8, valid only during the call), a boolean, an integer (as an
+/// unsigned one only above the signed range), a real, a date in UTC, or data.
+using PropertyListScalar = std::variant<std::string_view, bool, std::int64_t, std::uint64_t, double,
+                                        QDateTime, QByteArray>;
 
 /// Receives a list piece by piece, in file order. Strings are UTF-8.
 class PropertyListHandler
@@ -58,7 +35,7 @@ public:
 /// keeps little. XML is parsed as it is read; a binary list is read whole first. Any thread.
 ///
 /// What the handler was told before an error was found in the file came from the part that was
-/// well-formed. False with an empty error: no file is there. False with an error: the file can't be
-/// read, is longer than `limit` bytes, or is no property list.
-bool readPropertyList(const QString &path, quint64 limit, PropertyListHandler &handler,
-                      PropertyListError *error);
+/// well-formed. The error's operation is Read where the file is missing or can't be read, and Parse
+/// where it is longer than `limit` bytes, a binary list that unfolds to more, or no property list;
+/// the text of the last then begins with "line N: " where it is an XML text's.
+FileResult<> readPropertyList(const QString &path, quint64 limit, PropertyListHandler &handler);

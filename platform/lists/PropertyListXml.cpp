@@ -1,10 +1,7 @@
 #include "platform/lists/own/PropertyListParts.h"
 
-#include "platform/core/own/Posix.h"
-
 #include <expat.h>
 
-#include <cerrno>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -65,22 +62,17 @@ Element elementNamed(const char *name)
     }
 }
 
-std::optional<PropertyListType> scalarTypeOf(Element element)
+bool isScalar(Element element)
 {
     switch (element) {
     case Element::String:
-        return PropertyListType::String;
     case Element::Integer:
-        return PropertyListType::Integer;
     case Element::Real:
-        return PropertyListType::Real;
     case Element::Date:
-        return PropertyListType::Date;
     case Element::Data:
-        return PropertyListType::Data;
     case Element::True:
     case Element::False:
-        return PropertyListType::Boolean;
+        return true;
     case Element::Plist:
     case Element::Dictionary:
     case Element::Array:
@@ -88,7 +80,41 @@ std::optional<PropertyListType> scalarTypeOf(Element element)
     case Element::Unknown:
         break;
     }
-    return std::nullopt;
+    return false;
+}
+
+/// Nothing where the text is not what the scalar's element promises.
+std::optional<PropertyListScalar> scalarFrom(Element element, std::string_view text)
+{
+    switch (element) {
+    case Element::Integer:
+        return integerFrom(text);
+    case Element::Real:
+        return realFrom(text);
+    case Element::Date:
+        return dateFrom(text);
+    case Element::Data:
+        return dataFrom(text);
+    case Element::True:
+    case Element::False:
+        return trimmed(text).empty() ? std::optional<PropertyListScalar>(element == Element::True)
+                                     : std::nullopt;
+    default:
+        return text;
+    }
+}
+
+QString invalidScalarText(Element element, std::string_view text)
+{
+    if (element == Element::True || element == Element::False)
+        return QStringLiteral("text inside a boolean");
+    constexpr std::size_t shown = 40;
+    const char *kind = element == Element::Integer ? "integer"
+                       : element == Element::Real  ? "real"
+                       : element == Element::Date  ? "date"
+                                                   : "base64 data";
+    return QStringLiteral("\"%1\" is no %2")
+        .arg(QString::fromUtf8(text.substr(0, shown)), QLatin1String(kind));
 }
 
 QString tag(const char *name)
@@ -101,9 +127,9 @@ QString tag(const char *name)
 class XmlReader
 {
 public:
-    explicit XmlReader(PropertyListHandler &handler);
+    XmlReader(ListFile &file, PropertyListHandler &handler);
 
-    PropertyListError read(int descriptor, quint64 limit);
+    FileResult<> read(quint64 limit);
 
 private:
     /// What the next element has to be.
@@ -123,7 +149,8 @@ private:
                          const XML_Char *publicId, const XML_Char *notation);
     static void onSkippedEntity(void *reader, const XML_Char *name, int isParameter);
 
-    PropertyListError parserError() const;
+    FileError parserError() const;
+    int line() const;
     void fail(const QString &text);
     void start(const char *name);
     void end();
@@ -138,8 +165,9 @@ private:
     void valueIsComplete();
 
     const std::unique_ptr<std::remove_pointer_t<XML_Parser>, FreeParser> m_parser;
+    ListFile &m_file;
     PropertyListHandler &m_handler;
-    PropertyListError m_error;
+    std::optional<FileError> m_error;
     Expect m_expect = Expect::Plist;
     std::optional<Element> m_leaf; // the open key or scalar
     std::size_t m_skipped = 0;     // open elements of a refused value
@@ -147,8 +175,9 @@ private:
     std::string m_text;            // of the open key or scalar; keeps its capacity
 };
 
-XmlReader::XmlReader(PropertyListHandler &handler)
+XmlReader::XmlReader(ListFile &file, PropertyListHandler &handler)
     : m_parser(XML_ParserCreate(nullptr))
+    , m_file(file)
     , m_handler(handler)
 {
     if (!m_parser)
@@ -159,39 +188,42 @@ XmlReader::XmlReader(PropertyListHandler &handler)
     XML_SetSkippedEntityHandler(m_parser.get(), onSkippedEntity);
 }
 
-PropertyListError XmlReader::read(int descriptor, quint64 limit)
+FileResult<> XmlReader::read(quint64 limit)
 {
     quint64 total = 0;
     for (;;) {
         void *buffer = m_parser ? XML_GetBuffer(m_parser.get(), chunkSize) : nullptr;
         if (!buffer)
-            return PropertyListError{QStringLiteral("out of memory")};
-        const ssize_t count = readSome(descriptor, buffer, chunkSize);
-        if (count < 0)
-            return diskError();
-        total += static_cast<quint64>(count);
+            return m_file.damage(QStringLiteral("out of memory"));
+        const FileResult<size_t> count = m_file.read(buffer, chunkSize);
+        if (!count)
+            return count.error();
+        total += *count;
         if (total > limit)
-            return PropertyListError{tooLongText(limit)};
-        const bool isLast = count == 0;
-        if (XML_ParseBuffer(m_parser.get(), static_cast<int>(count), isLast) != XML_STATUS_OK)
+            return m_file.tooLong(limit);
+        const bool isLast = *count == 0;
+        if (XML_ParseBuffer(m_parser.get(), static_cast<int>(*count), isLast) != XML_STATUS_OK)
             return parserError();
         if (isLast)
             return {};
     }
 }
 
-PropertyListError XmlReader::parserError() const
+int XmlReader::line() const
 {
-    if (m_error)
-        return m_error;
-    return PropertyListError{QString::fromUtf8(XML_ErrorString(XML_GetErrorCode(m_parser.get()))),
-                             static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()))};
+    return static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()));
+}
+
+FileError XmlReader::parserError() const
+{
+    const XML_Error code = XML_GetErrorCode(m_parser.get());
+    return m_error ? *m_error : m_file.damage(QString::fromUtf8(XML_ErrorString(code)), line());
 }
 
 /// The parser may still deliver events of the same token after it was stopped: nobody hears them.
 void XmlReader::fail(const QString &text)
 {
-    m_error = {text, static_cast<int>(XML_GetCurrentLineNumber(m_parser.get()))};
+    m_error = m_file.damage(text, line());
     XML_SetElementHandler(m_parser.get(), nullptr, nullptr);
     XML_SetCharacterDataHandler(m_parser.get(), nullptr);
     XML_SetEntityDeclHandler(m_parser.get(), nullptr);
@@ -274,7 +306,7 @@ void XmlReader::startValue(Element element, const char *name)
 {
     if (element == Element::Dictionary || element == Element::Array)
         startContainer(element);
-    else if (scalarTypeOf(element))
+    else if (isScalar(element))
         startLeaf(element);
     else
         fail(tag(name) + QStringLiteral(" where a value belongs"));
@@ -322,15 +354,10 @@ void XmlReader::endLeaf()
     m_leaf.reset();
     if (element == Element::Key)
         return endKey();
-    const bool isBoolean = element == Element::True || element == Element::False;
-    if (isBoolean && !trimmed(m_text).empty())
-        return fail(QStringLiteral("text inside a boolean"));
-    if (isBoolean)
-        m_text = element == Element::True ? "true" : "false";
-    const PropertyListScalar scalar{*scalarTypeOf(element), m_text};
-    if (!isValid(scalar))
-        return fail(invalidScalarText(scalar));
-    m_handler.scalar(scalar);
+    const std::optional<PropertyListScalar> scalar = scalarFrom(element, m_text);
+    if (!scalar)
+        return fail(invalidScalarText(element, m_text));
+    m_handler.scalar(*scalar);
     valueIsComplete();
     // One long text must not stay in memory for the rest of the file.
     if (m_text.capacity() > chunkSize)
@@ -365,8 +392,7 @@ void XmlReader::valueIsComplete()
 
 } // namespace
 
-PropertyListError PropertyListParts::readXml(int descriptor, quint64 limit,
-                                             PropertyListHandler &handler)
+FileResult<> PropertyListParts::readXml(ListFile &file, quint64 limit, PropertyListHandler &handler)
 {
-    return XmlReader(handler).read(descriptor, limit);
+    return XmlReader(file, handler).read(limit);
 }

@@ -227,19 +227,6 @@ bool changeAny(const QVariantMap &changes, const QVariantMap &values)
     return false;
 }
 
-/// Nothing with an empty error where no file is.
-std::optional<QVariantMap> readDictionary(const QString &path, PropertyListError *error)
-{
-    const std::optional<QVariant> root =
-        PropertyList::read(path, PropertyList::defaultLimit, error);
-    if (!root)
-        return std::nullopt;
-    if (root->typeId() == QMetaType::QVariantMap)
-        return root->toMap();
-    *error = {QStringLiteral("its root is no dictionary")};
-    return std::nullopt;
-}
-
 } // namespace
 
 UserDefaults::UserDefaults(QString domain, QString folder, QObject *parent)
@@ -423,9 +410,9 @@ bool UserDefaults::exchange(const QVariantMap &changes)
 
 bool UserDefaults::write(const QVariantMap &values)
 {
-    QString reason;
-    if (!PropertyList::writeAtomically(values, filePath(m_domain), &reason))
-        return writingFailed(reason);
+    const FileResult<> written = PropertyList::writeAtomically(values, filePath(m_domain));
+    if (!written)
+        return writingFailed(written.error().text);
     m_saidUnwritable = false;
     return true;
 }
@@ -450,27 +437,24 @@ void UserDefaults::adopt(const QVariantMap &contents, const QVariantMap &written
 std::optional<QVariantMap> UserDefaults::readOwnFile(bool locked)
 {
     const QString path = filePath(m_domain);
-    const Posix::Descriptor file(Posix::openRegularFile(Posix::native(path).constData()));
-    if (!file && errno != ENOENT && errno != ENOTDIR)
-        return leftAlone(Posix::reason(errno));
-    PropertyListError error;
-    const std::optional<QVariantMap> contents = readDictionary(path, &error);
-    if (!error) {
+    const FileResult<QVariantMap> contents = PropertyList::readDictionary(path);
+    if (contents || contents.error().isMissing()) {
         m_saidUnreadable = false;
-        return contents.value_or(QVariantMap());
+        return contents.valueOr({});
     }
-    if (error.isOfDisk)
+    const FileError &error = contents.error();
+    if (error.operation == FileError::Operation::Read)
         return leftAlone(error.text);
     if (!locked) {
         // Another process may be setting the file aside or replacing it right now.
         const DomainLock lock(lockPath(m_domain));
-        return lock.isHeld() ? readOwnFile(true) : leftAlone(error.in(path));
+        return lock.isHeld() ? readOwnFile(true) : leftAlone(PropertyList::logText(error));
     }
     const QString aside = path + QStringLiteral(".unreadable");
     if (std::rename(Posix::native(path).constData(), Posix::native(aside).constData()) != 0)
-        return leftAlone(error.in(path));
-    qCWarning(lcPlatform).noquote()
-        << "the preferences can't be read and are kept as" << aside << "-" << error.in(path);
+        return leftAlone(PropertyList::logText(error));
+    qCWarning(lcPlatform).noquote() << "the preferences can't be read and are kept as" << aside
+                                    << "-" << PropertyList::logText(error);
     return QVariantMap();
 }
 
@@ -495,12 +479,12 @@ bool UserDefaults::writingFailed(const QString &reason)
 
 std::optional<QVariantMap> UserDefaults::persistentDomain(const QString &name) const
 {
-    PropertyListError error;
-    const QString path = filePath(name);
-    const std::optional<QVariantMap> values = readDictionary(path, &error);
-    if (error)
-        qCWarning(lcPlatform).noquote() << "can't read" << error.in(path);
-    return values;
+    const FileResult<QVariantMap> values = PropertyList::readDictionary(filePath(name));
+    if (values)
+        return *values;
+    if (!values.error().isMissing())
+        qCWarning(lcPlatform).noquote() << "can't read" << PropertyList::logText(values.error());
+    return std::nullopt;
 }
 
 bool UserDefaults::editPersistentDomain(const QString &name,
@@ -516,16 +500,16 @@ bool UserDefaults::editPersistentDomain(const QString &name,
     const DomainLock lock(lockPath(name));
     if (!lock.isHeld())
         return failed(Posix::reason(errno));
-    PropertyListError error;
-    const std::optional<QVariantMap> before = readDictionary(path, &error);
-    if (error)
-        return failed(error.in(path));
-    QVariantMap values = before.value_or(QVariantMap());
+    const FileResult<QVariantMap> before = PropertyList::readDictionary(path);
+    if (!before && !before.error().isMissing())
+        return failed(PropertyList::logText(before.error()));
+    QVariantMap values = before.valueOr({});
     if (!edit(values))
         return false;
-    QString reason;
-    return before == values || PropertyList::writeAtomically(values, path, &reason) ||
-           failed(reason);
+    if (before && *before == values)
+        return true;
+    const FileResult<> written = PropertyList::writeAtomically(values, path);
+    return written || failed(written.error().text);
 }
 
 std::optional<UserDefaults::Stamp> UserDefaults::stampOf(const QString &path)

@@ -46,7 +46,8 @@ protected:
     QStringList paths() const
     {
         QStringList result;
-        for (const QVariant &entry : PropertyList::read(list)->toMap().value(itemsKey).toList())
+        for (const QVariant &entry :
+             PropertyList::readDictionary(list).valueOr({}).value(itemsKey).toList())
             result.append(entry.toMap().value(QStringLiteral("Path")).toString());
         return result;
     }
@@ -57,7 +58,7 @@ protected:
 TEST_F(LoginItemsTest, EditsTheListAndNothingElse)
 {
     items.setStartOnLogin(false);
-    EXPECT_EQ(PropertyList::read(list), QVariant(QVariantMap{{itemsKey, QVariantList()}}));
+    EXPECT_EQ(*PropertyList::read(list), QVariant(QVariantMap{{itemsKey, QVariantList()}}));
     EXPECT_FALSE(QFile::exists(autostart));
 
     const QVariantMap others{
@@ -76,7 +77,7 @@ TEST_F(LoginItemsTest, EditsTheListAndNothingElse)
                                         QStringLiteral("/Apps/CaravelHelper 2")}));
     }
     const QVariantMap entry =
-        PropertyList::read(list)->toMap().value(itemsKey).toList().first().toMap();
+        PropertyList::readDictionary(list).valueOr({}).value(itemsKey).toList().first().toMap();
     EXPECT_EQ(entry.value(QStringLiteral("Hide")), QVariant(false));
     EXPECT_EQ(entry.value(QStringLiteral("AliasData")).typeId(), QMetaType::QByteArray);
     const QByteArray exec = "\nExec=\"" + home.path().toUtf8() +
@@ -86,7 +87,7 @@ TEST_F(LoginItemsTest, EditsTheListAndNothingElse)
     items.setStartOnLogin(false);
     EXPECT_EQ(paths(), (QStringList{QStringLiteral("/Apps/Mail"), QString(),
                                     QStringLiteral("/Apps/CaravelHelper 2")}));
-    QVariantMap left = PropertyList::read(list)->toMap();
+    QVariantMap left = PropertyList::readDictionary(list).valueOr({});
     left.remove(itemsKey);
     EXPECT_EQ(left, others);
     EXPECT_FALSE(QFile::exists(autostart));

@@ -203,7 +203,7 @@ QStringList SyncHarness::index(const QString &saveName) const
 {
     return PropertyList::readStringArray(
                stick(QStringLiteral(".caravel/%1SyncIndex.plist").arg(saveName)))
-        .value_or(QStringList{QStringLiteral("no index")});
+        .valueOr({QStringLiteral("no index")});
 }
 
 quint64 SyncHarness::lastSyncSizeOnStick() const

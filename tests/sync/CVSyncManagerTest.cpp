@@ -211,7 +211,7 @@ TEST(Selection, LiesInThePreferencesAndOnSyncedSticks)
     const QString saveName = QStringLiteral("Music");
     const QString profile = harness.stick(QStringLiteral(".caravel/Music.plist"));
     ModuleSelection::store({QStringLiteral("One")}, saveName, harness.stick());
-    EXPECT_EQ(PropertyList::readStringArray(profile), QStringList{QStringLiteral("One")});
+    EXPECT_EQ(*PropertyList::readStringArray(profile), QStringList{QStringLiteral("One")});
     ModuleSelection::store({QStringLiteral("Two")}, saveName, {});
 
     const auto read = [&] {

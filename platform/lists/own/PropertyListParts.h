@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/lists/PropertyListReader.h"
-
-#include <sys/types.h>
+#include "platform/lists/own/ListFile.h"
 
 #include <cstddef>
+#include <optional>
 
 /// What the readers of the two formats share. For the .cpp files that make up the list reader.
 namespace PropertyListParts {
@@ -13,28 +13,24 @@ namespace PropertyListParts {
 /// walks the result recurses.
 inline constexpr std::size_t depthLimit = 512;
 
+QString tooDeepText();
+
 /// The text without the blanks around it.
 std::string_view trimmed(std::string_view text);
 
-/// Whether the text is what its type promises.
-bool isValid(const PropertyListScalar &scalar);
+/// The values that the texts of an XML list stand for, with blanks around them allowed; nothing
+/// where the text is none. Integers of both 64-bit ranges, also hexadecimal ones; reals with "nan"
+/// and "infinity"; dates as "2001-02-03T04:05:06Z", of the years 1 to 9999; base64.
+std::optional<PropertyListScalar> integerFrom(std::string_view text);
+std::optional<PropertyListScalar> realFrom(std::string_view text);
+std::optional<PropertyListScalar> dateFrom(std::string_view text);
+std::optional<PropertyListScalar> dataFrom(std::string_view text);
 
-QString invalidScalarText(const PropertyListScalar &scalar);
-QString tooDeepText();
-/// Of the read that has just failed, by errno.
-PropertyListError diskError();
+/// Feeds a freshly opened XML file to the handler.
+FileResult<> readXml(ListFile &file, quint64 limit, PropertyListHandler &handler);
 
-QString tooLongText(quint64 limit);
-
-/// read(2), again when interrupted.
-ssize_t readSome(int descriptor, void *buffer, std::size_t size);
-
-/// Feeds an open XML file to the handler, from its start.
-PropertyListError readXml(int descriptor, quint64 limit, PropertyListHandler &handler);
-
-/// Feeds an open binary list of `size` bytes to the handler, from its start. A list that unfolds to
-/// more than `limit` bytes is refused too (a smaller limit counts as 1 MiB there).
-PropertyListError readBinary(int descriptor, quint64 size, quint64 limit,
-                             PropertyListHandler &handler);
+/// Feeds a freshly opened binary list to the handler. A list that unfolds to more than `limit`
+/// bytes is refused too (a smaller limit counts as 1 MiB there).
+FileResult<> readBinary(ListFile &file, quint64 limit, PropertyListHandler &handler);
 
 } // namespace PropertyListParts

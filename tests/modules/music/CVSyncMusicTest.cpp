@@ -8,8 +8,6 @@
 
 #include <gmock/gmock.h>
 
-#include <plist/plist.h>
-
 namespace {
 
 using Library = MusicLibraryFile;
@@ -247,18 +245,6 @@ TEST_F(CVSyncMusicTest, PassesOverValuesOfAWrongType)
     for (const char *root :
          {"<key>Tracks</key><array><dict/></array>", "<key>Playlists</key><string>none</string>"})
         EXPECT_TRUE(placesOf("<plist><dict>" + QByteArray(root) + "</dict></plist>").isEmpty());
-
-    // The same library in its binary form.
-    const QByteArray xml = library.contents();
-    plist_t list = nullptr;
-    plist_from_xml(xml.constData(), static_cast<uint32_t>(xml.size()), &list);
-    ASSERT_NE(list, nullptr);
-    char *bytes = nullptr;
-    uint32_t length = 0;
-    plist_to_bin(list, &bytes, &length);
-    EXPECT_EQ(placesOf(QByteArray(bytes, length)), expected);
-    free(bytes);
-    plist_free(list);
 }
 
 TEST_F(CVSyncMusicTest, SyncsThroughAPretendedRun)

@@ -34,10 +34,7 @@ protected:
     const QString folder = home / QStringLiteral("Library/Preferences");
     const QString path = folder + QStringLiteral("/org.example.Test.plist");
 
-    QVariantMap fileContents() const
-    {
-        return PropertyList::read(path).value_or(QVariant()).toMap();
-    }
+    QVariantMap fileContents() const { return PropertyList::readDictionary(path).valueOr({}); }
     void writeList(const QVariantMap &values) { writeFile(path, PropertyList::toXml(values)); }
 };
 
