@@ -218,7 +218,7 @@ void CaravelHelperController::applicationWillQuit(const QString &address)
 void CaravelHelperController::frontEndIsGone()
 {
     logDetail(QStringLiteral("Caravel front-end has quit."));
-    m_frontEnd.disconnect();
+    m_frontEnd.forget();
     if (!Settings::startOnLogin())
         requestQuit();
 }

@@ -14,7 +14,7 @@ FrontEnd::~FrontEnd() = default;
 
 void FrontEnd::connectTo(const QString &address, const QString &objectPath)
 {
-    disconnect();
+    forget();
     m_remote = std::make_unique<RemoteObject>(address, objectPath, Callback::interface.toString());
     connect(m_remote.get(), &RemoteObject::vanished, this, &FrontEnd::vanished);
     // One that died since it called is not told of any more.
@@ -22,7 +22,7 @@ void FrontEnd::connectTo(const QString &address, const QString &objectPath)
         QMetaObject::invokeMethod(m_remote.get(), &RemoteObject::vanished, Qt::QueuedConnection);
 }
 
-void FrontEnd::disconnect()
+void FrontEnd::forget()
 {
     if (!m_remote)
         return;

@@ -24,7 +24,8 @@ public:
     bool isConnected() const { return m_remote != nullptr; }
     /// Takes the object of that process in the place of any earlier one.
     void connectTo(const QString &address, const QString &objectPath);
-    void disconnect();
+    /// From now on none is connected.
+    void forget();
     /// Whether the connected front-end is at that address.
     bool isAt(const QString &address) const;
 

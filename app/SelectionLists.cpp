@@ -91,15 +91,25 @@ QVariantMap row(const QString &name, const Kind &kind, qsizetype size,
 }
 
 // What comes over the bus may name anything. Slashes in names are the user's own.
-bool isRelativePath(const QString &identifier)
+bool isWellFormed(const QString &identifier)
 {
     return PathComponents::count(identifier) > 0;
 }
 
 // A movie that waits for its conversion goes by the path of its source.
-bool isMovie(const QString &identifier)
+bool isWellFormedMovie(const QString &identifier)
 {
-    return isRelativePath(identifier.startsWith(u'/') ? identifier.mid(1) : identifier);
+    return isWellFormed(identifier.startsWith(u'/') ? identifier.mid(1) : identifier);
+}
+
+bool areTakeable(const QStringList &identifiers, const QString &moduleSaveName,
+                 bool (*isGood)(const QString &))
+{
+    const auto bad = std::find_if_not(identifiers.begin(), identifiers.end(), isGood);
+    if (bad != identifiers.end())
+        qCWarning(lcApp).noquote().nospace() << "A selection was refused for its identifier \""
+                                             << *bad << "\" (" << moduleSaveName << ')';
+    return bad == identifiers.end();
 }
 
 } // namespace
@@ -150,41 +160,34 @@ QVariantList SelectionLists::bookmarksItems() const
     return rows;
 }
 
-void SelectionLists::setSelected(const QString &moduleSaveName, const QStringList &identifiers,
-                                 bool (*isGood)(const QString &)) const
-{
-    const auto bad = std::find_if_not(identifiers.begin(), identifiers.end(), isGood);
-    if (bad != identifiers.end()) {
-        qCWarning(lcApp).noquote().nospace() << "A selection was refused for its identifier \""
-                                             << *bad << "\" (" << moduleSaveName << ')';
-        return;
-    }
-    ModuleSelection::store(identifiers, moduleSaveName, m_manager.pspVolume());
-}
-
 void SelectionLists::setSelectedMusicIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(CVSyncMusic::saveName(), identifiers, isRelativePath);
+    if (areTakeable(identifiers, CVSyncMusic::saveName(), isWellFormed))
+        CVSyncMusic::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
 }
 
 void SelectionLists::setSelectedPhotosIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(CVSyncPhotos::saveName(), identifiers, isRelativePath);
+    if (areTakeable(identifiers, CVSyncPhotos::saveName(), isWellFormed))
+        CVSyncPhotos::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
 }
 
 void SelectionLists::setSelectedBookmarksIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(CVSyncBookmarks::saveName(), identifiers, isRelativePath);
+    if (areTakeable(identifiers, CVSyncBookmarks::saveName(), isWellFormed))
+        CVSyncBookmarks::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
 }
 
 void SelectionLists::setSelectedMoviesIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(CVSyncMovies::saveName(), identifiers, isMovie);
+    if (areTakeable(identifiers, CVSyncMovies::saveName(), isWellFormedMovie))
+        CVSyncMovies::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
 }
 
 void SelectionLists::setSelectedBackupIdentifiers(const QStringList &identifiers) const
 {
-    setSelected(CVSyncBackup::saveName(), identifiers, isRelativePath);
+    if (areTakeable(identifiers, CVSyncBackup::saveName(), isWellFormed))
+        ModuleSelection::store(identifiers, CVSyncBackup::saveName(), m_manager.pspVolume());
 }
 
 // --- Game saves

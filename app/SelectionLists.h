@@ -39,8 +39,6 @@ public:
     QVariantList backupSubItemsForIdentifier(const QString &identifier) const;
 
 private:
-    void setSelected(const QString &moduleSaveName, const QStringList &identifiers,
-                     bool (*isGood)(const QString &)) const;
     QString dateText(double timestamp) const;
 
     const CVSyncManager &m_manager;

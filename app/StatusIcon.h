@@ -21,7 +21,6 @@ public:
     void remove();
     /// Takes the item out of the user's reach; for a helper that is quitting.
     void disable();
-    bool isShown() const { return m_statusItem != nullptr; }
 
     void pspDidMount();
     void pspDidUnmount();
@@ -29,7 +28,6 @@ public:
     void startSyncAnimation();
     void syncAnimationPing();
     void stopSyncAnimation();
-    bool isAnimating() const { return m_syncAnimationTimer.isActive(); }
 
 private:
     void setImage(const QString &name);

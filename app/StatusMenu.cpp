@@ -5,7 +5,10 @@
 
 namespace {
 
+// The items that change, by their places.
 constexpr int statusItem = 0;
+constexpr int syncItem = 1;
+constexpr int ejectItem = 2;
 
 } // namespace
 
@@ -27,20 +30,9 @@ void StatusMenu::setStatusText(const QString &text)
 
 void StatusMenu::update()
 {
-    for (int index = 0; index < m_menu.count(); ++index)
-        m_menu.setEnabled(index, validateMenuItem(index));
-}
-
-bool StatusMenu::validateMenuItem(int index)
-{
-    const auto hasTitle = [&](const char *text) {
-        return m_menu.itemAtIndex(index).title == localized(text);
-    };
-    if (hasTitle("Sync Now") && m_manager.isSyncing())
-        m_menu.setTitle(index, localized("Cancel Sync"));
-    else if (hasTitle("Cancel Sync") && !m_manager.isSyncing())
-        m_menu.setTitle(index, localized("Sync Now"));
-    if (hasTitle("Sync Now") || hasTitle("Eject PSP"))
-        return m_manager.canSync();
-    return !hasTitle("Cancel Sync") || m_manager.canCancelSync();
+    const bool syncing = m_manager.isSyncing();
+    const bool canSync = m_manager.canSync();
+    m_menu.setTitle(syncItem, syncing ? localized("Cancel Sync") : localized("Sync Now"));
+    m_menu.setEnabled(syncItem, syncing ? m_manager.canCancelSync() : canSync);
+    m_menu.setEnabled(ejectItem, canSync);
 }

@@ -27,11 +27,9 @@ public:
 
     void setStatusText(const QString &text);
 
-    /// Validates every item; whoever shows the menu asks for it too.
+    /// Brings titles and enabled states in line with the manager; whoever shows the menu asks for
+    /// it too.
     void update();
-
-    /// Whether the item is enabled; may retitle it.
-    bool validateMenuItem(int index);
 
 private:
     CVSyncManager &m_manager;

@@ -85,7 +85,7 @@ ExitStatus waitForEject(Session &session)
             break;
         if (!state.mounted)
             return Done;
-        if (HelperClient::isText(state.statusText, "Eject Failed") || deadline.hasExpired()) {
+        if (HelperClient::isHelperText(state.statusText, "Eject Failed") || deadline.hasExpired()) {
             Output::error(state.statusText + u'\n' + state.statusSubText);
             return Refused;
         }

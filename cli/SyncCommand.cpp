@@ -69,7 +69,7 @@ void SyncFollower::stateRead(const HelperState &state)
     // one's place it never is, and the texts tell.
     constexpr int patience = 3;
     if (m_started && ++m_readingsSinceEnd >= patience)
-        conclude(state, HelperClient::isText(state.statusText, "Sync Successful"));
+        conclude(state, HelperClient::isHelperText(state.statusText, "Sync Successful"));
 }
 
 void SyncFollower::checkStarted()

@@ -61,7 +61,7 @@ void HelperClient::connectToHelper()
         return;
     }
     m_remote = remoteHelper();
-    if (!m_remote->isAvailable() && !start())
+    if (!m_remote->isAvailable() && !startHelper())
         return;
     connect(m_remote.get(), &RemoteObject::vanished, this, [this] {
         fail(Kind::NoHelper, QStringLiteral("the helper has gone away"));
@@ -75,7 +75,7 @@ void HelperClient::tellRunningHelper(const Protocol::Method &method)
 }
 
 // The bus starts the helper where it knows how to; else its executable beside ours is started.
-bool HelperClient::start()
+bool HelperClient::startHelper()
 {
     if (m_remote->call(Protocol::pspIsMounted.key(), {}, startLimit).value)
         return true;
@@ -132,7 +132,7 @@ HelperState HelperClient::state()
     };
 }
 
-bool HelperClient::isText(const QString &text, const char *english)
+bool HelperClient::isHelperText(const QString &text, const char *english)
 {
     const Bundle helper(helperBundle());
     return isLocalizedForm(text, english, helper.resourcePath() + QStringLiteral("/translations"));

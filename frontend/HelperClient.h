@@ -44,7 +44,7 @@ public:
     HelperState state();
 
     /// Whether a text of the helper's is that English one, whatever language the helper speaks.
-    static bool isText(const QString &text, const char *english);
+    static bool isHelperText(const QString &text, const char *english);
 
     /// Sends a oneway call.
     void tell(const Protocol::Method &method, const QVariantList &arguments = {});
@@ -58,7 +58,7 @@ Q_SIGNALS:
     void gone();
 
 private:
-    bool start();
+    bool startHelper();
     bool waitUntilThere();
     void fail(HelperFailure::Kind kind, const QString &text);
 

@@ -1,4 +1,4 @@
-#include "app/QMIconTransformer.h"
+#include "frontend/QMIconTransformer.h"
 
 #include "support/TestSupport.h"
 

@@ -1,4 +1,4 @@
-#include "app/QMIconTransformer.h"
+#include "frontend/QMIconTransformer.h"
 
 #include "platform/core/ImageDecoder.h"
 #include "platform/files/FileManager.h"
