@@ -30,11 +30,28 @@ void bindConnection(ServedMethods &served, CaravelHelperController &helper)
     });
 }
 
+QVariantMap stickOf(CVSyncManager &manager)
+{
+    if (!manager.pspIsMounted())
+        return {};
+    const auto bytes = [](std::optional<quint64> count) {
+        return QVariant::fromValue<qulonglong>(count.value_or(0));
+    };
+    return {
+        {QStringLiteral("name"), manager.pspName()},
+        {QStringLiteral("volume"), manager.pspVolume()},
+        {QStringLiteral("capacity"), bytes(manager.pspSpace())},
+        {QStringLiteral("free"), bytes(manager.pspFreeSpace())},
+        {QStringLiteral("used"), bytes(manager.pspUsedSpace())},
+    };
+}
+
 void bindState(ServedMethods &served, CaravelHelperController &helper)
 {
     CVSyncManager &manager = helper.syncManager();
     SyncStatus &status = helper.status();
     served.answer(Protocol::log, [&helper] { return helper.logger().log(); });
+    served.answer(Protocol::stick, [&manager] { return stickOf(manager); });
     served.answer(Protocol::isFirstSync, [&manager] { return manager.isFirstSync(); });
     served.answer(Protocol::pspIsMounted, [&manager] { return manager.pspIsMounted(); });
     served.answer(Protocol::canSync, [&manager] { return manager.canSync(); });

@@ -3,6 +3,8 @@
 #include "cli/Output.h"
 #include "cli/Session.h"
 #include "frontend/ProgressText.h"
+#include "frontend/Rows.h"
+#include "util/ByteCount.h"
 
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -40,9 +42,24 @@ void printField(QStringView name, const QString &value)
     Output::print(name.toString().leftJustified(12) + Output::printable(value));
 }
 
-void printStatus(const HelperState &state, bool firstSync, const Estimate &estimate)
+void printStick(const QVariantMap &stick)
+{
+    const auto bytes = [&](QStringView key) {
+        return FileManagerTools::sizeDescriptionForByteCount(
+            stick.value(key.toString()).toULongLong());
+    };
+    printField(u"Stick:", QStringLiteral("%1 (%2)").arg(Rows::text(stick, u"name"),
+                                                        Rows::text(stick, u"volume")));
+    printField(u"Space:", QStringLiteral("%1 of %2 used, %3 free")
+                              .arg(bytes(u"used"), bytes(u"capacity"), bytes(u"free")));
+}
+
+void printStatus(const HelperState &state, const QVariantMap &stick, bool firstSync,
+                 const Estimate &estimate)
 {
     printField(u"PSP:", state.mounted ? QStringLiteral("connected") : QStringLiteral("none"));
+    if (!stick.isEmpty())
+        printStick(stick);
     printField(u"Status:", state.statusText);
     printField(u"", state.statusSubText);
     printField(u"Syncing:", Output::yesNo(state.syncing));
@@ -118,15 +135,17 @@ ExitStatus runStatus(bool json)
     Session session;
     HelperClient &helper = session.helper();
     const HelperState state = helper.state();
+    const QVariantMap stick = helper.ask(Protocol::stick).toMap();
     const bool firstSync = helper.askBool(Protocol::isFirstSync);
     const Estimate estimate = readEstimate(helper);
     if (helper.failed())
         return session.report();
     if (!json) {
-        printStatus(state, firstSync, estimate);
+        printStatus(state, stick, firstSync, estimate);
         return Done;
     }
     QJsonObject object = stateToJson(state);
+    object.insert(QStringLiteral("stick"), QJsonObject::fromVariantMap(stick));
     object.insert(QStringLiteral("isFirstSync"), firstSync);
     insertEstimate(object, estimate);
     Output::json(object);

@@ -112,6 +112,7 @@ void checkAnswer(const QVariant &answer, const QString &type)
                                               {QStringLiteral("s"), QMetaType::QString},
                                               {QStringLiteral("t"), QMetaType::ULongLong},
                                               {QStringLiteral("u"), QMetaType::UInt},
+                                              {QStringLiteral("a{sv}"), QMetaType::QVariantMap},
                                               {QStringLiteral("aa{sv}"), QMetaType::QVariantList}};
     promise(answer.typeId() == types.at(type), "an answer is of the declared type");
 }

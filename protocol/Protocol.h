@@ -104,6 +104,10 @@ inline constexpr Method backupSubItemsForIdentifier{
 inline constexpr Method restoreBackupWithIdentifier{u"restoreBackupWithIdentifier", {identifier}};
 inline constexpr Method deleteBackupWithIdentifier{u"deleteBackupWithIdentifier", {identifier}};
 
+/// The mounted stick: "name" and "volume" (texts), "capacity", "free" and "used" (bytes, "t");
+/// empty without one.
+inline constexpr Method stick{u"stick", {}, u"a{sv}"};
+
 /// All of them, in the order in which the helper declares them.
 inline constexpr const Method *helperMethods[] = {
     &setApplication,
@@ -147,6 +151,7 @@ inline constexpr const Method *helperMethods[] = {
     &backupSubItemsForIdentifier,
     &restoreBackupWithIdentifier,
     &deleteBackupWithIdentifier,
+    &stick,
 };
 
 // --- A front-end's object

@@ -30,6 +30,6 @@ TEST(FrontEndProtocol, MethodsHaveTheTypesThatFrontEndsKnow)
         "setSelectedMoviesIdentifiers*(as) isConvertingMovie()b addMoviesFromArray(as) "
         "removeMovieItem(a{sv}) renameMovieItem(a{sv},s) backupItems()aa{sv} "
         "setSelectedBackupIdentifiers*(as) logChanged*(s) backupSubItemsForIdentifier(s)aa{sv} "
-        "restoreBackupWithIdentifier(s) deleteBackupWithIdentifier(s)");
+        "restoreBackupWithIdentifier(s) deleteBackupWithIdentifier(s) stick()a{sv}");
     EXPECT_EQ(found, expected.split(u' '));
 }

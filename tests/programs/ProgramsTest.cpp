@@ -7,6 +7,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStorageInfo>
 
 #include <gmock/gmock.h>
 
@@ -40,6 +43,27 @@ protected:
     {
         run({QStringLiteral("select"), QStringLiteral("music"), QStringLiteral("Road Trip")});
     }
+    QJsonObject stickAsJson()
+    {
+        const QString status = run({QStringLiteral("status"), QStringLiteral("--json")});
+        return QJsonDocument::fromJson(status.toUtf8())[u"stick"].toObject();
+    }
+    void expectStick(const QJsonObject &stick)
+    {
+        const QStorageInfo disk(programs.stick());
+        const QString name = QFileInfo(programs.stick()).fileName();
+        EXPECT_EQ(stick[u"name"].toString(), name);
+        EXPECT_EQ(stick[u"volume"].toString(), programs.stick());
+        EXPECT_EQ(stick[u"capacity"].toInteger(), disk.bytesTotal());
+        // Others write there too.
+        constexpr double tolerance = 256 << 20;
+        EXPECT_NEAR(stick[u"free"].toDouble(), static_cast<double>(disk.bytesAvailable()),
+                    tolerance);
+        EXPECT_NEAR(stick[u"used"].toDouble() + stick[u"free"].toDouble(),
+                    static_cast<double>(disk.bytesTotal()), tolerance);
+        EXPECT_TRUE(statusHas(
+            QStringLiteral("Stick:      %1 (%2)\nSpace:      ").arg(name, programs.stick())));
+    }
     QStringList music() const { return treeOf(programs.stick(QStringLiteral("PSP/MUSIC"))); }
     bool statusHas(const QString &text)
     {
@@ -56,8 +80,10 @@ TEST_F(ProgramsTest, SyncAStickEndToEnd)
 {
     programs.startHelper();
     run({QStringLiteral("sync")}, 1); // no stick yet
+    EXPECT_TRUE(stickAsJson().isEmpty());
     programs.insertStick();
     ASSERT_TRUE(waitFor([&] { return statusHas(QStringLiteral("Available")); }));
+    expectStick(stickAsJson());
     run({QStringLiteral("select"), QStringLiteral("music"), QStringLiteral("No Such List")}, 1);
     selectRoadTrip();
     run({QStringLiteral("estimate")});
