@@ -1,13 +1,10 @@
 #include "app/CaravelHelperController.h"
 
+#include "app/Catalogue.h"
 #include "app/FrontEndProtocol.h"
 #include "app/Log.h"
 #include "app/PrefsController.h"
-#include "modules/bookmarks/CVSyncBookmarks.h"
-#include "modules/contacts/CVSyncContacts.h"
 #include "modules/movies/CVSyncMovies.h"
-#include "modules/music/CVSyncMusic.h"
-#include "modules/photos/CVSyncPhotos.h"
 #include "modules/saves/CVSyncBackup.h"
 #include "platform/bus/DistributedNotificationCenter.h"
 #include "platform/core/Localized.h"
@@ -38,30 +35,6 @@ QString helperDidStartNotification()
     return QStringLiteral("CVHelperDidStartNotification");
 }
 
-ModuleFactory modules(const Clock &clock)
-{
-    ModuleFactory factory;
-    factory.music = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncMusic>(delegate);
-    };
-    factory.photos = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncPhotos>(delegate);
-    };
-    factory.backup = [&clock](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncBackup>(delegate, clock);
-    };
-    factory.contacts = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncContacts>(delegate);
-    };
-    factory.bookmarks = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncBookmarks>(delegate);
-    };
-    factory.movies = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncMovies>(delegate);
-    };
-    return factory;
-}
-
 } // namespace
 
 CaravelHelperController::CaravelHelperController(Services services, QObject *parent)
@@ -69,7 +42,7 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
     , m_services(std::move(services))
     , m_manager({m_services.volumes, m_services.notifications, m_services.clock,
                  m_services.bundle.resourcePath()},
-                modules(m_services.clock))
+                catalogue(m_services.clock))
     , m_menu(m_manager, menuActions())
     , m_icon(m_services.statusBar, m_manager)
     , m_status({m_manager, m_logger, m_frontEnd, m_menu, m_icon, m_services.alerts,

@@ -15,10 +15,10 @@ constexpr quint64 archiveLimit = 4096;
 
 } // namespace
 
-CVSyncManager::CVSyncManager(SyncServices services, ModuleFactory modules, QObject *parent)
+CVSyncManager::CVSyncManager(SyncServices services, ModuleCatalogue catalogue, QObject *parent)
     : QObject(parent)
     , m_services(std::move(services))
-    , m_modules(std::move(modules))
+    , m_catalogue(std::move(catalogue))
 {
     connect(&m_services.volumes, &Volumes::didMount, this, &CVSyncManager::volumeDidMount);
     connect(&m_services.volumes, &Volumes::willUnmount, this, &CVSyncManager::volumeWillUnmount);

@@ -5,7 +5,7 @@
 #include "platform/volumes/VolumeIdentity.h"
 #include "platform/volumes/Volumes.h"
 #include "sync/CVSyncManagerDelegate.h"
-#include "sync/ModuleFactory.h"
+#include "sync/ModuleKind.h"
 
 #include <QObject>
 
@@ -33,7 +33,7 @@ class CVSyncManager : public QObject
 {
     Q_OBJECT
 public:
-    CVSyncManager(SyncServices services, ModuleFactory modules, QObject *parent = nullptr);
+    CVSyncManager(SyncServices services, ModuleCatalogue catalogue, QObject *parent = nullptr);
     ~CVSyncManager() override;
 
     /// Not owned; set once, before detectPSP().
@@ -108,7 +108,7 @@ private:
     void setRunVolume(const QString &volume);
     void startRun(SyncRun &run);
     void pauseBeforeRun();
-    void createModules(SyncRun &run);
+    void createModules(SyncRun &run) const;
     void prepareModules(SyncRun &run);
     void cleanUpModules(SyncRun &run);
     void testFreeSpace(SyncRun &run);
@@ -121,7 +121,6 @@ private:
     bool endRun();
     void setIcon(SyncRun &run);
     void addCopiedBytes(quint64 count);
-    void add(SyncRun &run, const ModuleFactory::Make &make) const;
 
     // The estimate, on its own thread
     void _refreshSyncBytesEstimate();
@@ -131,7 +130,7 @@ private:
 
     // Fixed after construction
     const SyncServices m_services;
-    const ModuleFactory m_modules;
+    const ModuleCatalogue m_catalogue;
     CVSyncManagerDelegate *m_delegate = nullptr;
 
     // Under m_volumeMutex, which is held for a copy only

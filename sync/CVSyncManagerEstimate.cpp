@@ -11,20 +11,15 @@ void CVSyncManager::refreshSyncBytesEstimate()
     Workers::start([this] { _refreshSyncBytesEstimate(); });
 }
 
-// Game saves are copied to the computer, so they take no room on the stick and don't count.
 void CVSyncManager::_refreshSyncBytesEstimate()
 {
     SyncRun estimate(*this, pspVolume());
-    add(estimate, m_modules.music);
-    add(estimate, m_modules.photos);
-    add(estimate, m_modules.movies);
-    if (Settings::firmwareVersion() > 0) {
-        add(estimate, m_modules.bookmarks);
-        add(estimate, m_modules.contacts);
-    }
     m_syncBytesEstimate = 0;
     quint64 total = 0;
-    for (const auto &module : estimate.modules) {
+    for (const ModuleKind &kind : m_catalogue) {
+        if (!kind.countsInEstimate || (kind.takesPart && !kind.takesPart()))
+            continue;
+        const auto module = kind.make(&estimate);
         module->prepare(false);
         total += module->syncEstimateSize();
     }

@@ -104,23 +104,12 @@ void CVSyncManager::pauseBeforeRun()
         m_services.clock.sleep(startPause);
 }
 
-void CVSyncManager::createModules(SyncRun &run)
+void CVSyncManager::createModules(SyncRun &run) const
 {
-    add(run, m_modules.music);
-    add(run, m_modules.photos);
-    add(run, m_modules.movies);
-    if (Settings::syncBackup())
-        add(run, m_modules.backup);
-    if (Settings::firmwareVersion() > 0) {
-        add(run, m_modules.bookmarks);
-        add(run, m_modules.contacts);
+    for (const ModuleKind &kind : m_catalogue) {
+        if (!kind.takesPart || kind.takesPart())
+            run.modules.push_back(kind.make(&run));
     }
-}
-
-void CVSyncManager::add(SyncRun &run, const ModuleFactory::Make &make) const
-{
-    if (make)
-        run.modules.push_back(make(&run));
 }
 
 void CVSyncManager::prepareModules(SyncRun &run)

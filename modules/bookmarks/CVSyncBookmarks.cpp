@@ -55,6 +55,19 @@ CVSyncBookmarks::CVSyncBookmarks(CVSyncModuleDelegate *delegate)
 {
 }
 
+ModuleKind CVSyncBookmarks::kind()
+{
+    return {.saveName = saveName(),
+            .make =
+                [](CVSyncModuleDelegate *delegate) {
+                    return std::make_unique<CVSyncBookmarks>(delegate);
+                },
+            .takesPart =
+                [] {
+                    return Settings::firmwareVersion() > 0;
+                }};
+}
+
 QString CVSyncBookmarks::saveName()
 {
     return QStringLiteral("Bookmarks");

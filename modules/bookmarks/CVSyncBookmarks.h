@@ -1,7 +1,7 @@
 #pragma once
 
 #include "modules/bookmarks/BookmarkSource.h"
-#include "sync/CVSyncModule.h"
+#include "sync/ModuleKind.h"
 
 #include <optional>
 #include <vector>
@@ -13,6 +13,8 @@ class CVSyncBookmarks : public CVSyncModule
 public:
     explicit CVSyncBookmarks(CVSyncModuleDelegate *delegate);
 
+    /// As the catalogue of kinds has it.
+    static ModuleKind kind();
     static QString saveName();
 
     /// The top-level folders of the browser that "bookmarkSource" names, in its file's order; none

@@ -7,6 +7,7 @@
 #include "sync/Log.h"
 #include "util/Folders.h"
 #include "util/QMMD5Hasher.h"
+#include "util/Settings.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -76,6 +77,19 @@ std::vector<Person> sortedPeople()
 CVSyncContacts::CVSyncContacts(CVSyncModuleDelegate *delegate)
     : CVSyncModule(delegate, saveName())
 {
+}
+
+ModuleKind CVSyncContacts::kind()
+{
+    return {.saveName = saveName(),
+            .make =
+                [](CVSyncModuleDelegate *delegate) {
+                    return std::make_unique<CVSyncContacts>(delegate);
+                },
+            .takesPart =
+                [] {
+                    return Settings::firmwareVersion() > 0;
+                }};
 }
 
 QString CVSyncContacts::saveName()

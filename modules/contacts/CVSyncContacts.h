@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/people/AddressBook.h"
-#include "sync/CVSyncModule.h"
+#include "sync/ModuleKind.h"
 
 #include <vector>
 
@@ -13,6 +13,8 @@ class CVSyncContacts : public CVSyncModule
 public:
     explicit CVSyncContacts(CVSyncModuleDelegate *delegate);
 
+    /// As the catalogue of kinds has it.
+    static ModuleKind kind();
     static QString saveName();
     /// Everybody in the address book, in its order. Any thread; takes as long as people() of it.
     static std::vector<Person> availableIdentifiers();

@@ -71,6 +71,13 @@ CVSyncMovies::CVSyncMovies(CVSyncModuleDelegate *delegate)
 {
 }
 
+ModuleKind CVSyncMovies::kind()
+{
+    return {.saveName = saveName(), .make = [](CVSyncModuleDelegate *delegate) {
+                return std::make_unique<CVSyncMovies>(delegate);
+            }};
+}
+
 QString CVSyncMovies::saveName()
 {
     return QStringLiteral("Movies");

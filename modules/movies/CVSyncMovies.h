@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sync/CVSyncModule.h"
+#include "sync/ModuleKind.h"
 
 #include <optional>
 #include <vector>
@@ -14,6 +14,8 @@ class CVSyncMovies : public CVSyncModule
 public:
     explicit CVSyncMovies(CVSyncModuleDelegate *delegate);
 
+    /// As the catalogue of kinds has it.
+    static ModuleKind kind();
     static QString saveName();
 
     /// The library's movies in byte order of their ids. Any thread.

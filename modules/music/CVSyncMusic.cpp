@@ -44,6 +44,13 @@ CVSyncMusic::CVSyncMusic(CVSyncModuleDelegate *delegate)
 {
 }
 
+ModuleKind CVSyncMusic::kind()
+{
+    return {.saveName = saveName(), .make = [](CVSyncModuleDelegate *delegate) {
+                return std::make_unique<CVSyncMusic>(delegate);
+            }};
+}
+
 QString CVSyncMusic::saveName()
 {
     return QStringLiteral("Music");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "modules/music/MusicLibrary.h"
-#include "sync/CVSyncModule.h"
+#include "sync/ModuleKind.h"
 
 #include <optional>
 #include <vector>
@@ -13,6 +13,8 @@ class CVSyncMusic : public CVSyncModule
 public:
     explicit CVSyncMusic(CVSyncModuleDelegate *delegate);
 
+    /// As the catalogue of kinds has it.
+    static ModuleKind kind();
     static QString saveName();
 
     /// The library's playlists in file order; nothing where no library can be read. Makes the music

@@ -61,6 +61,13 @@ CVSyncPhotos::CVSyncPhotos(CVSyncModuleDelegate *delegate)
 {
 }
 
+ModuleKind CVSyncPhotos::kind()
+{
+    return {.saveName = saveName(), .make = [](CVSyncModuleDelegate *delegate) {
+                return std::make_unique<CVSyncPhotos>(delegate);
+            }};
+}
+
 QString CVSyncPhotos::saveName()
 {
     return QStringLiteral("Photos");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "modules/photos/PhotoLibrary.h"
-#include "sync/CVSyncModule.h"
+#include "sync/ModuleKind.h"
 
 #include <optional>
 #include <vector>
@@ -12,6 +12,8 @@ class CVSyncPhotos : public CVSyncModule
 public:
     explicit CVSyncPhotos(CVSyncModuleDelegate *delegate);
 
+    /// As the catalogue of kinds has it.
+    static ModuleKind kind();
     static QString saveName();
 
     /// The library's albums in file order; nothing where no library can be read. Any thread.

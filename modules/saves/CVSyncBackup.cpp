@@ -16,6 +16,18 @@ CVSyncBackup::CVSyncBackup(CVSyncModuleDelegate *delegate, const Clock &clock)
 {
 }
 
+ModuleKind CVSyncBackup::kind(const Clock &clock)
+{
+    // Saves are copied to the computer: they take no room on the stick.
+    return {.saveName = saveName(),
+            .make =
+                [&clock](CVSyncModuleDelegate *delegate) {
+                    return std::make_unique<CVSyncBackup>(delegate, clock);
+                },
+            .takesPart = [] { return Settings::syncBackup(); },
+            .countsInEstimate = false};
+}
+
 QString CVSyncBackup::saveName()
 {
     return QStringLiteral("Backup");

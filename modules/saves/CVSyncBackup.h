@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sync/CVSyncModule.h"
+#include "sync/ModuleKind.h"
 
 #include <vector>
 
@@ -19,6 +19,8 @@ class CVSyncBackup : public CVSyncModule
 public:
     CVSyncBackup(CVSyncModuleDelegate *delegate, const Clock &clock);
 
+    /// As the catalogue of kinds has it. The clock is not owned and outlives the runs.
+    static ModuleKind kind(const Clock &clock);
     static QString saveName();
 
     /// The saves that have backups, and the timestamps of one save's, both in byte order of names

@@ -88,7 +88,7 @@ TEST(StatusMenuTest, FollowsTheManager)
                                        {}}};
                               },
                               QStringLiteral("/PSP/MUSIC")};
-    SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
+    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
     running = &harness;
     QStringList chosen;
     const auto note = [&](const QString &title) {

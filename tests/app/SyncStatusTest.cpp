@@ -28,7 +28,7 @@ protected:
         },
         QStringLiteral("/PSP/MUSIC")};
     FailingFileManager files;
-    SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
+    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
     QMLogger logger;
     FrontEnd frontEnd;
     FakeStatusBar statusBar;

@@ -16,9 +16,7 @@ namespace {
 class FatStickTest : public testing::Test
 {
 protected:
-    SyncHarness harness{ModuleFactory{.music = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncMusic>(delegate);
-    }}};
+    SyncHarness harness{{CVSyncMusic::kind()}};
     FatImage image{harness.folder / QStringLiteral("stick.img"), 64 << 20};
     MusicLibraryFile library;
     QList<int> ids;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sync/ModuleFactory.h"
+#include "sync/ModuleKind.h"
 
 #include <functional>
 #include <memory>
@@ -23,11 +23,11 @@ public:
     {
     }
 
-    static ModuleFactory::Make maker(const QString &saveName, const Wishes &wishes)
+    static ModuleKind kind(const QString &saveName, const Wishes &wishes)
     {
-        return [saveName, &wishes](CVSyncModuleDelegate *delegate) {
-            return std::make_unique<ListModule>(delegate, saveName, wishes);
-        };
+        return {.saveName = saveName, .make = [saveName, &wishes](CVSyncModuleDelegate *delegate) {
+                    return std::make_unique<ListModule>(delegate, saveName, wishes);
+                }};
     }
 
     QString moduleName() const override { return m_wishes.name; }

@@ -141,11 +141,11 @@ void RecordingDelegate::newSyncBytesEstimate(quint64 bytes)
     note(u"newSyncBytesEstimate", QString::number(bytes));
 }
 
-SyncHarness::SyncHarness(ModuleFactory modules, const QString &place)
+SyncHarness::SyncHarness(ModuleCatalogue catalogue, const QString &place)
     : folder(place)
     , defaults(QStringLiteral("org.caravel.Caravel"), folder / QStringLiteral("preferences"))
     , manager({volumes, notifications, clock, folder / QStringLiteral("resources")},
-              std::move(modules))
+              std::move(catalogue))
 {
     QDir().mkpath(folder / QStringLiteral("home"));
     qputenv("HOME", (folder / QStringLiteral("home")).toUtf8());

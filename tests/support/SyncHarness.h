@@ -102,7 +102,7 @@ class SyncHarness
 {
 public:
     /// In a folder of its own, or in `place`, where an earlier harness may have left things.
-    explicit SyncHarness(ModuleFactory modules = {}, const QString &place = {});
+    explicit SyncHarness(ModuleCatalogue catalogue = {}, const QString &place = {});
     ~SyncHarness();
 
     /// Mounts the stick (formatted for a PSP, and synced before unless told otherwise) without

@@ -166,8 +166,14 @@ TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
                 {sources / QStringLiteral("gone"), QStringLiteral("/x/b"), {}}};
         },
         QStringLiteral("/x")};
-    const auto make = ListModule::maker(QStringLiteral("Music"), wishes);
-    SyncHarness harness(ModuleFactory{.music = make, .backup = make, .contacts = make});
+    const ModuleKind always = ListModule::kind(QStringLiteral("Music"), wishes);
+    ModuleKind notOnTheStick = always;
+    notOnTheStick.countsInEstimate = false;
+    ModuleKind sometimes = always;
+    sometimes.takesPart = [] {
+        return Settings::firmwareVersion() > 0;
+    };
+    SyncHarness harness({always, notOnTheStick, sometimes});
     Settings::lastFreeSpace.set(600);
     Settings::lastSyncSize.set(1000);
 

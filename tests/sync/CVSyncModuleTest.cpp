@@ -39,7 +39,7 @@ protected:
     TemporaryFolder sources;
     QStringList wanted; // names below the sources and below the module's folder
     ListModule::Wishes wishes{[this] { return items(); }, QStringLiteral("/PSP/MUSIC")};
-    SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
+    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
 
     void SetUp() override { harness.mountStick(); }
 

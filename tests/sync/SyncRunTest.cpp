@@ -26,7 +26,7 @@ protected:
     ListModule::Wishes wishes{[this] { return items(); }, QStringLiteral("/PSP/MUSIC"), true,
                               QStringLiteral("Music")};
     FailingFileManager files;
-    SyncHarness harness{ModuleFactory{.music = ListModule::maker(QStringLiteral("Music"), wishes)}};
+    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
 
     void SetUp() override
     {

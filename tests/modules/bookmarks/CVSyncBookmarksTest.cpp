@@ -44,9 +44,7 @@ QByteArray listOf(const QVariantList &children)
 class CVSyncBookmarksTest : public testing::Test
 {
 protected:
-    SyncHarness harness{ModuleFactory{.bookmarks = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncBookmarks>(delegate);
-    }}};
+    SyncHarness harness{{CVSyncBookmarks::kind()}};
     const QString library = harness.home(QStringLiteral("Library/"));
     const QString support = library + QStringLiteral("Application Support/");
     const QString profiles = support + QStringLiteral("Firefox/profiles.ini");

@@ -83,9 +83,7 @@ Person withEverything()
 class CVSyncContactsTest : public testing::Test
 {
 protected:
-    SyncHarness harness{ModuleFactory{.contacts = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncContacts>(delegate);
-    }}};
+    SyncHarness harness{{CVSyncContacts::kind()}};
     FixedAddressBook book;
     const QString support = harness.home(QStringLiteral("Library/Application Support/Caravel/"));
     const QString picture =

@@ -232,7 +232,7 @@ TEST(Model, AgreesOnBookmarks)
          .folder = QStringLiteral("PSP/SYSTEM/BROWSER"),
          .clears = false,
          .leastFirmware = 1,
-         .modules = {.bookmarks = make<CVSyncBookmarks>},
+         .catalogue = {CVSyncBookmarks::kind()},
          .settings = {{"bookmarkSource", {0, 1, 2, 3, 4}}, {"syncContacts", {0, 1}}},
          .roll = roll});
 }

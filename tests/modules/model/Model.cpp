@@ -216,7 +216,7 @@ void runAndCompare(const Kind &kind, SyncHarness &harness, const World &after)
 
 void playRound(const Kind &kind, unsigned round)
 {
-    SyncHarness harness{kind.modules};
+    SyncHarness harness{kind.catalogue};
     harness.mountStick();
     Dice dice(round);
     World world;

@@ -78,7 +78,7 @@ struct Kind
     QString folder; // on the stick
     bool clears = true;
     int leastFirmware = 0; // with which it takes part
-    ModuleFactory modules;
+    ModuleCatalogue catalogue;
     std::vector<std::pair<const char *, std::vector<int>>> settings;
     /// Fills the home and says what belongs on the stick, duplicates and all.
     std::function<std::vector<Wish>(World &, Dice &, SyncHarness &)> roll;

@@ -68,7 +68,7 @@ TEST(Model, AgreesOnMovies)
 {
     holdAgainstTheRules({.name = QStringLiteral("Movies"),
                          .folder = QStringLiteral("MP_ROOT"),
-                         .modules = {.movies = make<CVSyncMovies>},
+                         .catalogue = {CVSyncMovies::kind()},
                          .settings = {},
                          .roll = roll});
 }

@@ -129,7 +129,7 @@ TEST(Model, AgreesOnMusic)
     holdAgainstTheRules(
         {.name = QStringLiteral("Music"),
          .folder = QStringLiteral("PSP/MUSIC"),
-         .modules = {.music = make<CVSyncMusic>},
+         .catalogue = {CVSyncMusic::kind()},
          .settings = {{"sortMusicBy", {0, 1, 2, 7}}, {"organizeMusicBy", {0, 1, 2, 3}}},
          .roll = roll});
 }

@@ -118,7 +118,7 @@ TEST(Model, AgreesOnPhotos)
 {
     holdAgainstTheRules({.name = QStringLiteral("Photos"),
                          .folder = QStringLiteral("PSP/PHOTO"),
-                         .modules = {.photos = make<CVSyncPhotos>},
+                         .catalogue = {CVSyncPhotos::kind()},
                          .settings = {{"sortPhotosBy", {0, 1, 1, 2}}},
                          .roll = roll});
 }

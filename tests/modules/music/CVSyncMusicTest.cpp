@@ -249,9 +249,7 @@ TEST_F(CVSyncMusicTest, PassesOverValuesOfAWrongType)
 
 TEST_F(CVSyncMusicTest, SyncsThroughAPretendedRun)
 {
-    SyncHarness run(ModuleFactory{.music = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncMusic>(delegate);
-    }});
+    SyncHarness run{{CVSyncMusic::kind()}};
     run.mountStick();
     writeFile(run.folder / QStringLiteral("m/1.mp3"), "one");
     QDir().mkpath(run.folder / QStringLiteral("m/2.mp3"));

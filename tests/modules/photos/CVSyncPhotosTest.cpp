@@ -21,9 +21,7 @@ QStringList list(std::initializer_list<const char *> texts)
 class CVSyncPhotosTest : public testing::Test
 {
 protected:
-    SyncHarness harness{ModuleFactory{.photos = [](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncPhotos>(delegate);
-    }}};
+    SyncHarness harness{{CVSyncPhotos::kind()}};
     PhotoLibraryFile library;
     const QString defaultPlace =
         harness.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml"));

@@ -154,9 +154,7 @@ private:
     }
 
     std::mt19937 m_random;
-    SyncHarness m_harness{ModuleFactory{.backup = [this](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncBackup>(delegate, m_harness.clock);
-    }}};
+    SyncHarness m_harness{{CVSyncBackup::kind(m_harness.clock)}};
     std::map<QString, Contents> m_stick;
     Histories m_model;
     int m_choice = 2;

@@ -23,9 +23,7 @@ QStringList list(std::initializer_list<const char *> texts)
 class CVSyncBackupTest : public testing::Test
 {
 protected:
-    SyncHarness harness{ModuleFactory{.backup = [this](CVSyncModuleDelegate *delegate) {
-        return std::make_unique<CVSyncBackup>(delegate, harness.clock);
-    }}};
+    SyncHarness harness{{CVSyncBackup::kind(harness.clock)}};
     const qint64 begin = harness.clock.current.toSecsSinceEpoch();
 
     void SetUp() override

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "sync/CVSyncModule.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+/// One kind of media, as the engine needs to know it; each kind's module describes its own.
+struct ModuleKind
+{
+    /// Fixed: preference keys and file names on the stick are formed from it.
+    QString saveName;
+    /// Made anew for each run and each estimate, on its thread.
+    std::function<std::unique_ptr<CVSyncModule>(CVSyncModuleDelegate *)> make;
+    /// Whether it takes part in what starts now; empty: always. What takes part with an empty queue
+    /// still cleans its folder up. Any thread.
+    std::function<bool()> takesPart = {};
+    /// Whether its bytes are the stick's.
+    bool countsInEstimate = true;
+};
+
+/// All kinds in the order in which runs take them; made above the engine, which knows none.
+using ModuleCatalogue = std::vector<ModuleKind>;
