@@ -3,7 +3,7 @@
 #include "cli/Output.h"
 #include "cli/Session.h"
 #include "frontend/Rows.h"
-#include "platform/lists/UserDefaults.h"
+#include "util/Settings.h"
 
 #include <QJsonArray>
 #include <QSet>
@@ -25,10 +25,8 @@ const ListKind &kindNamed(const QString &name)
 
 QStringList currentSelection(const ListKind &kind, const QVariantList &rows)
 {
-    if (!kind.preferenceKey.isEmpty())
-        return UserDefaults::standard()
-            .stringArrayForKey(kind.preferenceKey)
-            .value_or(QStringList());
+    if (!kind.saveName.isEmpty())
+        return Settings::selection(kind.saveName).value_or(QStringList());
     QStringList selected;
     for (const QVariant &each : rows) {
         const QVariantMap row = each.toMap();
@@ -113,7 +111,7 @@ const std::vector<ListKind> &listKinds()
         {QStringLiteral("bookmarks"), bookmarksItems, setSelectedBookmarksIdentifiers, {}},
         {QStringLiteral("movies"), moviesItems, setSelectedMoviesIdentifiers, {}},
         {QStringLiteral("saves"), backupItems, setSelectedBackupIdentifiers,
-         QStringLiteral("enabledBackup")},
+         QStringLiteral("Backup")},
     };
     return kinds;
 }
@@ -168,7 +166,7 @@ ExitStatus runSelect(const QString &kindName, SelectMode mode, const QStringList
     const QVariantList now = helper.ask(kind.items).toList();
     if (helper.failed())
         return session.report();
-    const bool rowsTell = kind.preferenceKey.isEmpty();
+    const bool rowsTell = kind.saveName.isEmpty();
     printRows(now, rowsTell ? currentSelection(kind, now) : selection.identifiers);
     return Done;
 }

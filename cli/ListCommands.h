@@ -15,9 +15,9 @@ struct ListKind
     QString name; ///< as the command line calls it
     const Protocol::Method &items;
     const Protocol::Method &select;
-    /// Of the selection in the shared preferences, for a kind whose rows don't tell what is
-    /// selected; else empty.
-    QString preferenceKey;
+    /// For a kind whose rows don't tell what is selected, so that it is read from the settings;
+    /// else empty.
+    QString saveName;
 };
 
 const std::vector<ListKind> &listKinds();

@@ -3,6 +3,7 @@
 #include "cli/MeantRow.h"
 #include "cli/Output.h"
 #include "cli/Session.h"
+#include "util/PathComponents.h"
 
 #include <QFileInfo>
 
@@ -12,13 +13,6 @@ QVariantMap meantMovie(HelperClient &helper, const QString &id)
 {
     return meantRow(helper, Protocol::moviesItems, id, QStringLiteral("movie"),
                     QStringLiteral("movies"));
-}
-
-// Refused here, since the helper answers nothing.
-bool canBeTitle(const QString &title)
-{
-    return !title.isEmpty() && !title.contains(u'/') && title != u"." && title != u".." &&
-           title.toUtf8().size() <= 255;
 }
 
 } // namespace
@@ -53,7 +47,8 @@ ExitStatus runRemoveMovie(const QString &id)
 
 ExitStatus runRenameMovie(const QString &id, const QString &title)
 {
-    if (!canBeTitle(title)) {
+    // Refused here, since the helper answers nothing.
+    if (!PathComponents::isName(title)) {
         Output::error(QStringLiteral("\"%1\" can't be a movie's title").arg(title));
         return Refused;
     }

@@ -15,25 +15,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// The stored value in the type of its default, as every reader sees it.
-QVariant valueOf(const Settings::Key &key)
-{
-    const UserDefaults &store = UserDefaults::standard();
-    switch (key.defaultValue.typeId()) {
-    case QMetaType::Bool:
-        return store.boolForKey(key.name);
-    case QMetaType::Int:
-        return store.integerForKey(key.name);
-    case QMetaType::ULongLong:
-        return store.unsignedForKey(key.name);
-    default:
-        return store.stringForKey(key.name);
-    }
-}
-
 bool isDefault(const Settings::Key &key)
 {
-    return valueOf(key).toString() == key.defaultValue.toString();
+    return key.value().toString() == key.defaultValue.toString();
 }
 
 QString shown(const QVariant &value)
@@ -78,10 +62,10 @@ ExitStatus showAll(bool json)
 {
     QJsonObject object;
     for (const Settings::Key &key : Settings::keys()) {
-        object.insert(key.name, entry(valueOf(key), isDefault(key)));
+        object.insert(key.name, entry(key.value(), isDefault(key)));
         const QString mark = isDefault(key) ? QStringLiteral("  (default)") : QString();
         if (!json)
-            Output::print(QStringLiteral("%1 = %2%3").arg(key.name, shown(valueOf(key)), mark));
+            Output::print(QStringLiteral("%1 = %2%3").arg(key.name, shown(key.value()), mark));
     }
     if (json)
         Output::json(object);
@@ -91,7 +75,7 @@ ExitStatus showAll(bool json)
 ExitStatus showOne(const QString &name, bool json)
 {
     const Settings::Key *key = findKey(name);
-    const QVariant value = key ? valueOf(*key) : UserDefaults::standard().object(name);
+    const QVariant value = key ? key->value() : UserDefaults::standard().object(name);
     const bool usesDefault = key ? isDefault(*key) : !value.isValid();
     if (json)
         Output::json(QJsonObject{{name, entry(value, usesDefault)}});

@@ -80,6 +80,20 @@ void setSelection(const QString &saveName, const QStringList &identifiers)
     store().setObject(selectionKey(saveName), identifiers);
 }
 
+QVariant Key::value() const
+{
+    switch (defaultValue.typeId()) {
+    case QMetaType::Bool:
+        return store().boolForKey(name);
+    case QMetaType::Int:
+        return store().integerForKey(name);
+    case QMetaType::ULongLong:
+        return store().unsignedForKey(name);
+    default:
+        return store().stringForKey(name);
+    }
+}
+
 const std::vector<Key> &keys()
 {
     static const std::vector<Key> table = {

@@ -149,6 +149,9 @@ struct Key
 {
     QString name;
     QVariant defaultValue; ///< a bool, int, quint64 or QString: the key's type
+
+    /// The stored value in that type (any whole number for an int), as every reader sees it.
+    QVariant value() const;
 };
 
 /// The keys that have a default, in the order in which the defaults are installed.

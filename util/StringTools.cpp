@@ -26,15 +26,10 @@ Token tokenAt(QStringView pattern, qsizetype at)
     return {Token::Kind::Literal, c, at + 1};
 }
 
-bool takes(const Token &token, QChar c, Qt::CaseSensitivity caseSensitivity)
-{
-    return token.kind == Token::Kind::Any || token.literal == c ||
-           (caseSensitivity == Qt::CaseInsensitive &&
-            token.literal.toCaseFolded() == c.toCaseFolded());
-}
+} // namespace
 
-/// Greedy matching: after a mismatch only the last "*" needs to take one character more.
-bool matches(QStringView text, QStringView pattern, Qt::CaseSensitivity caseSensitivity)
+// Greedy matching: after a mismatch only the last "*" needs to take one character more.
+bool StringTools::isLike(QStringView text, QStringView pattern)
 {
     qsizetype behindStar = -1; // pattern position behind the last "*" met
     qsizetype taken = 0;       // first text position behind what that "*" takes
@@ -45,7 +40,7 @@ bool matches(QStringView text, QStringView pattern, Qt::CaseSensitivity caseSens
         if (more && token.kind == Token::Kind::Run) {
             behindStar = p = token.end;
             taken = t;
-        } else if (more && takes(token, text[t], caseSensitivity)) {
+        } else if (more && (token.kind == Token::Kind::Any || token.literal == text[t])) {
             p = token.end;
             ++t;
         } else if (behindStar >= 0) {
@@ -55,19 +50,7 @@ bool matches(QStringView text, QStringView pattern, Qt::CaseSensitivity caseSens
             return false;
         }
     }
-    return QStringView(pattern).mid(p).count(u'*') == pattern.size() - p;
-}
-
-} // namespace
-
-bool StringTools::isLike(QStringView text, QStringView pattern)
-{
-    return matches(text, pattern, Qt::CaseSensitive);
-}
-
-bool StringTools::isCaseInsensitiveLike(QStringView text, QStringView pattern)
-{
-    return matches(text, pattern, Qt::CaseInsensitive);
+    return pattern.mid(p).count(u'*') == pattern.size() - p;
 }
 
 QString StringTools::expandingTilde(const QString &path)

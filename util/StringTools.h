@@ -9,7 +9,6 @@ namespace StringTools {
 /// none) and "?" for exactly one; a backslash makes the character behind it literal. At most text
 /// length times pattern length steps.
 bool isLike(QStringView text, QStringView pattern);
-bool isCaseInsensitiveLike(QStringView text, QStringView pattern);
 
 /// "~" or a leading "~/" replaced by $HOME; any other path as it is.
 QString expandingTilde(const QString &path);

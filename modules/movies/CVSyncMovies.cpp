@@ -36,6 +36,12 @@ QString titleOf(const QString &identifier)
     return identifier.section(u'/', 1);
 }
 
+// Whether it has an identifier's form: it names no place outside of the library then.
+bool isIdentifier(const QString &text)
+{
+    return PathComponents::count(text) == 2;
+}
+
 bool moveReported(const QString &source, const QString &destination)
 {
     ErrorLog errors;
@@ -111,11 +117,6 @@ std::optional<QString> CVSyncMovies::nextAvailableMovieId()
             return id;
     }
     return std::nullopt;
-}
-
-bool CVSyncMovies::isIdentifier(const QString &text)
-{
-    return PathComponents::count(text) == 2;
 }
 
 QString CVSyncMovies::fileOf(const QString &identifier, const QString &ending)

@@ -24,10 +24,8 @@ public:
     static std::optional<QString> nextAvailableMovieId();
 
     /// Full path of a movie's file with that ending (".MP4", ".THM"). The identifier must be one of
-    /// the library's form, see isIdentifier().
+    /// the library's form.
     static QString fileOf(const QString &identifier, const QString &ending);
-    /// Whether a text has an identifier's form: it names no place outside of the library then.
-    static bool isIdentifier(const QString &text);
 
     /// Where the converter leaves its result: "CONVERT" + ending (".MP4", ".THM") in the support
     /// folder.
