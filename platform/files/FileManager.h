@@ -43,8 +43,8 @@ struct FolderEntry
 {
     QString path; ///< relative to the listed folder, in normal form, without a leading slash
     bool isFolder = false; ///< a folder itself; false for a link to one
-    int parent =
-        -1; ///< index of the folder that holds it in the same listing; -1: the listed folder
+    /// Index of the folder that holds it in the same listing; -1: the listed folder.
+    int parent = -1;
 };
 
 /// Size and free space of a file system in bytes; free is what an ordinary user can still fill.
