@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/files/FileError.h"
+#include "platform/files/FileLock.h"
 
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -54,6 +56,17 @@ struct VolumeSpace
     quint64 free = 0;
 };
 
+/// What tells that a file is still the one that was looked at before.
+struct FileStamp
+{
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = 0;     ///< bytes
+    qint64 modified = 0; ///< nanoseconds since 1970 began in UTC
+
+    bool operator==(const FileStamp &) const = default;
+};
+
 /// The files of the machine. Paths are absolute, "/" between components, UTF-8 on disk. No call
 /// throws. Every call may come from any thread. The class is the layer that tests replace to make
 /// disks fail; the base class is the real thing (POSIX), so a test overrides only what it changes.
@@ -72,6 +85,8 @@ public:
     virtual FileStatus status(const QString &path) const;
     virtual FileStatus linkStatus(const QString &path) const;
     bool exists(const QString &path) const { return status(path).exists(); }
+    /// Nothing where nothing is there. Links are followed.
+    virtual std::optional<FileStamp> stamp(const QString &path) const;
 
     /// Everything below a folder: a folder before its contents, siblings in byte order of names,
     /// links listed but not followed. One directory listing per folder and no stat call where the
@@ -147,6 +162,12 @@ public:
     /// A whole file; fails where it is missing, unreadable, no regular file, or longer than the
     /// limit (EFBIG).
     virtual FileResult<QByteArray> readFile(const QString &path, quint64 limit) const;
+
+    /// Waits, but for so long at most, until nobody else holds the lock of that path: no other
+    /// thread, and no other process that asks here. Fails with EWOULDBLOCK when the time is over.
+    /// The lock's file is made where it is missing, and stays: removing it would let two hold locks
+    /// on different files of one name.
+    virtual FileResult<FileLock> lock(const QString &path, std::chrono::milliseconds limit);
 
     /// Space of the file system that holds the path; nothing where the path doesn't exist.
     virtual std::optional<VolumeSpace> volumeSpace(const QString &path) const;

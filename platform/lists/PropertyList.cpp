@@ -74,12 +74,7 @@ FileResult<QStringList> stringsOf(const QString &path)
         return root.error();
     if (root->typeId() != QMetaType::QVariantList)
         return wrongRoot(path, QStringLiteral("its root is no array"));
-    QStringList strings;
-    for (const QVariant &entry : root->toList()) {
-        if (entry.typeId() == QMetaType::QString)
-            strings.append(entry.toString());
-    }
-    return strings;
+    return PropertyList::stringsIn(root->toList());
 }
 
 } // namespace
@@ -108,6 +103,16 @@ FileResult<QStringList> PropertyList::readStringArray(const QString &path)
     FileResult<QStringList> strings = stringsOf(path);
     if (!strings && !strings.error().isMissing())
         qCWarning(lcPlatform).noquote() << "can't use" << logText(strings.error());
+    return strings;
+}
+
+QStringList PropertyList::stringsIn(const QVariantList &entries)
+{
+    QStringList strings;
+    for (const QVariant &entry : entries) {
+        if (entry.typeId() == QMetaType::QString)
+            strings.append(entry.toString());
+    }
     return strings;
 }
 

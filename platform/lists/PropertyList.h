@@ -23,6 +23,9 @@ FileResult<QVariantMap> readDictionary(const QString &path);
 /// left out. A file that exists but can't be used is named in the system log.
 FileResult<QStringList> readStringArray(const QString &path);
 
+/// The strings of an array.
+QStringList stringsIn(const QVariantList &entries);
+
 /// Of a list that couldn't be read, for logs: "PATH:LINE: TEXT", without the line where there is
 /// none.
 QString logText(const FileError &error);

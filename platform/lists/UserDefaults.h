@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files/FileManager.h"
+
 #include <QDateTime>
 #include <QObject>
 #include <QStringList>
@@ -11,6 +13,9 @@
 #include <mutex>
 #include <optional>
 #include <set>
+
+class PreferencesFile;
+struct PreferencesContents;
 
 /// The user's preferences store: one domain of our own, a layer of registered defaults below it,
 /// and access to other programs' domains. A domain is the property list "<name>.plist" in the
@@ -26,7 +31,7 @@ class UserDefaults : public QObject
     Q_OBJECT
 public:
     /// `folder` is where the domains' files lie. The domain's file is read at once.
-    UserDefaults(QString domain, QString folder, QObject *parent = nullptr);
+    UserDefaults(const QString &domain, const QString &folder, QObject *parent = nullptr);
     ~UserDefaults() override;
 
     /// The store of the shared domain "org.caravel.Caravel" under $HOME/Library/Preferences, made
@@ -39,7 +44,7 @@ public:
 
     /// False while the file is there and can't be read: what is answered then are values read
     /// before, or the registered ones.
-    bool isReadable() const { return !m_saidUnreadable; }
+    bool isReadable() const { return m_isReadable; }
 
     /// Values for keys that nobody has set; kept in memory only.
     void registerDefaults(const QVariantMap &defaults);
@@ -62,10 +67,11 @@ public:
 
     /// Writes this process's changes into the file (only the keys changed here; all else in the
     /// file stays) and reads what others wrote. Atomic, and safe against other processes and
-    /// threads that do the same. False when the file could not be written: the changes are kept for
-    /// the next time. A file that can't be parsed is kept aside as "<name>.plist.unreadable", said
-    /// once in the system log; one that can't be read from the disk is left as it is, and nothing
-    /// is written over it. Does not emit changed().
+    /// threads that do the same. False when the file could not be written, or another writer kept
+    /// it locked for over a second: the changes are kept for the next time. A file that can't be
+    /// parsed is kept aside as "<name>.plist.unreadable", said once in the system log; one that
+    /// can't be read from the disk is left as it is, and nothing is written over it. Does not emit
+    /// changed().
     bool synchronize();
 
     /// Another domain, read from its file at each call; nothing where it is missing or unreadable
@@ -85,37 +91,25 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// What tells that a file is still the one that was read.
-    struct Stamp
-    {
-        quint64 device = 0;
-        quint64 inode = 0;
-        qint64 size = 0;
-        qint64 modified = 0; // nanoseconds
-
-        bool operator==(const Stamp &) const = default;
-    };
-
-    static std::optional<Stamp> stampOf(const QString &path);
-    QString filePath(const QString &domain) const;
-    QString lockPath(const QString &domain) const;
     void announce();
     QVariantMap ownChanges() const;
     bool exchange(const QVariantMap &changes);
     bool write(const QVariantMap &values);
     void adopt(const QVariantMap &contents, const QVariantMap &written);
-    std::optional<QVariantMap> readOwnFile(bool locked);
-    std::optional<QVariantMap> leftAlone(const QString &reason);
-    bool writingFailed(const QString &reason);
+    std::optional<QVariantMap> readFile();
+    std::optional<QVariantMap> readLockedFile();
+    std::optional<QVariantMap> valuesOf(const PreferencesContents &contents);
+    bool writingFailed(const FileError &error);
 
-    const QString m_domain;
     const QString m_folder;
+    const std::unique_ptr<const PreferencesFile> m_file;
     const std::shared_ptr<const bool> m_alive; // gone once this is: queued signals look first
     std::atomic<bool> m_notificationQueued = false;
+    std::atomic<bool> m_isReadable = true; // as the last read found the file
 
     std::mutex m_synchronizing; // held through a synchronize(), before m_mutex; guards what follows
-    std::optional<Stamp> m_lastRead;
-    std::atomic<bool> m_saidUnreadable = false;
+    std::optional<FileStamp> m_lastRead;
+    bool m_saidUnreadable = false;
     bool m_saidUnwritable = false;
 
     mutable std::mutex m_mutex; // guards what follows; held for copies only

@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <thread>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -96,6 +97,22 @@ void makeTree(const TemporaryFolder &folder)
     makeLink(QStringLiteral("file"), folder / QStringLiteral("a/to file"));
     makeLink(QStringLiteral("sub"), folder / QStringLiteral("a/to sub"));
     makeLink(QStringLiteral("nowhere"), folder / QStringLiteral("a/dangling"));
+}
+
+TEST(FileManager, ALockIsWaitedForAsLongAsToldAndNoLonger)
+{
+    const TemporaryFolder folder;
+    const QString path = folder / QStringLiteral("lock");
+    const auto lock = [&path](int milliseconds) {
+        return files().lock(path, std::chrono::milliseconds(milliseconds));
+    };
+    std::optional<FileResult<FileLock>> held = lock(0);
+    ASSERT_TRUE(*held);
+    EXPECT_EQ(lock(20).error().number, EWOULDBLOCK);
+    const std::jthread releasing([&held] { held.reset(); });
+    EXPECT_TRUE(lock(60000));
+    EXPECT_TRUE(files().exists(path));
+    EXPECT_TRUE(files().lock(folder / QStringLiteral("none/x"), {}).error().isMissing());
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "platform/lists/UserDefaults.h"
+#include "platform/files/FileManager.h"
 #include "platform/lists/PropertyList.h"
 #include "support/TestSupport.h"
 
@@ -6,6 +7,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QThread>
 
 #include <cmath>
@@ -151,7 +153,8 @@ TEST_F(UserDefaultsFile, WritersAtOnceLoseNothing)
     const auto hammer = [](UserDefaults &store, const QString &prefix) {
         for (int i = 0; i < rounds; ++i) {
             store.setObject(prefix + QString::number(i), i);
-            EXPECT_TRUE(store.synchronize());
+            while (!store.synchronize()) { // the others may keep it locked for long
+            }
             EXPECT_EQ(store.integerForKey(prefix + QString::number(i)), i);
         }
     };
@@ -215,35 +218,68 @@ TEST_F(UserDefaultsFile, GarbageIsKeptAsideAndSaidOnce)
     }
 }
 
-TEST_F(UserDefaultsFile, WhatCannotBeOpenedIsLeftAloneAndChangesWaitForBetterTimes)
+/// Waits for no lock.
+class ImpatientFileManager : public FileManager
 {
-    SystemLogCapture log;
-    QDir().mkpath(path + QStringLiteral("/inside"));
-    UserDefaults store(domain, folder);
-    store.setObject(key, 1);
-    EXPECT_FALSE(store.synchronize());
-    EXPECT_FALSE(store.synchronize());
-    EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join(u'\n'));
-    EXPECT_TRUE(QFileInfo(path + QStringLiteral("/inside")).isDir());
-    EXPECT_EQ(store.integerForKey(key), 1);
-    QDir(path).removeRecursively();
-    EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(fileContents(), (QVariantMap{{key, 1LL}}));
-}
+public:
+    FileResult<FileLock> lock(const QString &path, std::chrono::milliseconds) override
+    {
+        return FileManager::lock(path, std::chrono::milliseconds(0));
+    }
+};
 
-TEST_F(UserDefaultsFile, FailedWritesAreKeptAndSaidOnce)
+TEST_F(UserDefaultsFile, WhatStandsInTheWayIsSaidOnceAndChangesWaitForBetterTimes)
 {
-    SystemLogCapture log;
-    writeFile(home / QStringLiteral("Library"), "a file where the folder belongs");
-    UserDefaults store(domain, folder);
-    store.setObject(key, 1);
-    EXPECT_FALSE(store.synchronize());
-    EXPECT_FALSE(store.synchronize());
-    EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join(u'\n'));
-    EXPECT_FALSE(store.editPersistentDomain(QStringLiteral("x"), set({{key, 1}})));
-    QFile::remove(home / QStringLiteral("Library"));
-    EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(fileContents(), (QVariantMap{{key, 1LL}}));
+    const QString inside = path + QStringLiteral("/inside");
+    const QString library = home / QStringLiteral("Library");
+    const QString lockPath = folder + QStringLiteral("/.org.example.Test.lock");
+    std::optional<FileLock> anothers;
+    const struct
+    {
+        const char *said;
+        bool isReadable;
+        std::function<void()> comes;
+        std::function<void()> goes;
+    } obstacles[] = {
+        {"are left alone: Is a directory", false, [&] { QDir().mkpath(inside); },
+         [&] {
+             EXPECT_TRUE(QFileInfo(inside).isDir());
+             QDir(path).removeRecursively();
+         }},
+        {"can't create the folder", true, [&] { writeFile(library, "a file"); },
+         [&] {
+             QFile::remove(library);
+         }},
+        {"can't lock it", true,
+         [&] {
+             QDir().mkpath(folder);
+             anothers.emplace(*files().lock(lockPath, std::chrono::milliseconds(0)));
+         },
+         [&] {
+             anothers.reset();
+         }},
+    };
+    ImpatientFileManager impatient;
+    FileManager::setDefaultManager(&impatient);
+    const auto restore = qScopeGuard([] { FileManager::setDefaultManager(nullptr); });
+    for (const auto &[said, isReadable, comes, goes] : obstacles) {
+        QDir(library).removeRecursively();
+        SystemLogCapture log;
+        comes();
+        UserDefaults store(domain, folder);
+        store.setObject(key, 1);
+        EXPECT_FALSE(store.synchronize()) << said;
+        EXPECT_FALSE(store.synchronize()) << said;
+        EXPECT_EQ(store.isReadable(), isReadable) << said;
+        EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join(u'\n'));
+        EXPECT_TRUE(log.contains(QLatin1String(said))) << qPrintable(log.lines().join(u'\n'));
+        EXPECT_FALSE(store.editPersistentDomain(domain, set({{other, 1}}))) << said;
+        EXPECT_EQ(store.integerForKey(key), 1) << said;
+        goes();
+        EXPECT_TRUE(store.synchronize()) << said;
+        EXPECT_TRUE(store.isReadable()) << said;
+        EXPECT_EQ(fileContents(), (QVariantMap{{key, 1LL}})) << said;
+    }
 }
 
 TEST_F(UserDefaultsFile, ChangedComesOnTheMainThreadOnceForSeveralChanges)
