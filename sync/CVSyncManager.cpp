@@ -8,13 +8,6 @@
 
 #include <utility>
 
-namespace {
-
-// An archive of one number takes some eighty bytes; what is much longer is none.
-constexpr quint64 archiveLimit = 4096;
-
-} // namespace
-
 CVSyncManager::CVSyncManager(SyncServices services, ModuleCatalogue catalogue, QObject *parent)
     : QObject(parent)
     , m_services(std::move(services))
@@ -88,10 +81,8 @@ void CVSyncManager::readLastSyncSize(const QString &volume)
     const FileManager &files = FileManager::defaultManager();
     if (!files.exists(StickFiles::caravelFolder(volume)))
         return;
-    std::optional<quint64> size;
-    if (const auto archive = files.readFile(StickFiles::lastSyncSize(volume), archiveLimit))
-        size = NumberArchive::decode(*archive);
-    Settings::lastSyncSize.set(size);
+    const FileResult<quint64> size = NumberArchive::read(StickFiles::lastSyncSize(volume));
+    Settings::lastSyncSize.set(size ? std::optional(*size) : std::nullopt);
 }
 
 void CVSyncManager::setPSPIsMounted(bool mounted)

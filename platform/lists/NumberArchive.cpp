@@ -1,5 +1,7 @@
 #include "platform/lists/NumberArchive.h"
 
+#include "platform/files/FileManager.h"
+
 #include <QByteArrayView>
 #include <QtEndian>
 
@@ -159,6 +161,19 @@ std::optional<quint64> NumberArchive::decode(const QByteArray &archive)
     if (!number || !cursor.pass(bytesOf(afterNumber)) || cursor.left() != 0)
         return std::nullopt;
     return toUnsigned(*number, char(code->value));
+}
+
+FileResult<quint64> NumberArchive::read(const QString &path)
+{
+    constexpr quint64 limit = 4096; // bytes; an archive takes some eighty
+    const FileResult<QByteArray> archive = files().readFile(path, limit);
+    if (!archive)
+        return archive.error();
+    const std::optional<quint64> number = decode(*archive);
+    if (number)
+        return *number;
+    return FileError{FileError::Operation::Parse, path, 0,
+                     QStringLiteral("it is no archive of a number")};
 }
 
 QByteArray NumberArchive::encode(quint64 number)

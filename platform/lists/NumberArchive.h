@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files/FileError.h"
+
 #include <QByteArray>
 
 #include <optional>
@@ -18,6 +20,9 @@ namespace NumberArchive {
 /// The number archived in the bytes, written by any system in either byte order and with any
 /// integer type code; nothing where the bytes are no such archive. Never reads outside them.
 std::optional<quint64> decode(const QByteArray &archive);
+
+/// The number archived in a file; Parse where it is no such archive.
+FileResult<quint64> read(const QString &path);
 
 /// Little-endian archive of the number.
 QByteArray encode(quint64 number);

@@ -208,6 +208,5 @@ QStringList SyncHarness::index(const QString &saveName) const
 
 quint64 SyncHarness::lastSyncSizeOnStick() const
 {
-    return NumberArchive::decode(readFile(stick(QStringLiteral(".caravel/LastSyncSize"))))
-        .value_or(0);
+    return NumberArchive::read(stick(QStringLiteral(".caravel/LastSyncSize"))).valueOr(0);
 }
