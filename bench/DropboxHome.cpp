@@ -1,4 +1,5 @@
 #include "DropboxHome.h"
+
 #include "util/Settings.h"
 
 #include <QDir>
