@@ -4,6 +4,7 @@
 #include "platform/core/MainThread.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <deque>
 #include <utility>
@@ -47,10 +48,14 @@ void serveWaitingCalls()
     }
 }
 
-void performOnMainThread(std::function<void()> work, CallMode mode)
+void performOnMainThread(QObject *context, std::function<void()> work, CallMode mode)
 {
     if (mode == CallMode::DontWait) {
-        calls.push_back(std::move(work));
+        calls.push_back(
+            [isTied = context != nullptr, guard = QPointer(context), work = std::move(work)] {
+                if (guard || !isTied)
+                    work();
+            });
         return;
     }
     const bool isFromWorker = !std::exchange(isOnMainThread, true);
@@ -63,9 +68,10 @@ void performOnMainThread(std::function<void()> work, CallMode mode)
     isOnMainThread = !isFromWorker;
 }
 
-void Workers::start(std::function<void()> work)
+bool Workers::start(std::function<void()> work)
 {
     workers.push_back(std::move(work));
+    return true;
 }
 
 int Workers::live()

@@ -48,7 +48,8 @@ void CVSyncManager::detectPSP()
 {
     // A run may find its stick gone while the main thread hears of the same: one scan at a time.
     if (!isMainThread()) {
-        performOnMainThread([this] { detectPSP(); }, CallMode::Wait);
+        performOnMainThread(
+            this, [this] { detectPSP(); }, CallMode::Wait);
         return;
     }
     bool foundUnformatted = false;

@@ -83,7 +83,8 @@ public:
 
     // --- The estimate
 
-    /// Starts a computation of the selection's size; newSyncBytesEstimate() tells its end.
+    /// Starts a computation of the selection's size; newSyncBytesEstimate() tells its end, or
+    /// the last one where it can't be started.
     void refreshSyncBytesEstimate();
     /// Bytes of the current selection as last computed.
     quint64 syncBytesEstimate() const { return m_syncBytesEstimate; }
@@ -157,5 +158,6 @@ private:
 template <typename Callback>
 void CVSyncManager::tell(Callback callback)
 {
-    performOnMainThread([this, &callback] { callback(*m_delegate); }, CallMode::Wait);
+    performOnMainThread(
+        this, [this, &callback] { callback(*m_delegate); }, CallMode::Wait);
 }

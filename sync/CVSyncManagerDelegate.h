@@ -46,7 +46,8 @@ public:
     virtual bool shouldUnmountPSP() = 0;
     virtual void pspWillUnmount() = 0;
     virtual void pspUnmountFailed() = 0;
-    /// Last call of a run, exactly one: true when it completed, false when it was cancelled.
+    /// Last call of a run, exactly one: true when it completed, false when it was cancelled. For
+    /// a run that the system had no thread for, false is the only call.
     virtual void syncDidFinish(bool completed) = 0;
 
     /// An estimate finished with so many bytes.

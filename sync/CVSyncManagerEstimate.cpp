@@ -5,10 +5,15 @@
 
 void CVSyncManager::refreshSyncBytesEstimate()
 {
-    const std::scoped_lock lock(m_runMutex);
-    if (m_isClosed)
-        return;
-    Workers::start([this] { _refreshSyncBytesEstimate(); });
+    {
+        const std::scoped_lock lock(m_runMutex);
+        if (m_isClosed || Workers::start([this] { _refreshSyncBytesEstimate(); }))
+            return;
+    }
+    // Whoever waits for the new estimate has the last one to go by.
+    tell([total = syncBytesEstimate()](CVSyncManagerDelegate &delegate) {
+        delegate.newSyncBytesEstimate(total);
+    });
 }
 
 void CVSyncManager::_refreshSyncBytesEstimate()

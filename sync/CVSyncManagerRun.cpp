@@ -30,7 +30,10 @@ void CVSyncManager::sync()
             return;
         m_isSyncing = true;
     }
-    Workers::start([this] { _sync(); });
+    if (Workers::start([this] { _sync(); }))
+        return;
+    m_shouldCancelSync = true; // ends like one that was cancelled at once
+    finishRun();
 }
 
 void CVSyncManager::close()
@@ -87,7 +90,8 @@ void CVSyncManager::_sync()
 void CVSyncManager::startRun(SyncRun &run)
 {
     m_isIndeterminate = true;
-    performOnMainThread([this] { m_delegate->syncWillStart(); }, CallMode::DontWait);
+    performOnMainThread(
+        this, [this] { m_delegate->syncWillStart(); }, CallMode::DontWait);
     if (!run.pspVolumeIsPresent())
         return;
     const QString folder = StickFiles::caravelFolder(run.pspVolume());

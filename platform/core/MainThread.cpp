@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QPointer>
 #include <QSemaphore>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -154,7 +155,8 @@ void runWorker(std::function<void()> work)
     work();
     work = nullptr;
     --liveWorkers;
-    performOnMainThread([] {}, CallMode::DontWait); // wakes serveUntilFinished()
+    performOnMainThread(
+        nullptr, [] {}, CallMode::DontWait); // wakes serveUntilFinished()
 }
 
 } // namespace
@@ -171,14 +173,21 @@ bool isMainThread()
     return callQueue().isMainThread();
 }
 
-void performOnMainThread(std::function<void()> work, CallMode mode)
+void performOnMainThread(QObject *context, std::function<void()> work, CallMode mode)
 {
-    if (mode == CallMode::DontWait) {
-        callQueue().append({std::move(work), nullptr});
+    if (mode == CallMode::Wait && isMainThread()) {
+        work();
         return;
     }
-    if (isMainThread()) {
-        work();
+    // Objects of the main thread go on the main thread, where this asks.
+    if (context) {
+        work = [guard = QPointer(context), work = std::move(work)] {
+            if (guard)
+                work();
+        };
+    }
+    if (mode == CallMode::DontWait) {
+        callQueue().append({std::move(work), nullptr});
         return;
     }
     QSemaphore done;
@@ -194,14 +203,17 @@ static void leaveUnderWorkers()
         std::_Exit(EXIT_FAILURE);
 }
 
-void Workers::start(std::function<void()> work)
+bool Workers::start(std::function<void()> work)
 {
     [[maybe_unused]] static const int registered = std::atexit(leaveUnderWorkers);
     ++liveWorkers;
     try {
         std::thread(runWorker, std::move(work)).detach();
+        return true;
     } catch (const std::system_error &error) {
-        qFatal("can't start a thread: %s", error.what());
+        --liveWorkers;
+        qCWarning(lcPlatform, "Can't start a thread: %s", error.what());
+        return false;
     }
 }
 

@@ -3,6 +3,8 @@
 #include <chrono>
 #include <functional>
 
+class QObject;
+
 /// Whether a caller of performOnMainThread() goes on at once or when the work has been done.
 enum class CallMode { Wait, DontWait };
 
@@ -14,7 +16,11 @@ enum class CallMode { Wait, DontWait };
 /// call are visible to the work, and with `Wait` the work's writes are visible to the caller
 /// afterwards. Nothing on the main thread may wait for a worker. A worker that still waits when the
 /// application is gone is held until the process has ended.
-void performOnMainThread(std::function<void()> work, CallMode mode);
+///
+/// `context` is an object that lives on the main thread, and still does during this call: once it
+/// is gone, calls of its that are still queued are dropped, and those who wait for them go on.
+/// nullptr for work that touches nothing which may go before it.
+void performOnMainThread(QObject *context, std::function<void()> work, CallMode mode);
 
 /// Carries out the calls that wait right now. Main thread, from the event loop: for who serves
 /// requests of other processes, of which the loop would take any number before the next call.
@@ -27,8 +33,9 @@ bool isMainThread();
 /// once, with a failure's status and without running destructors.
 namespace Workers {
 
-/// Runs `work` on a new detached thread. Any thread.
-void start(std::function<void()> work);
+/// Runs `work` on a new detached thread. False where the system has no thread to give: the reason
+/// is in the system log, and `work` is never run. Any thread.
+[[nodiscard]] bool start(std::function<void()> work);
 
 /// How many workers have not finished yet. Any thread.
 int live();

@@ -31,7 +31,6 @@ UserDefaults::UserDefaults(const QString &domain, const QString &folder, QObject
     : QObject(parent)
     , m_folder(folder)
     , m_file(std::make_unique<const PreferencesFile>(folder, domain))
-    , m_alive(std::make_shared<const bool>(true))
 {
     synchronize();
 }
@@ -126,11 +125,8 @@ void UserDefaults::setObject(const QString &key, const QVariant &value)
     }
     if (m_notificationQueued.exchange(true))
         return;
-    const auto announceIfAlive = [this, alive = std::weak_ptr(m_alive)] {
-        if (!alive.expired())
-            announce();
-    };
-    performOnMainThread(announceIfAlive, CallMode::DontWait);
+    performOnMainThread(
+        this, [this] { announce(); }, CallMode::DontWait);
 }
 
 void UserDefaults::announce()

@@ -103,7 +103,6 @@ private:
 
     const QString m_folder;
     const std::unique_ptr<const PreferencesFile> m_file;
-    const std::shared_ptr<const bool> m_alive; // gone once this is: queued signals look first
     std::atomic<bool> m_notificationQueued = false;
     std::atomic<bool> m_isReadable = true; // as the last read found the file
 

@@ -3,6 +3,7 @@
 #include "platform/core/Log.h"
 #include "platform/core/MainThread.h"
 #include "platform/core/own/Posix.h"
+#include "platform/volumes/own/VolumeChanges.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -10,8 +11,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <cerrno>
+#include <utility>
 
 namespace {
 
@@ -32,7 +33,6 @@ QString nearestFolder(QString path)
 FolderVolumes::FolderVolumes(const QString &folder, QObject *parent)
     : Volumes(parent)
     , m_folder(QDir::cleanPath(QDir().absoluteFilePath(folder)))
-    , m_self(std::make_shared<FolderVolumes *>(this))
 {
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FolderVolumes::rescan);
     watch();
@@ -79,16 +79,13 @@ bool FolderVolumes::unmountAndEject(const QString &path)
                   qUtf8Printable(aside));
         return false;
     }
-    performOnMainThread([this, &path] { Q_EMIT willUnmount(path); }, CallMode::Wait);
+    performOnMainThread(
+        this, [this, &path] { Q_EMIT willUnmount(path); }, CallMode::Wait);
     if (!moveAside(path))
         return false;
     // Not left to the watcher, which may have run out of watches.
     performOnMainThread(
-        [self = std::weak_ptr(m_self)] {
-            if (const auto volumes = self.lock())
-                (*volumes)->rescan();
-        },
-        CallMode::DontWait);
+        this, [this] { rescan(); }, CallMode::DontWait);
     return true;
 }
 
@@ -123,16 +120,5 @@ void FolderVolumes::rescan()
 {
     watch();
     const std::vector<Volume> now = scan();
-    const std::vector<Volume> before = std::exchange(m_known, now);
-    const auto isIn = [](const std::vector<Volume> &volumes, const Volume &volume) {
-        return std::ranges::find(volumes, volume) != volumes.end();
-    };
-    for (const Volume &volume : before) {
-        if (!isIn(now, volume))
-            Q_EMIT didUnmount(volume.path);
-    }
-    for (const Volume &volume : now) {
-        if (!isIn(before, volume))
-            Q_EMIT didMount(volume.path);
-    }
+    announceChanges(*this, std::exchange(m_known, now), now);
 }

@@ -2,6 +2,8 @@
 
 #include "platform/core/Log.h"
 #include "platform/core/MainThread.h"
+#include "platform/core/own/Glib.h"
+#include "platform/volumes/own/VolumeChanges.h"
 
 #include <gio/gio.h>
 
@@ -10,49 +12,9 @@
 #include <utility>
 #include <vector>
 
+using Glib::Ref;
+
 namespace {
-
-/// Owns one reference to a GObject.
-template <typename T>
-class Ref
-{
-public:
-    static Ref taking(T *object) { return Ref(object); }
-    static Ref sharing(T *object) { return Ref(static_cast<T *>(g_object_ref(object))); }
-
-    Ref() = default;
-    Ref(const Ref &other)
-        : m_object(other.m_object)
-    {
-        if (m_object)
-            g_object_ref(m_object);
-    }
-    Ref(Ref &&other) noexcept
-        : m_object(std::exchange(other.m_object, nullptr))
-    {
-    }
-    Ref &operator=(Ref other) noexcept
-    {
-        std::swap(m_object, other.m_object);
-        return *this;
-    }
-    ~Ref()
-    {
-        if (m_object)
-            g_object_unref(m_object);
-    }
-
-    T *get() const { return m_object; }
-    bool operator==(const Ref &) const = default;
-
-private:
-    explicit Ref(T *object)
-        : m_object(object)
-    {
-    }
-
-    T *m_object = nullptr;
-};
 
 struct Mounted
 {
@@ -65,7 +27,7 @@ struct Mounted
 /// Empty where the mount has no local path, or one that is no UTF-8.
 QString localPath(GMount *mount)
 {
-    const auto root = Ref<GFile>::taking(g_mount_get_root(mount));
+    const auto root = Ref(g_mount_get_root(mount));
     char *const bytes = g_file_get_path(root.get());
     const QByteArray path(bytes);
     g_free(bytes);
@@ -77,7 +39,7 @@ std::vector<Mounted> mountsOf(GVolumeMonitor *monitor)
     std::vector<Mounted> mounts;
     GList *const list = g_volume_monitor_get_mounts(monitor);
     for (GList *entry = list; entry; entry = entry->next) {
-        const auto mount = Ref<GMount>::taking(static_cast<GMount *>(entry->data));
+        const auto mount = Ref(static_cast<GMount *>(entry->data));
         const QString path = localPath(mount.get());
         if (!path.isEmpty() && !g_mount_is_shadowed(mount.get()))
             mounts.push_back({path, mount});
@@ -85,33 +47,6 @@ std::vector<Mounted> mountsOf(GVolumeMonitor *monitor)
     g_list_free(list);
     return mounts;
 }
-
-/// Waits for GIO's asynchronous calls without serving any event loop but one of its own.
-class PrivateContext
-{
-public:
-    PrivateContext()
-        : m_context(g_main_context_new())
-    {
-        g_main_context_push_thread_default(m_context);
-    }
-    ~PrivateContext()
-    {
-        g_main_context_pop_thread_default(m_context);
-        g_main_context_unref(m_context);
-    }
-    PrivateContext(const PrivateContext &) = delete;
-    PrivateContext &operator=(const PrivateContext &) = delete;
-
-    void serveUntil(const bool &done)
-    {
-        while (!done)
-            g_main_context_iteration(m_context, TRUE);
-    }
-
-private:
-    GMainContext *const m_context;
-};
 
 /// One unmount or eject and what came of it.
 struct Ejection
@@ -140,7 +75,7 @@ struct Ejection
 Ejection ejectAndWait(GMount *mount)
 {
     Ejection ejection;
-    PrivateContext context;
+    Glib::ThreadContext context; // no other event loop is served meanwhile
     ejection.eject = g_mount_can_eject(mount) != FALSE;
     if (ejection.eject)
         g_mount_eject_with_operation(mount, G_MOUNT_UNMOUNT_NONE, nullptr, nullptr,
@@ -159,9 +94,8 @@ class GioVolumes::Private
 public:
     explicit Private(GioVolumes *owner)
         : m_owner(owner)
-        , m_monitor(Ref<GVolumeMonitor>::taking(g_volume_monitor_get()))
+        , m_monitor(g_volume_monitor_get())
         , m_mounts(mountsOf(m_monitor.get()))
-        , m_self(std::make_shared<Private *>(this))
     {
         for (const char *signal : {"mount-added", "mount-changed", "mount-removed"})
             g_signal_connect(m_monitor.get(), signal, G_CALLBACK(mountsChanged), this);
@@ -179,33 +113,16 @@ public:
         return m_mounts;
     }
 
-    /// Compares with what was there before, so that each change is told once however many signals
-    /// it came with.
     void rescan()
     {
         const std::vector<Mounted> now = mountsOf(m_monitor.get());
-        const std::vector<Mounted> before = exchangeMounts(now);
-        const auto isIn = [](const std::vector<Mounted> &mounts, const Mounted &mount) {
-            return std::ranges::find(mounts, mount) != mounts.end();
-        };
-        for (const Mounted &mount : before) {
-            if (!isIn(now, mount))
-                Q_EMIT m_owner->didUnmount(mount.path);
-        }
-        for (const Mounted &mount : now) {
-            if (!isIn(before, mount))
-                Q_EMIT m_owner->didMount(mount.path);
-        }
+        announceChanges(*m_owner, exchangeMounts(now), now);
     }
 
     void queueRescan()
     {
         performOnMainThread(
-            [self = std::weak_ptr(m_self)] {
-                if (const auto alive = self.lock())
-                    (*alive)->rescan();
-            },
-            CallMode::DontWait);
+            m_owner, [this] { rescan(); }, CallMode::DontWait);
     }
 
 private:
@@ -230,8 +147,8 @@ private:
         const QString path = localPath(mount);
         GioVolumes *const owner = static_cast<Private *>(data)->m_owner;
         if (!path.isEmpty())
-            performOnMainThread([owner, &path] { Q_EMIT owner->willUnmount(path); },
-                                CallMode::Wait);
+            performOnMainThread(
+                owner, [owner, &path] { Q_EMIT owner->willUnmount(path); }, CallMode::Wait);
     }
 
     GioVolumes *const m_owner;
@@ -239,8 +156,6 @@ private:
 
     mutable std::mutex m_mutex; // guards what follows; held for a copy only
     std::vector<Mounted> m_mounts;
-
-    const std::shared_ptr<Private *> m_self; // its weak copies tell late calls of our end
 };
 
 GioVolumes::GioVolumes(QObject *parent)

@@ -26,9 +26,11 @@ void FakeVolumes::vanish(const QString &path)
 
 void FakeVolumes::unmount(const QString &path)
 {
-    performOnMainThread([this, path] { Q_EMIT willUnmount(path); }, CallMode::Wait);
+    performOnMainThread(
+        nullptr, [this, path] { Q_EMIT willUnmount(path); }, CallMode::Wait);
     vanish(path);
-    performOnMainThread([this, path] { Q_EMIT didUnmount(path); }, CallMode::Wait);
+    performOnMainThread(
+        nullptr, [this, path] { Q_EMIT didUnmount(path); }, CallMode::Wait);
 }
 
 QStringList FakeVolumes::mountedRemovableMedia() const
@@ -96,7 +98,8 @@ bool RecordingDelegate::shouldSyncOnMount()
 bool RecordingDelegate::shouldUnmountPSP()
 {
     // Asked on the run's thread; the list belongs to the main thread.
-    performOnMainThread([this] { note(u"shouldUnmountPSP"); }, CallMode::Wait);
+    performOnMainThread(
+        nullptr, [this] { note(u"shouldUnmountPSP"); }, CallMode::Wait);
     return answerUnmount;
 }
 

@@ -62,6 +62,22 @@ bool waitFor(const std::function<bool()> &condition, std::chrono::milliseconds l
     return true;
 }
 
+NoThreads::NoThreads()
+{
+    ::pthread_getattr_default_np(&m_before);
+    pthread_attr_t none;
+    ::pthread_getattr_default_np(&none);
+    ::pthread_attr_setstacksize(&none, size_t(1) << 48);
+    ::pthread_setattr_default_np(&none);
+    ::pthread_attr_destroy(&none);
+}
+
+NoThreads::~NoThreads()
+{
+    ::pthread_setattr_default_np(&m_before);
+    ::pthread_attr_destroy(&m_before);
+}
+
 qint64 residentBytes()
 {
     ::malloc_trim(0);

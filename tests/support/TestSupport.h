@@ -7,6 +7,7 @@
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <pthread.h>
 
 /// A folder that lives as long as the object, with paths below it.
 class TemporaryFolder
@@ -30,6 +31,19 @@ QByteArray readFile(const QString &path);
 /// limit is a safety net against a hanging test, not a measure of speed.
 bool waitFor(const std::function<bool()> &condition,
              std::chrono::milliseconds limit = std::chrono::seconds(60));
+
+/// No thread can start while it lives: its stack would be larger than the address space.
+class NoThreads
+{
+public:
+    NoThreads();
+    ~NoThreads();
+    NoThreads(const NoThreads &) = delete;
+    NoThreads &operator=(const NoThreads &) = delete;
+
+private:
+    pthread_attr_t m_before;
+};
 
 /// The memory of this process that is in use and in place.
 qint64 residentBytes();

@@ -196,6 +196,21 @@ TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
     EXPECT_EQ(estimate(), QStringLiteral("newSyncBytesEstimate 0"));
 }
 
+TEST(Threads, ThatCannotStartEndARunAndAnEstimateAtOnce)
+{
+    SyncHarness harness;
+    harness.mountStick();
+    harness.delegate.events.clear();
+    {
+        const NoThreads none;
+        harness.manager.sync();
+        harness.manager.refreshSyncBytesEstimate();
+    }
+    EXPECT_THAT(harness.delegate.events, ElementsAre(QStringLiteral("syncDidFinish false"),
+                                                     QStringLiteral("newSyncBytesEstimate 0")));
+    EXPECT_TRUE(harness.run());
+}
+
 TEST(Icon, IsTheMonthsAndMarksTheVolume)
 {
     TemporaryFolder folder;

@@ -5,7 +5,6 @@
 
 #include <QFileSystemWatcher>
 
-#include <memory>
 #include <vector>
 
 /// Each folder directly inside one folder is a mounted removable volume, in byte order of names,
@@ -42,5 +41,4 @@ private:
     // Main thread.
     QFileSystemWatcher m_watcher;
     std::vector<Volume> m_known;
-    const std::shared_ptr<FolderVolumes *> m_self; // its weak copies tell late calls of our end
 };

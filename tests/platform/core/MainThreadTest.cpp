@@ -16,6 +16,11 @@ using namespace std::chrono_literals;
 
 namespace {
 
+void start(std::function<void()> work)
+{
+    ASSERT_TRUE(Workers::start(std::move(work)));
+}
+
 bool serve()
 {
     return Workers::serveUntilFinished(60s);
@@ -27,11 +32,12 @@ TEST(MainThread, RunsAWorkersCallsInOrderAndWaitsWhereAsked)
 {
     std::vector<int> order; // touched by the main thread only
     std::vector<int> seenAfterWait;
-    Workers::start([&] {
+    start([&] {
         EXPECT_FALSE(isMainThread());
         for (int i = 0; i < 200; ++i) {
             const bool waits = i % 3 == 0;
             performOnMainThread(
+                nullptr,
                 [&order, i] {
                     EXPECT_TRUE(isMainThread());
                     order.push_back(i);
@@ -53,8 +59,10 @@ TEST(MainThread, CallsFromTheMainThreadGoStraightThroughOrAreQueued)
     EXPECT_TRUE(isMainThread());
     bool waited = false;
     bool queued = false;
-    performOnMainThread([&] { queued = true; }, CallMode::DontWait);
-    performOnMainThread([&] { waited = true; }, CallMode::Wait);
+    performOnMainThread(
+        nullptr, [&] { queued = true; }, CallMode::DontWait);
+    performOnMainThread(
+        nullptr, [&] { waited = true; }, CallMode::Wait);
     EXPECT_TRUE(waited);
     EXPECT_FALSE(queued);
     EXPECT_TRUE(waitFor([&] { return queued; }));
@@ -64,17 +72,18 @@ TEST(MainThread, ANestedEventLoopServesLaterCalls)
 {
     std::atomic<bool> nestedLoopRuns = false;
     bool secondRan = false;
-    Workers::start([&] {
+    start([&] {
         nestedLoopRuns.wait(false);
-        performOnMainThread([&] { secondRan = true; }, CallMode::Wait);
+        performOnMainThread(
+            nullptr, [&] { secondRan = true; }, CallMode::Wait);
     });
-    Workers::start([&] {
+    start([&] {
         const auto serveNested = [&] {
             nestedLoopRuns = true;
             nestedLoopRuns.notify_all();
             EXPECT_TRUE(waitFor([&] { return secondRan; }));
         };
-        performOnMainThread(serveNested, CallMode::Wait);
+        performOnMainThread(nullptr, serveNested, CallMode::Wait);
     });
     EXPECT_TRUE(serve());
     EXPECT_TRUE(secondRan);
@@ -85,7 +94,7 @@ TEST(MainThread, CallsWithoutEndLeaveTimersTheirTurn)
     bool isOver = false;
     std::function<void()> callAgain = [&] {
         if (!isOver)
-            performOnMainThread(callAgain, CallMode::DontWait);
+            performOnMainThread(nullptr, callAgain, CallMode::DontWait);
     };
     callAgain();
     QTimer::singleShot(1ms, [&] { isOver = true; });
@@ -95,9 +104,10 @@ TEST(MainThread, CallsWithoutEndLeaveTimersTheirTurn)
 
 TEST(MainThread, WhatACallCapturedIsGoneWhenItsCallerGoesOn)
 {
-    Workers::start([] {
+    start([] {
         auto captured = std::make_shared<int>(1);
-        performOnMainThread([captured] {}, CallMode::Wait);
+        performOnMainThread(
+            nullptr, [captured] {}, CallMode::Wait);
         EXPECT_EQ(captured.use_count(), 1);
     });
     EXPECT_TRUE(serve());
@@ -109,9 +119,10 @@ TEST(Workers, AreCountedAndServedUntilTheyEndOrTheTimeIsOver)
     std::atomic<bool> mayEnd = false;
     std::atomic<int> ended = 0;
     for (int i = 0; i < 3; ++i) {
-        Workers::start([&] {
+        start([&] {
             mayEnd.wait(false);
-            performOnMainThread([&] { ++ended; }, CallMode::Wait);
+            performOnMainThread(
+                nullptr, [&] { ++ended; }, CallMode::Wait);
         });
     }
     EXPECT_EQ(Workers::live(), 3);

@@ -38,7 +38,8 @@ protected:
     {
         EXPECT_TRUE(waitFor([&] { return m_events.size() >= count; }));
         bool settled = false;
-        performOnMainThread([&] { settled = true; }, CallMode::DontWait);
+        performOnMainThread(
+            nullptr, [&] { settled = true; }, CallMode::DontWait);
         waitFor([&] { return settled; });
         return std::exchange(m_events, {});
     }
@@ -90,7 +91,8 @@ TEST_F(FolderVolumesTest, EjectsFromAnyThreadAnnouncedFirstAndOnce)
     EXPECT_THAT(events(2), ElementsAre("?other", "-other"));
 
     bool ejected = false;
-    Workers::start([&] { ejected = m_volumes.unmountAndEject(path(QStringLiteral("stick"))); });
+    EXPECT_TRUE(Workers::start(
+        [&] { ejected = m_volumes.unmountAndEject(path(QStringLiteral("stick"))); }));
     EXPECT_TRUE(Workers::serveUntilFinished(std::chrono::seconds(60)));
     EXPECT_TRUE(ejected);
     EXPECT_THAT(events(2), ElementsAre("?stick", "-stick"));
