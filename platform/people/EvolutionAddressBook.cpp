@@ -1,32 +1,31 @@
 #include "platform/people/own/EvolutionAddressBook.h"
 
 #include "platform/core/Log.h"
+#include "platform/core/MainThread.h"
+#include "platform/core/own/Glib.h"
 #include "platform/people/own/VCardPerson.h"
 
 #include <algorithm>
 #include <condition_variable>
-#include <functional>
 #include <iterator>
+#include <latch>
 #include <libebook/libebook.h>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <utility>
 #include <vector>
 
-namespace {
+using Glib::Ref;
 
-struct Unref
-{
-    void operator()(gpointer object) const { g_object_unref(object); }
-};
-template <typename T>
-using Ref = std::unique_ptr<T, Unref>;
+namespace {
 
 // Asks for a client at once, however far the book's own service has come.
 constexpr auto noWait = static_cast<guint32>(-1);
+
+constexpr char noService[] = "The address book service can't be reached";
+constexpr char cantRead[] = "Can't read the address book ";
 
 /// What the reading thread and the one that waits for it share.
 class Reading
@@ -85,25 +84,10 @@ private:
     bool m_isAbandoned = false;
 };
 
-/// The contexts of libebook's objects stay with the thread that made them.
-class ThreadContext
+QString nameOf(ESource *source)
 {
-public:
-    ThreadContext() { g_main_context_push_thread_default(m_context); }
-    ~ThreadContext()
-    {
-        // What the objects left to be called here frees their subscriptions to the bus's signals.
-        while (g_main_context_iteration(m_context, FALSE)) {
-        }
-        g_main_context_pop_thread_default(m_context);
-        g_main_context_unref(m_context);
-    }
-    ThreadContext(const ThreadContext &) = delete;
-    ThreadContext &operator=(const ThreadContext &) = delete;
-
-private:
-    GMainContext *const m_context = g_main_context_new();
-};
+    return QString::fromUtf8(e_source_get_display_name(source));
+}
 
 std::vector<Person> peopleIn(GSList *contacts)
 {
@@ -118,13 +102,12 @@ std::vector<Person> peopleIn(GSList *contacts)
 
 void readBook(size_t book, ESource *source, Reading &reading)
 {
-    const ThreadContext context;
-    const QString name = QString::fromUtf8(e_source_get_display_name(source));
+    const Glib::ThreadContext context; // libebook's objects stay with theirs
     GError *error = nullptr;
     const Ref<EClient> client(
         e_book_client_connect_sync(source, noWait, reading.cancellable(), &error));
     if (!client) {
-        reading.fail("Can't open the address book ", name, error);
+        reading.fail("Can't open the address book ", nameOf(source), error);
         return;
     }
     GSList *contacts = nullptr;
@@ -133,35 +116,54 @@ void readBook(size_t book, ESource *source, Reading &reading)
                                         reading.cancellable(), &error))
         reading.add(book, peopleIn(contacts));
     else
-        reading.fail("Can't read the address book ", name, error);
+        reading.fail(cantRead, nameOf(source), error);
     g_slist_free_full(contacts, g_object_unref);
+}
+
+GError *noThread()
+{
+    return g_error_new_literal(G_IO_ERROR, G_IO_ERROR_FAILED, "there is no thread for it");
+}
+
+/// Side by side, so that one whose server doesn't answer holds up none of the others.
+void readSideBySide(GList *sources, Reading &reading)
+{
+    const auto unread = std::make_shared<std::latch>(g_list_length(sources));
+    size_t book = 0;
+    for (GList *each = sources; each; each = each->next, ++book) {
+        ESource *const source = E_SOURCE(each->data);
+        const bool isRead = Workers::start([book, source, &reading, unread] {
+            readBook(book, source, reading);
+            unread->count_down();
+        });
+        if (!isRead) {
+            reading.fail(cantRead, nameOf(source), noThread());
+            unread->count_down();
+        }
+    }
+    unread->wait();
 }
 
 void readBooks(Reading &reading)
 {
-    const ThreadContext context;
+    const Glib::ThreadContext context; // libebook's objects stay with theirs
     GError *error = nullptr;
     const Ref<GDBusConnection> bus(
         g_bus_get_sync(G_BUS_TYPE_SESSION, reading.cancellable(), &error));
     if (!bus) {
-        reading.fail("The address book service can't be reached", {}, error);
+        reading.fail(noService, {}, error);
         return;
     }
     // Else a bus that goes would end this process.
     g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     const Ref<ESourceRegistry> registry(e_source_registry_new_sync(reading.cancellable(), &error));
     if (!registry) {
-        reading.fail("The address book service can't be reached", {}, error);
+        reading.fail(noService, {}, error);
         return;
     }
     GList *const sources =
         e_source_registry_list_enabled(registry.get(), E_SOURCE_EXTENSION_ADDRESS_BOOK);
-    // Side by side, so that one whose server doesn't answer holds up none of the others.
-    std::vector<std::thread> books;
-    for (GList *each = sources; each; each = each->next)
-        books.emplace_back(readBook, books.size(), E_SOURCE(each->data), std::ref(reading));
-    for (std::thread &book : books)
-        book.join();
+    readSideBySide(sources, reading);
     g_list_free_full(sources, g_object_unref);
 }
 
@@ -171,9 +173,13 @@ std::vector<Person> evolutionPeople(std::chrono::milliseconds limit)
 {
     // A thread that can be left behind: not every call of the library's can be cancelled.
     const auto reading = std::make_shared<Reading>();
-    std::thread([reading] {
+    const bool isRead = Workers::start([reading] {
         readBooks(*reading);
         reading->finish();
-    }).detach();
+    });
+    if (!isRead) {
+        reading->fail(noService, {}, noThread());
+        return {};
+    }
     return reading->wait(limit);
 }

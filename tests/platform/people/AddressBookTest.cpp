@@ -278,6 +278,10 @@ TEST_F(AddressBookService, MayBeMissing)
     EXPECT_EQ(names(AddressBook::sharedAddressBook().people()), QStringList(QStringLiteral("Bob")));
     EXPECT_TRUE(log.contains(QStringLiteral("address book service can't be reached")));
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+
+    const NoThreads none;
+    EXPECT_TRUE(evolutionPeople(30s).empty());
+    EXPECT_TRUE(log.contains(QStringLiteral("there is no thread for it")));
 }
 
 TEST_F(AddressBookService, ComesBeforeTheFiles)
