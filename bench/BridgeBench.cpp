@@ -22,7 +22,7 @@ using Call = void (*)(Work work);
 
 void callThroughBridge(Work work)
 {
-    performOnMainThread(work, CallMode::Wait);
+    performOnMainThread(nullptr, work, CallMode::Wait);
 }
 
 void callThroughQt(Work work)
@@ -34,14 +34,17 @@ void callThroughQt(Work work)
 void serveCalls(Call call, int count, std::chrono::milliseconds pause)
 {
     QEventLoop loop;
-    Workers::start([&loop, call, count, pause] {
+    const bool isStarted = Workers::start([&loop, call, count, pause] {
         for (int i = 0; i < count; ++i) {
             if (pause > 0ms)
                 std::this_thread::sleep_for(pause);
             call([] {});
         }
-        performOnMainThread([&loop] { loop.quit(); }, CallMode::DontWait);
+        performOnMainThread(
+            nullptr, [&loop] { loop.quit(); }, CallMode::DontWait);
     });
+    if (!isStarted)
+        qFatal("there is no thread to call from");
     loop.exec();
     Workers::serveUntilFinished(60s);
 }
