@@ -26,7 +26,8 @@ void QMLogger::log(const QString &message)
     const QString line = timeStamp() + QStringLiteral(" : ") + message + u'\n';
     m_log += line;
     if (m_delegate)
-        performOnMainThread(nullptr, [this, line] { m_delegate->logChanged(line); }, CallMode::Wait);
+        performOnMainThread(
+            nullptr, [this, line] { m_delegate->logChanged(line); }, CallMode::Wait);
 }
 
 void QMLogger::log(const QString &format, const QString &value)
