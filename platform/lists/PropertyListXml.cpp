@@ -1,8 +1,8 @@
 #include "platform/lists/own/PropertyListParts.h"
+#include "platform/lists/own/XmlElements.h"
 
 #include <expat.h>
 
-#include <cstring>
 #include <memory>
 #include <optional>
 #include <string>
@@ -10,112 +10,11 @@
 #include <vector>
 
 using namespace PropertyListParts;
+using XmlElements::Element;
 
 namespace {
 
 constexpr int chunkSize = 1 << 20;
-
-enum class Element {
-    Plist,
-    Dictionary,
-    Array,
-    Key,
-    String,
-    Integer,
-    Real,
-    Date,
-    Data,
-    True,
-    False,
-    Unknown,
-};
-
-/// Told apart by the first letter: a library has millions of elements.
-Element elementNamed(const char *name)
-{
-    const auto ifNamed = [name](const char *rest, Element element) {
-        return std::strcmp(name + 1, rest) == 0 ? element : Element::Unknown;
-    };
-    switch (name[0]) {
-    case 'k':
-        return ifNamed("ey", Element::Key);
-    case 's':
-        return ifNamed("tring", Element::String);
-    case 'i':
-        return ifNamed("nteger", Element::Integer);
-    case 'r':
-        return ifNamed("eal", Element::Real);
-    case 't':
-        return ifNamed("rue", Element::True);
-    case 'f':
-        return ifNamed("alse", Element::False);
-    case 'a':
-        return ifNamed("rray", Element::Array);
-    case 'p':
-        return ifNamed("list", Element::Plist);
-    case 'd':
-        if (name[1] == 'i')
-            return ifNamed("ict", Element::Dictionary);
-        return std::strcmp(name, "date") == 0 ? Element::Date : ifNamed("ata", Element::Data);
-    default:
-        return Element::Unknown;
-    }
-}
-
-bool isScalar(Element element)
-{
-    switch (element) {
-    case Element::String:
-    case Element::Integer:
-    case Element::Real:
-    case Element::Date:
-    case Element::Data:
-    case Element::True:
-    case Element::False:
-        return true;
-    case Element::Plist:
-    case Element::Dictionary:
-    case Element::Array:
-    case Element::Key:
-    case Element::Unknown:
-        break;
-    }
-    return false;
-}
-
-/// Nothing where the text is not what the scalar's element promises.
-std::optional<PropertyListScalar> scalarFrom(Element element, std::string_view text)
-{
-    switch (element) {
-    case Element::Integer:
-        return integerFrom(text);
-    case Element::Real:
-        return realFrom(text);
-    case Element::Date:
-        return dateFrom(text);
-    case Element::Data:
-        return dataFrom(text);
-    case Element::True:
-    case Element::False:
-        return trimmed(text).empty() ? std::optional<PropertyListScalar>(element == Element::True)
-                                     : std::nullopt;
-    default:
-        return text;
-    }
-}
-
-QString invalidScalarText(Element element, std::string_view text)
-{
-    if (element == Element::True || element == Element::False)
-        return QStringLiteral("text inside a boolean");
-    constexpr std::size_t shown = 40;
-    const char *kind = element == Element::Integer ? "integer"
-                       : element == Element::Real  ? "real"
-                       : element == Element::Date  ? "date"
-                                                   : "base64 data";
-    return QStringLiteral("\"%1\" is no %2")
-        .arg(QString::fromUtf8(text.substr(0, shown)), QLatin1String(kind));
-}
 
 QString tag(const char *name)
 {
@@ -266,7 +165,7 @@ void XmlReader::start(const char *name)
         return startSkipped();
     if (m_leaf)
         return fail(tag(name) + QStringLiteral(" inside a key or a scalar"));
-    const Element element = elementNamed(name);
+    const Element element = XmlElements::elementNamed(name);
     switch (m_expect) {
     case Expect::Plist:
         if (element != Element::Plist)
@@ -306,7 +205,7 @@ void XmlReader::startValue(Element element, const char *name)
 {
     if (element == Element::Dictionary || element == Element::Array)
         startContainer(element);
-    else if (isScalar(element))
+    else if (XmlElements::isScalar(element))
         startLeaf(element);
     else
         fail(tag(name) + QStringLiteral(" where a value belongs"));
@@ -354,9 +253,9 @@ void XmlReader::endLeaf()
     m_leaf.reset();
     if (element == Element::Key)
         return endKey();
-    const std::optional<PropertyListScalar> scalar = scalarFrom(element, m_text);
+    const std::optional<PropertyListScalar> scalar = XmlElements::scalarFrom(element, m_text);
     if (!scalar)
-        return fail(invalidScalarText(element, m_text));
+        return fail(XmlElements::invalidScalarText(element, m_text));
     m_handler.scalar(*scalar);
     valueIsComplete();
     // One long text must not stay in memory for the rest of the file.

@@ -65,18 +65,18 @@ QByteArray nested(int depth)
     return document(QByteArray("<array>").repeated(depth) + QByteArray("</array>").repeated(depth));
 }
 
-/// A binary list of objects given in hexadecimal, the first one its root.
-QByteArray binaryOfObjects(const QList<QByteArray> &objects)
+/// A binary list of objects given in hexadecimal with blanks between, the first one its root.
+QByteArray binary(const QByteArray &objects)
 {
     QByteArray bytes = "bplist00";
     QByteArray offsets;
-    for (const QByteArray &object : objects) {
+    for (const QByteArray &object : objects.split(' ')) {
         offsets += char(bytes.size());
         bytes += QByteArray::fromHex(object);
     }
     const char table = char(bytes.size());
     return bytes + offsets + QByteArray(6, 0) + "\x01\x01" + QByteArray(7, 0) +
-           char(objects.size()) + QByteArray(15, 0) + table;
+           char(offsets.size()) + QByteArray(15, 0) + table;
 }
 
 class PropertyListFile : public testing::Test
@@ -95,69 +95,73 @@ protected:
 
 TEST_F(PropertyListFile, XmlIsToldInFileOrder)
 {
-    const std::pair<QByteArray, std::string> cases[] = {
-        {document("<string/>"), "S: "},
-        {document("<dict/>"), "{ } "},
-        {document("<array><dict/><array/></array>"), "[ { } [ ] ] "},
-        {document("<dict><key>b</key><true/><key>a</key><false></false></dict>"),
-         "{ b=B:true a=B:false } "},
-        {document(
-             "<array><integer> -7\n</integer><integer>0x1F</integer><integer>+3</integer></array>"),
+    const std::pair<QByteArray, std::string> documents[] = {
+        {"<string/>", "S: "},
+        {"<dict/>", "{ } "},
+        {"<array><dict/><array/></array>", "[ { } [ ] ] "},
+        {"<dict><key>b</key><true/><key>a</key><false></false></dict>", "{ b=B:true a=B:false } "},
+        {"<array><integer> -7\n</integer><integer>0x1F</integer><integer>+3</integer></array>",
          "[ I:-7 I:31 I:3 ] "},
-        {document("<integer>-0x8000000000000000</integer>"), "I:-9223372036854775808 "},
-        {document("<integer>9223372036854775807</integer>"), "I:9223372036854775807 "},
-        {document("<integer>9223372036854775808</integer>"), "U:9223372036854775808 "},
-        {document("<integer>18446744073709551615</integer>"), "U:18446744073709551615 "},
-        {document("<array><real>1.5e3</real><real>+infinity</real><real> nan </real></array>"),
+        {"<integer>-0x8000000000000000</integer>", "I:-9223372036854775808 "},
+        {"<integer>9223372036854775807</integer>", "I:9223372036854775807 "},
+        {"<integer>9223372036854775808</integer>", "U:9223372036854775808 "},
+        {"<integer>18446744073709551615</integer>", "U:18446744073709551615 "},
+        {"<array><real>1.5e3</real><real>+infinity</real><real> nan </real></array>",
          "[ R:1500 R:inf R:nan ] "},
-        {document("<date>2004-02-29T23:59:59Z</date>"), "T:2004-02-29T23:59:59Z "},
-        {document("<date>1-01-01T00:00:00Z</date>"), "T:0001-01-01T00:00:00Z "},
-        {document("<data>\n\tAAEC\n\t</data>"), "D:000102 "},
-        {document("<string>a&amp;b&#x20AC;<![CDATA[<x>]]> c\r\nd</string>"),
-         "S:a&b\u20AC<x> c\nd "},
+        {"<date>2004-02-29T23:59:59Z</date>", "T:2004-02-29T23:59:59Z "},
+        {"<date>1-01-01T00:00:00Z</date>", "T:0001-01-01T00:00:00Z "},
+        {"<data>\n\tAAEC\n\t</data>", "D:000102 "},
+        {"<string>a&amp;b&#x20AC;<![CDATA[<x>]]> c\r\nd</string>", "S:a&b\u20AC<x> c\nd "},
+        {"<string>" + QByteArray(3 << 20, 'x') + "</string>",
+         "S:" + std::string(3 << 20, 'x') + " "},
+    };
+    for (const auto &[contents, expected] : documents)
+        EXPECT_EQ(told(document(contents)), expected) << contents.left(400).constData();
+    const std::pair<QByteArray, std::string> files[] = {
         {"\xEF\xBB\xBF<plist><key/></plist>", "line 1: <key> where a value belongs"},
         {"<plist><string>x</string></plist>", "S:x "},
         {"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><plist><string>\xE9</string></plist>",
          "S:\u00E9 "},
-        {document("<string>" + QByteArray(3 << 20, 'x') + "</string>"),
-         "S:" + std::string(3 << 20, 'x') + " "},
     };
-    for (const auto &[contents, expected] : cases)
+    for (const auto &[contents, expected] : files)
         EXPECT_EQ(told(contents), expected) << contents.left(400).constData();
     EXPECT_EQ(told(nested(512)).size(), 512U * 4);
 }
 
 TEST_F(PropertyListFile, BrokenListsAreRefusedWithTheirLine)
 {
-    const std::pair<QByteArray, std::string> cases[] = {
+    const std::pair<QByteArray, std::string> documents[] = {
+        {"<dict>\n<key>a</key>\n</dict>", "line 6: a <key> without a value"},
+        {"<dict>\n<string/></dict>", "line 5: <string> where a <key> belongs"},
+        {"<dict><key>a</key><key>b</key></dict>", "line 4: <key> where a value belongs"},
+        {"\n<array><key>a</key></array>", "line 5: <key> where a value belongs"},
+        {"<set/>", "line 4: <set> where a value belongs"},
+        {"<array><dictionary/></array>", "line 4: <dictionary> where a value belongs"},
+        {"<string><true/></string>", "line 4: <true> inside a key or a scalar"},
+        {"<dict><key>a<b/></key></dict>", "line 4: <b> inside a key or a scalar"},
+        {"<true>x</true>", "line 4: text inside a boolean"},
+        {"<true/>\n<true/>", "line 5: <true> after the list's one value"},
+        {"<dict></array>", "line 4: mismatched tag"},
+        {"<string>a\x01</string>", "line 4: not well-formed (invalid token)"},
+        {"<string>&nbsp;</string>", "line 4: unknown entity \"nbsp\""},
+        {"<integer>12a</integer>", "line 4: \"12a\" is no integer"},
+        {"<integer></integer>", "line 4: \"\" is no integer"},
+        {"<integer>18446744073709551616</integer>",
+         "line 4: \"18446744073709551616\" is no integer"},
+        {"<integer>-9223372036854775809</integer>",
+         "line 4: \"-9223372036854775809\" is no integer"},
+        {"<real>one</real>", "line 4: \"one\" is no real"},
+        {"<date>2005-02-29T00:00:00Z</date>", "line 4: \"2005-02-29T00:00:00Z\" is no date"},
+        {"<date>yesterday</date>", "line 4: \"yesterday\" is no date"},
+        {"<data>&lt;&gt;</data>", "line 4: \"<>\" is no base64 data"},
+    };
+    for (const auto &[contents, expected] : documents)
+        EXPECT_EQ(told(document(contents)), expected) << contents.left(400).constData();
+    const std::pair<QByteArray, std::string> files[] = {
         {"", "the file is empty"},
         {"{ a = b; }", "line 1: not well-formed (invalid token)"},
         {"<html/>", "line 1: <html> where <plist> belongs"},
         {"<plist/>", "line 1: <plist> holds no value"},
-        {document("<dict>\n<key>a</key>\n</dict>"), "line 6: a <key> without a value"},
-        {document("<dict>\n<string/></dict>"), "line 5: <string> where a <key> belongs"},
-        {document("<dict><key>a</key><key>b</key></dict>"), "line 4: <key> where a value belongs"},
-        {document("\n<array><key>a</key></array>"), "line 5: <key> where a value belongs"},
-        {document("<set/>"), "line 4: <set> where a value belongs"},
-        {document("<array><dictionary/></array>"), "line 4: <dictionary> where a value belongs"},
-        {document("<string><true/></string>"), "line 4: <true> inside a key or a scalar"},
-        {document("<dict><key>a<b/></key></dict>"), "line 4: <b> inside a key or a scalar"},
-        {document("<true>x</true>"), "line 4: text inside a boolean"},
-        {document("<true/>\n<true/>"), "line 5: <true> after the list's one value"},
-        {document("<dict></array>"), "line 4: mismatched tag"},
-        {document("<string>a\x01</string>"), "line 4: not well-formed (invalid token)"},
-        {document("<string>&nbsp;</string>"), "line 4: unknown entity \"nbsp\""},
-        {document("<integer>12a</integer>"), "line 4: \"12a\" is no integer"},
-        {document("<integer></integer>"), "line 4: \"\" is no integer"},
-        {document("<integer>18446744073709551616</integer>"),
-         "line 4: \"18446744073709551616\" is no integer"},
-        {document("<integer>-9223372036854775809</integer>"),
-         "line 4: \"-9223372036854775809\" is no integer"},
-        {document("<real>one</real>"), "line 4: \"one\" is no real"},
-        {document("<date>2005-02-29T00:00:00Z</date>"),
-         "line 4: \"2005-02-29T00:00:00Z\" is no date"},
-        {document("<date>yesterday</date>"), "line 4: \"yesterday\" is no date"},
-        {document("<data>&lt;&gt;</data>"), "line 4: \"<>\" is no base64 data"},
         {document("<string>x</string>").chopped(12), "line 4: unclosed token"},
         {document("<array>").chopped(9), "line 4: no element found"},
         {document("<true/>") + "<plist/>", "line 5: junk after document element"},
@@ -167,7 +171,7 @@ TEST_F(PropertyListFile, BrokenListsAreRefusedWithTheirLine)
         {"<!DOCTYPE p [<!ENTITY % a SYSTEM \"file:///etc/passwd\">]><plist><true/></plist>",
          "line 1: entity declarations are refused: \"a\""},
     };
-    for (const auto &[contents, expected] : cases)
+    for (const auto &[contents, expected] : files)
         EXPECT_EQ(told(contents), expected) << contents.left(400).constData();
 }
 
@@ -189,65 +193,60 @@ TEST_F(PropertyListFile, ARefusedKeysValueIsNotToldButMustBeAValue)
         EXPECT_EQ(told(document("<dict>" + contents + "</dict>"), refusing), expected)
             << contents.constData();
     }
-    const QByteArray binary = binaryOfObjects({"d201020203", "5161", "526e6f", "d201020403", "09"});
-    EXPECT_EQ(told(binary, refusing), "{ a=S:no } ");
+    EXPECT_EQ(told(binary("d201020203 5161 526e6f"), refusing), "{ a=S:no } ");
 }
 
-TEST_F(PropertyListFile, BinaryListsAreToldAsXmlIsOrRefused)
+TEST_F(PropertyListFile, BinaryListsAreToldAsXmlIs)
 {
-    const QByteArray trailer = QByteArray(32, 0);
-    const std::string unknownKind = "binary list: a value of an unknown kind";
-    const std::string nowhere = "binary list: object 0 lies outside the file";
-    const std::string tooDeep = "binary list: nested deeper than 512";
-    const std::string tooOld = "binary list: a date outside the years 1 to 9999";
-    const std::pair<QByteArray, std::string> cases[] = {
-        {binaryOfObjects({"a20102", "09", "08"}), "[ B:true B:false ] "},
-        {binaryOfObjects({"c101", "a0"}), "[ [ ] ] "}, // a set
-        {binaryOfObjects({"d201020303", "5162", "5161", "d0"}), "{ b={ } a={ } } "},
-        {binaryOfObjects({"d10102", "526100", "09"}), std::string("{ a\0=B:true } ", 14)},
-        {binaryOfObjects({"10ff"}), "I:255 "},
-        {binaryOfObjects({"11fffe"}), "I:65534 "},
-        {binaryOfObjects({"12ffffffff"}), "I:4294967295 "},
-        {binaryOfObjects({"13ffffffffffffffff"}), "I:-1 "},
-        {binaryOfObjects({"140000000000000000ffffffffffffffff"}), "U:18446744073709551615 "},
-        {binaryOfObjects({"14fffffffffffffffffffffffffffffffe"}), "I:-2 "},
-        {binaryOfObjects({"1400000000000000010000000000000000"}),
-         "binary list: an integer of over 64 bits"},
-        {binaryOfObjects({"223fc00000"}), "R:1.5 "},
-        {binaryOfObjects({"23bff8000000000000"}), "R:-1.5 "},
-        {binaryOfObjects({"33c1cd27e440000000"}), "T:1970-01-01T00:00:00Z "},
-        {binaryOfObjects({"33bff8000000000000"}), "T:2000-12-31T23:59:59Z "},
-        {binaryOfObjects({"33c22d63c37f000000"}), "T:0001-01-01T00:00:00Z "},
-        {binaryOfObjects({"33c22d63c37f020000"}), tooOld},
-        {binaryOfObjects({"334e00000000000000"}), tooOld},
-        {binaryOfObjects({"337ff8000000000000"}), tooOld},
-        {binaryOfObjects({"4300ff01"}), "D:00ff01 "},
-        {binaryOfObjects({"4f1003000102"}), "D:000102 "}, // the count behind
-        {binaryOfObjects({"5f11000361006263"}), std::string("S:a\0b ", 6)},
-        {binaryOfObjects({"6300e920acd834"}), "S:\u00E9\u20AC? "},
-        {binaryOfObjects({"62d834dd1e"}), "S:\U0001D11E "},
-        {binaryOfObjects({"800b"}), "{ CF$UID=I:11 } "},
-        {binaryOfObjects({"00"}), unknownKind},
-        {binaryOfObjects({"150000000000000000000000000000000000000000000000000000000000000000"}),
-         unknownKind},
-        {binaryOfObjects({"210000"}), unknownKind},
-        {binaryOfObjects({"3200000000"}), unknownKind},
-        {binaryOfObjects({"71e9"}), unknownKind},
-        {binaryOfObjects({"8800112233445566778899"}), unknownKind},
-        {binaryOfObjects({"d10101", "09"}), "binary list: a key that is no text"},
-        {binaryOfObjects({"a100"}), tooDeep},
-        {binaryOfObjects({"a101", "a100"}), tooDeep},
-        {binaryOfObjects({"a107"}), "binary list: object 7 lies outside the file"},
-        {binaryOfObjects({"af13ffffffffffffffff"}), nowhere},
-        {binaryOfObjects({"5f13ffffffffffffffff"}), nowhere},
-        {binaryOfObjects({"df137fffffffffffffff"}), nowhere},
-        {binaryOfObjects({"5f2001"}), nowhere},
-        {"bplist00", "binary list: damaged trailer"},
-        {"bplist00" + trailer, "binary list: damaged trailer"},
-        {binaryOfObjects({"a101", "09"}).chopped(1), "binary list: damaged trailer"},
+    const std::pair<const char *, std::string> cases[] = {
+        {"a20102 09 08", "[ B:true B:false ] "},
+        {"c101 a0", "[ [ ] ] "}, // a set
+        {"d201020303 5162 5161 d0", "{ b={ } a={ } } "},
+        {"d10102 526100 09", std::string("{ a\0=B:true } ", 14)},
+        {"10ff", "I:255 "},
+        {"11fffe", "I:65534 "},
+        {"12ffffffff", "I:4294967295 "},
+        {"13ffffffffffffffff", "I:-1 "},
+        {"140000000000000000ffffffffffffffff", "U:18446744073709551615 "},
+        {"14fffffffffffffffffffffffffffffffe", "I:-2 "},
+        {"223fc00000", "R:1.5 "},
+        {"23bff8000000000000", "R:-1.5 "},
+        {"33c1cd27e440000000", "T:1970-01-01T00:00:00Z "},
+        {"33bff8000000000000", "T:2000-12-31T23:59:59Z "},
+        {"33c22d63c37f000000", "T:0001-01-01T00:00:00Z "},
+        {"4300ff01", "D:00ff01 "},
+        {"4f1003000102", "D:000102 "}, // the count behind
+        {"5f11000361006263", std::string("S:a\0b ", 6)},
+        {"6300e920acd834", "S:\u00E9\u20AC? "},
+        {"62d834dd1e", "S:\U0001D11E "},
+        {"800b", "{ CF$UID=I:11 } "},
     };
-    for (const auto &[contents, expected] : cases)
-        EXPECT_EQ(told(contents), expected) << contents.toHex().constData();
+    for (const auto &[objects, expected] : cases)
+        EXPECT_EQ(told(binary(objects)), expected) << objects;
+}
+
+TEST_F(PropertyListFile, BrokenBinaryListsAreRefused)
+{
+    const std::pair<QList<QByteArray>, std::string> cases[] = {
+        {{"00", "15" + QByteArray(64, '0'), "210000", "3200000000", "71e9",
+          "88" + QByteArray(18, '0')},
+         "a value of an unknown kind"},
+        {{"1400000000000000010000000000000000"}, "an integer of over 64 bits"},
+        {{"33c22d63c37f020000", "334e00000000000000", "337ff8000000000000"},
+         "a date outside the years 1 to 9999"},
+        {{"d10101 09"}, "a key that is no text"},
+        {{"a100", "a101 a100"}, "nested deeper than 512"},
+        {{"a107"}, "object 7 lies outside the file"},
+        {{"af13ffffffffffffffff", "5f13ffffffffffffffff", "df137fffffffffffffff", "5f2001"},
+         "object 0 lies outside the file"},
+    };
+    for (const auto &[lists, expected] : cases) {
+        for (const QByteArray &objects : lists)
+            EXPECT_EQ(told(binary(objects)), "binary list: " + expected) << objects.constData();
+    }
+    for (const QByteArray &file :
+         {QByteArray("bplist00"), "bplist00" + QByteArray(32, 0), binary("a101 09").chopped(1)})
+        EXPECT_EQ(told(file), "binary list: damaged trailer") << file.toHex().constData();
 }
 
 TEST_F(PropertyListFile, WhatIsNoFileOrTooLong)
@@ -268,11 +267,10 @@ TEST_F(PropertyListFile, WhatIsNoFileOrTooLong)
     EXPECT_EQ(PropertyList::logText(errorOf(longer)),
               longer + QStringLiteral(": the file is longer than 100 bytes"));
     EXPECT_EQ(recorder.told, "");
-    QList<QByteArray> bomb;
+    QByteArray bomb;
     for (int level = 1; level <= 9; ++level)
-        bomb += "ae" + QByteArray::number(0x100 + level, 16).right(2).repeated(14);
-    bomb += "09";
-    writeFile(longer, binaryOfObjects(bomb));
+        bomb += "ae" + QByteArray::number(0x100 + level, 16).right(2).repeated(14) + ' ';
+    writeFile(longer, binary(bomb + "09"));
     EXPECT_EQ(readPropertyList(longer, 1000, recorder).error().text,
               QStringLiteral("binary list: unfolds to more than 1048576 bytes"));
 }
@@ -303,12 +301,16 @@ TEST_F(PropertyListFile, EveryTypeComesBackFromXml)
     ASSERT_TRUE(PropertyList::writeAtomically(everyType(), path));
     const auto read = PropertyList::readDictionary(path);
     ASSERT_TRUE(read) << qPrintable(read.error().text);
-    const QVariantMap expected = everyType();
-    for (auto entry = expected.begin(); entry != expected.end(); ++entry) {
-        const QVariant found = read->value(entry.key());
-        EXPECT_EQ(found.typeId(), entry->typeId()) << qPrintable(entry.key());
-        EXPECT_EQ(found, *entry) << qPrintable(entry.key());
-    }
+    EXPECT_EQ(*read, everyType());
+    const auto typesIn = [](const QVariantMap &values) { // a number may equal a boolean
+        QList<int> types;
+        for (const QVariant &value : values) {
+            for (const QVariant &each : value.toList())
+                types.append(each.typeId());
+        }
+        return types;
+    };
+    EXPECT_EQ(typesIn(*read), typesIn(everyType()));
     EXPECT_EQ(PropertyList::toXml(*read), readFile(path));
 }
 

@@ -83,17 +83,14 @@ TEST_F(UserDefaultsFile, ConversionsAreThePlatforms)
         {-1e30, true, lowest, 0, u"-1e+30"},
         {std::nan(""), true, 0, 0, u"nan"},
         {QStringLiteral("YES"), true, 0, 0, u"YES"},
-        {QStringLiteral("y"), true, 0, 0, u"y"},
         {QStringLiteral("true"), true, 0, 0, u"true"},
         {QStringLiteral("1"), true, 1, 1, u"1"},
         {QStringLiteral("NO"), false, 0, 0, u"NO"},
-        {QStringLiteral("false"), false, 0, 0, u"false"},
         {QStringLiteral("00"), false, 0, 0, u"00"},
         {QStringLiteral(""), false, 0, 0, u""},
         {QStringLiteral("-"), false, 0, 0, u"-"},
         {QStringLiteral(" \t12abc"), true, 12, 12, u" \t12abc"},
         {QStringLiteral("-12"), true, -12, 0, u"-12"},
-        {QStringLiteral("490943283"), true, 490943283, 490943283, u"490943283"},
         {QStringLiteral("99999999999999999999999"), true, highest, highestUnsigned,
          u"99999999999999999999999"},
         {QStringLiteral("-99999999999999999999999"), true, lowest, 0, u"-99999999999999999999999"},
@@ -179,14 +176,11 @@ TEST_F(UserDefaultsFile, AFileThatIsReplacedIsReadAgainAndAnUnchangedOneIsNotWri
     writeList({{key, 2}}); // as long as before, and written at once
     EXPECT_TRUE(store.synchronize());
     EXPECT_EQ(store.integerForKey(key), 2);
-    const auto number = [this] {
-        return QFileInfo(path).lastModified();
-    };
-    const QDateTime written = number();
+    const auto written = files().stamp(path);
     store.setObject(key, 3);
     store.setObject(key, 2);
     EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(number(), written);
+    EXPECT_EQ(files().stamp(path), written);
     store.setObject(key, true); // equal to a number only in name
     store.setObject(key, 1);
     store.setObject(key, true);
@@ -230,9 +224,7 @@ public:
 
 TEST_F(UserDefaultsFile, WhatStandsInTheWayIsSaidOnceAndChangesWaitForBetterTimes)
 {
-    const QString inside = path + QStringLiteral("/inside");
     const QString library = home / QStringLiteral("Library");
-    const QString lockPath = folder + QStringLiteral("/.org.example.Test.lock");
     std::optional<FileLock> anothers;
     const struct
     {
@@ -241,10 +233,9 @@ TEST_F(UserDefaultsFile, WhatStandsInTheWayIsSaidOnceAndChangesWaitForBetterTime
         std::function<void()> comes;
         std::function<void()> goes;
     } obstacles[] = {
-        {"are left alone: Is a directory", false, [&] { QDir().mkpath(inside); },
+        {"are left alone: Is a directory", false, [&] { QDir().mkpath(path); },
          [&] {
-             EXPECT_TRUE(QFileInfo(inside).isDir());
-             QDir(path).removeRecursively();
+             EXPECT_TRUE(QDir().rmdir(path));
          }},
         {"can't create the folder", true, [&] { writeFile(library, "a file"); },
          [&] {
@@ -253,7 +244,8 @@ TEST_F(UserDefaultsFile, WhatStandsInTheWayIsSaidOnceAndChangesWaitForBetterTime
         {"can't lock it", true,
          [&] {
              QDir().mkpath(folder);
-             anothers.emplace(*files().lock(lockPath, std::chrono::milliseconds(0)));
+             anothers.emplace(
+                 *files().lock(folder + QStringLiteral("/.org.example.Test.lock"), {}));
          },
          [&] {
              anothers.reset();
@@ -274,10 +266,8 @@ TEST_F(UserDefaultsFile, WhatStandsInTheWayIsSaidOnceAndChangesWaitForBetterTime
         EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join(u'\n'));
         EXPECT_TRUE(log.contains(QLatin1String(said))) << qPrintable(log.lines().join(u'\n'));
         EXPECT_FALSE(store.editPersistentDomain(domain, set({{other, 1}}))) << said;
-        EXPECT_EQ(store.integerForKey(key), 1) << said;
         goes();
-        EXPECT_TRUE(store.synchronize()) << said;
-        EXPECT_TRUE(store.isReadable()) << said;
+        EXPECT_TRUE(store.synchronize() && store.isReadable()) << said;
         EXPECT_EQ(fileContents(), (QVariantMap{{key, 1LL}})) << said;
     }
 }

@@ -1,13 +1,12 @@
-#include "platform/lists/own/PropertyListParts.h"
+#include "platform/lists/own/XmlElements.h"
 
 #include <QDate>
 #include <QTime>
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 #include <limits>
-
-using PropertyListParts::trimmed;
 
 namespace {
 
@@ -33,10 +32,6 @@ bool hasDateShape(std::string_view text)
     };
     return std::ranges::equal(shape.substr(longestYear - yearLength), text, fits);
 }
-
-} // namespace
-
-namespace PropertyListParts {
 
 std::string_view trimmed(std::string_view text)
 {
@@ -103,4 +98,94 @@ std::optional<PropertyListScalar> dataFrom(std::string_view text)
         QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
 }
 
-} // namespace PropertyListParts
+} // namespace
+
+namespace XmlElements {
+
+/// Told apart by the first letter: a library has millions of elements.
+Element elementNamed(const char *name)
+{
+    const auto ifNamed = [name](const char *rest, Element element) {
+        return std::strcmp(name + 1, rest) == 0 ? element : Element::Unknown;
+    };
+    switch (name[0]) {
+    case 'k':
+        return ifNamed("ey", Element::Key);
+    case 's':
+        return ifNamed("tring", Element::String);
+    case 'i':
+        return ifNamed("nteger", Element::Integer);
+    case 'r':
+        return ifNamed("eal", Element::Real);
+    case 't':
+        return ifNamed("rue", Element::True);
+    case 'f':
+        return ifNamed("alse", Element::False);
+    case 'a':
+        return ifNamed("rray", Element::Array);
+    case 'p':
+        return ifNamed("list", Element::Plist);
+    case 'd':
+        if (name[1] == 'i')
+            return ifNamed("ict", Element::Dictionary);
+        return std::strcmp(name, "date") == 0 ? Element::Date : ifNamed("ata", Element::Data);
+    default:
+        return Element::Unknown;
+    }
+}
+
+bool isScalar(Element element)
+{
+    switch (element) {
+    case Element::String:
+    case Element::Integer:
+    case Element::Real:
+    case Element::Date:
+    case Element::Data:
+    case Element::True:
+    case Element::False:
+        return true;
+    case Element::Plist:
+    case Element::Dictionary:
+    case Element::Array:
+    case Element::Key:
+    case Element::Unknown:
+        break;
+    }
+    return false;
+}
+
+std::optional<PropertyListScalar> scalarFrom(Element element, std::string_view text)
+{
+    switch (element) {
+    case Element::Integer:
+        return integerFrom(text);
+    case Element::Real:
+        return realFrom(text);
+    case Element::Date:
+        return dateFrom(text);
+    case Element::Data:
+        return dataFrom(text);
+    case Element::True:
+    case Element::False:
+        return trimmed(text).empty() ? std::optional<PropertyListScalar>(element == Element::True)
+                                     : std::nullopt;
+    default:
+        return text;
+    }
+}
+
+QString invalidScalarText(Element element, std::string_view text)
+{
+    if (element == Element::True || element == Element::False)
+        return QStringLiteral("text inside a boolean");
+    constexpr std::size_t shown = 40;
+    const char *kind = element == Element::Integer ? "integer"
+                       : element == Element::Real  ? "real"
+                       : element == Element::Date  ? "date"
+                                                   : "base64 data";
+    return QStringLiteral("\"%1\" is no %2")
+        .arg(QString::fromUtf8(text.substr(0, shown)), QLatin1String(kind));
+}
+
+} // namespace XmlElements
