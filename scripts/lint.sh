@@ -5,14 +5,17 @@ set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: lint.sh [--format | --scripts | --translations | --desktop | --tidy [FILE...]]
-Without an option all of them, one after the other.
+Usage: lint.sh [--format | --scripts | --translations | --desktop | --tidy [FILE...] |
+                --shares PER-CENT]
+Without an option all of them but the last, one after the other.
 
   --format         clang-format's check of every C++ file
   --scripts        the shell scripts' and Python scripts' syntax, and shellcheck where it is installed
   --translations   the catalogues: each has every text that the sources look up, and no other
   --desktop        the desktop entry, the metadata for software catalogues, and the man pages
   --tidy           clang-tidy, over the given sources or all of them (minutes)
+  --shares         the lines of each room and of its tests; fails where all tests, fuzzers and the lab
+                   are more than so many per cent of the product
 EOF
 }
 
@@ -112,6 +115,34 @@ check_tidy() {
         )
 }
 
+# Lines that are neither blank nor a comment (nor an include).
+counted() {
+    sources "$@" 2>/dev/null | tr '\n' '\0' | xargs -0 -r cat |
+        grep -cvE '^[[:space:]]*(//.*|#.*|\*.*|/\*.*)?$' || true
+}
+
+check_shares() {
+    local limit=$1 room code tests product=0 checks=0
+    if [[ ! $limit =~ ^[0-9]+$ ]]; then
+        usage >&2
+        return 2
+    fi
+    printf '%-12s %8s %8s\n' room product tests
+    for room in app cli frontend protocol modules sync platform util window; do
+        code=$(counted "$room/*."{cpp,h})
+        tests=$(counted "tests/$room/*."{cpp,h,py,sh})
+        printf '%-12s %8d %8d\n' "$room" "$code" "$tests"
+        product=$((product + code))
+    done
+    for room in tests/{programs,faults,support} fuzz lab; do
+        printf '%-12s %8s %8d\n' "${room#*/}" '' "$(counted "$room/*."{cpp,h,py,sh})"
+    done
+    checks=$(counted {tests,fuzz,lab}/'*.'{cpp,h,py,sh})
+    printf '%-12s %8d %8d  %d%% (at most %d%%)\n' all "$product" "$checks" \
+        $((100 * checks / product)) "$limit"
+    ((100 * checks <= limit * product))
+}
+
 what=${1:-all}
 if (($#)); then
     shift
@@ -123,6 +154,7 @@ case $what in
 --translations) resources/tools/check_translations.py ;;
 --desktop) scripts/install-dependencies.sh --lint; check_desktop ;;
 --tidy) scripts/install-dependencies.sh --lint; check_tidy "$@" ;;
+--shares) check_shares "${1-}" ;;
 all)
     scripts/install-dependencies.sh --lint
     check_format
