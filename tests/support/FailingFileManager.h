@@ -14,10 +14,14 @@ class FailingFileManager : public FileManager
 public:
     std::optional<quint64> freeBytes;    ///< what volumes say is free
     std::optional<qint64> writableBytes; ///< so many more, then ENOSPC
+    std::optional<int> readableTimes;    ///< so often, then EIO
+    size_t largestWrite = SIZE_MAX;      ///< longer ones are cut short
     std::function<void()> onFull;        ///< at the first write that finds no room
     QString readOnlyBelow;               ///< nothing below can be made or removed
     mutable std::atomic<int> statusCalls = 0;
     mutable std::atomic<int> listings = 0;
+    int closed = 0; ///< the flushed ones too
+    int flushed = 0;
 
     FileStatus status(const QString &path) const override
     {
@@ -45,6 +49,14 @@ public:
         return isReadOnly(path) ? -1 : FileManager::createForWriting(path, existing);
     }
     qint64 transfer(int, int, size_t) override { return -1; }
+    qint64 read(int descriptor, void *buffer, size_t count) override
+    {
+        if (readableTimes && (*readableTimes)-- == 0) {
+            errno = EIO;
+            return -1;
+        }
+        return FileManager::read(descriptor, buffer, count);
+    }
     qint64 write(int descriptor, const void *buffer, size_t count) override
     {
         if (writableBytes) {
@@ -57,7 +69,17 @@ public:
             count = std::min(count, static_cast<size_t>(*writableBytes));
             *writableBytes -= static_cast<qint64>(count);
         }
-        return FileManager::write(descriptor, buffer, count);
+        return FileManager::write(descriptor, buffer, std::min(count, largestWrite));
+    }
+    bool close(int descriptor) override
+    {
+        ++closed;
+        return FileManager::close(descriptor);
+    }
+    bool closeAndFlush(int descriptor) override
+    {
+        ++flushed;
+        return FileManager::closeAndFlush(descriptor); // which closes by close()
     }
     bool remove(const QString &path, FileOperationHandler *handler) override
     {

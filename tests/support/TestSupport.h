@@ -17,6 +17,7 @@ public:
     explicit TemporaryFolder(QString given = {});
     QString path() const { return m_folder ? m_folder->path() : m_given; }
     QString operator/(const QString &relative) const { return path() + u'/' + relative; }
+    QString operator/(const char *relative) const { return *this / QString::fromUtf8(relative); }
 
 private:
     const QString m_given;

@@ -5,16 +5,13 @@
 
 #include <gmock/gmock.h>
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QDBusVirtualObject>
 #include <QThread>
 
-#include <future>
 #include <mutex>
 
 using namespace std::chrono_literals;
@@ -25,41 +22,37 @@ namespace {
 
 const QString path = QStringLiteral("/Served");
 const QString interfaceName = QStringLiteral("org.caravel.Test");
-const QString connectionName = QStringLiteral("Bus Test 1");
+const QString connectionName = QStringLiteral("Bus Test-\u00e9_1");
 
-// Another process as the bus sees it: a connection of its own, and an object that records the calls
-// that reach it and answers them with their own arguments. It may be moved to a thread.
+/// Another process as the bus sees it: a connection of its own, and an object that records the
+/// calls that reach it and answers them with their own arguments. It may be moved to a thread.
 class Peer : public QDBusVirtualObject
 {
 public:
-    explicit Peer(const QString &name)
-        : m_name(name)
-        , bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, name))
-    {
-        bus.registerVirtualObject(path, this);
-    }
+    Peer() { bus.registerVirtualObject(path, this); }
     ~Peer() override { leave(); }
 
     // The connection closes when nobody holds it any more.
     void leave()
     {
         bus = QDBusConnection(QString());
-        QDBusConnection::disconnectFromBus(m_name);
+        QDBusConnection::disconnectFromBus(QStringLiteral("peer"));
     }
 
-    QDBusMessage request(const QString &member, const QVariantList &arguments = {},
-                         const QString &interface = interfaceName) const
+    QDBusPendingCall call(const QString &member, const QVariantList &arguments = {},
+                          const QString &interface = interfaceName) const
     {
-        QDBusMessage call = QDBusMessage::createMethodCall(NamedConnection::busName(connectionName),
-                                                           path, interface, member);
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            QDBusConnection::sessionBus().baseService(), path, interface, member);
         call.setArguments(arguments);
-        return call;
+        return bus.asyncCall(call);
     }
 
-    // The answer to a call on the served object, which this thread serves meanwhile.
-    QDBusMessage ask(const QDBusMessage &call)
+    /// The answer to a call on the served object, which this thread serves meanwhile.
+    QDBusMessage ask(const QString &member, const QVariantList &arguments = {},
+                     const QString &interface = interfaceName) const
     {
-        const QDBusPendingCall pending = bus.asyncCall(call);
+        const QDBusPendingCall pending = call(member, arguments, interface);
         EXPECT_TRUE(waitFor([&] { return pending.isFinished(); }));
         return pending.reply();
     }
@@ -83,15 +76,13 @@ public:
         return m_received;
     }
 
-    std::function<void()> meanwhile; // runs while a call is served
+    std::function<void()> meanwhile; ///< runs while a call is served
+    QDBusConnection bus =
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("peer"));
 
 private:
-    const QString m_name;
     mutable std::mutex m_mutex;
     QStringList m_received;
-
-public:
-    QDBusConnection bus;
 };
 
 class BusTest : public testing::Test
@@ -101,17 +92,17 @@ protected:
     {
         if (!NamedConnection::busAvailable())
             GTEST_SKIP() << "no bus daemon can be started";
-        peer.emplace(QStringLiteral("peer"));
+        peer.emplace();
     }
 
     void TearDown() override { NamedConnection::flush(); }
 
-    RemoteMethod method(const QString &name, const QStringList &in, const QString &out,
-                        const QVariant &answer = {}, bool oneway = false)
+    RemoteMethod method(const QString &name, const QStringList &in = {}, const QString &out = {},
+                        bool oneway = false)
     {
-        return {name, in, {}, out, oneway, [this, name, answer](const RemoteRequest &request) {
+        return {name, in, {}, out, oneway, [this](const RemoteRequest &request) {
                     requests.push_back(request);
-                    return answer;
+                    return request.arguments.value(0);
                 }};
     }
 
@@ -126,132 +117,84 @@ protected:
     NamedConnection served;
 };
 
-QVariantMap map(const QVariant &value)
+TEST_F(BusTest, ValuesPassEachWayWithTheTypesThatTheyStandFor)
 {
-    return {{QStringLiteral("title"), QStringLiteral("Cancel Sync")}, {QStringLiteral("n"), value}};
-}
-
-TEST_F(BusTest, NamesStandForConnectionNames)
-{
-    EXPECT_EQ(NamedConnection::busName(QStringLiteral("CaravelHelper 123")),
-              u"org.caravel.CaravelHelper_123");
-    EXPECT_EQ(NamedConnection::busName(QStringLiteral("a.b-\u00e9_Z9")), u"org.caravel.a_b___Z9");
-}
-
-TEST_F(BusTest, ArgumentsArriveAsPlainValues)
-{
-    const QVariantMap nested = map(QVariantList{1, QStringLiteral("x"), map(true)});
+    const QVariantMap flat{{QStringLiteral("title"), QStringLiteral("Cancel Sync")}};
+    const QVariantMap nested{{QStringLiteral("n"), QVariantList{1, QStringLiteral("x"), flat}}};
     const struct
     {
         QString type;
-        QVariant sent;
-        QVariant received;
+        QVariant plain;
+        QVariant sent = plain;
     } cases[] = {
-        {QStringLiteral("b"), true, true},
-        {QStringLiteral("i"), -7, -7},
-        {QStringLiteral("u"), 7U, 7U},
-        {QStringLiteral("t"), ~quint64(0), ~quint64(0)},
-        {QStringLiteral("d"), 0.5, 0.5},
-        {QStringLiteral("s"), QStringLiteral("\u00fc"), QStringLiteral("\u00fc")},
-        {QStringLiteral("as"), QStringList{QStringLiteral("a"), QString()},
-         QStringList{QStringLiteral("a"), QString()}},
-        {QStringLiteral("as"), QStringList(), QStringList()},
-        {QStringLiteral("a{sv}"), nested, nested},
-        {QStringLiteral("a{sv}"), QVariantMap(), QVariantMap()},
-        {QStringLiteral("o"), QVariant::fromValue(QDBusObjectPath("/a/b")), QStringLiteral("/a/b")},
+        {QStringLiteral("b"), true},
+        {QStringLiteral("i"), -7},
+        {QStringLiteral("u"), 7U},
+        {QStringLiteral("t"), ~quint64(0)},
+        {QStringLiteral("d"), 0.5},
+        {QStringLiteral("s"), QStringLiteral("\u00fc")},
+        {QStringLiteral("as"), QStringList{QStringLiteral("a"), QString()}},
+        {QStringLiteral("as"), QStringList()},
+        {QStringLiteral("a{sv}"), nested},
+        {QStringLiteral("aa{sv}"), QVariantList{flat, QVariantMap()}},
+        {QStringLiteral("o"), QStringLiteral("/a/b"),
+         QVariant::fromValue(ObjectPath{QStringLiteral("/a/b")})},
     };
     std::vector<RemoteMethod> methods;
-    for (size_t i = 0; i < std::size(cases); ++i)
-        methods.push_back(method(QStringLiteral("take%1").arg(i), {cases[i].type}, {}));
+    for (const auto &c : cases) {
+        methods.push_back(method(u'_' + QString::number(methods.size()), {c.type}, c.type));
+        methods.push_back(method(u'_' + QString::number(methods.size()), {}, c.type));
+    }
     serve(methods);
-    for (size_t i = 0; i < std::size(cases); ++i) {
-        const QDBusMessage answer =
-            peer->ask(peer->request(QStringLiteral("take%1").arg(i), {cases[i].sent}));
-        EXPECT_EQ(answer.type(), QDBusMessage::ReplyMessage) << qPrintable(answer.errorMessage());
-        ASSERT_EQ(requests.size(), i + 1) << qPrintable(cases[i].type);
-        EXPECT_EQ(requests.back().arguments, QVariantList{cases[i].received})
-            << qPrintable(cases[i].type);
+    RemoteObject remote(peer->bus.baseService(), path, interfaceName);
+    QStringList sent;
+    for (qsizetype i = 0; i < qsizetype(std::size(cases)); ++i) {
+        const auto &c = cases[i];
+        sent.append(QStringLiteral("take:") + c.type);
+        remote.send(QStringLiteral("take"), {c.sent});
+        if (c.type == u"o")
+            continue; // there is no empty one, and no method of ours has one
+        // No value at all goes as an empty one.
+        EXPECT_EQ(peer->ask(u'_' + QString::number(2 * i + 1)).signature(), c.type);
         EXPECT_EQ(requests.back().caller, peer->bus.baseService());
+        if (c.type == u"aa{sv}")
+            continue; // the peer has no such value
+        EXPECT_EQ(peer->ask(u'_' + QString::number(2 * i), {c.sent}).signature(), c.type);
+        EXPECT_EQ(requests.back().arguments, QVariantList{c.plain}) << qPrintable(c.type);
     }
-}
-
-TEST_F(BusTest, AnswersHaveTheDeclaredTypeWhateverTheValueHolds)
-{
-    const QVariantList rows = {map(1), QVariantMap()};
-    const struct
-    {
-        QString out;
-        QVariant answer;
-        QString signature;
-    } cases[] = {
-        {{}, {}, {}},
-        {QStringLiteral("b"), 1, QStringLiteral("b")},
-        {QStringLiteral("i"), 5LL, QStringLiteral("i")},
-        {QStringLiteral("u"), 5, QStringLiteral("u")},
-        {QStringLiteral("t"), 5, QStringLiteral("t")},
-        {QStringLiteral("d"), 5, QStringLiteral("d")},
-        {QStringLiteral("s"), QVariant(), QStringLiteral("s")},
-        {QStringLiteral("as"), QVariant(), QStringLiteral("as")},
-        {QStringLiteral("a{sv}"), map(2.5), QStringLiteral("a{sv}")},
-        {QStringLiteral("aa{sv}"), rows, QStringLiteral("aa{sv}")},
-        {QStringLiteral("aa{sv}"), QVariantList(), QStringLiteral("aa{sv}")},
-        {QStringLiteral("o"), QStringLiteral("/x"), QStringLiteral("o")},
-    };
-    std::vector<RemoteMethod> methods;
-    for (size_t i = 0; i < std::size(cases); ++i)
-        methods.push_back(
-            method(QStringLiteral("get%1").arg(i), {}, cases[i].out, cases[i].answer));
-    serve(methods);
-    for (size_t i = 0; i < std::size(cases); ++i) {
-        const QDBusMessage answer = peer->ask(peer->request(QStringLiteral("get%1").arg(i)));
-        EXPECT_EQ(answer.type(), QDBusMessage::ReplyMessage) << i;
-        EXPECT_EQ(answer.signature(), cases[i].signature) << i;
-    }
+    EXPECT_TRUE(waitFor([&] { return peer->received().size() == sent.size(); }));
+    EXPECT_EQ(peer->received(), sent);
 }
 
 TEST_F(BusTest, WrongCallsAreRefusedAndChangeNothing)
 {
-    serve({method(QStringLiteral("setName"), {QStringLiteral("s"), QStringLiteral("i")}, {}),
-           method(QStringLiteral("quit"), {}, {}, {}, true)});
-    const QString own = interfaceName;
-    const QString invalid = QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs");
+    serve({method(QStringLiteral("setName"), {QStringLiteral("s"), QStringLiteral("i")}),
+           method(QStringLiteral("quit"), {}, {}, true)});
     const QString text = QStringLiteral("x");
     const struct
     {
-        QString member;
+        const char *member;
         QVariantList arguments;
         QString interface;
-        QString error;
+        const char *error;
     } cases[] = {
-        {QStringLiteral("setName"), {}, own, invalid},
-        {QStringLiteral("setName"), {text}, own, invalid},
-        {QStringLiteral("setName"), {text, 1U}, own, invalid},
-        {QStringLiteral("setName"), {text, 1, 1}, own, invalid},
-        {QStringLiteral("setName"), QVariantList() << QVariant(QVariantList{text, 1}), {}, invalid},
-        {QStringLiteral("quit"), {text}, own, invalid},
-        {QStringLiteral("setname"),
-         {},
-         own,
-         QStringLiteral("org.freedesktop.DBus.Error.UnknownMethod")},
-        {QStringLiteral("setname"),
-         {},
-         {},
-         QStringLiteral("org.freedesktop.DBus.Error.UnknownMethod")},
-        {QStringLiteral("quit"),
-         {},
-         QStringLiteral("org.caravel.Other"),
-         QStringLiteral("org.freedesktop.DBus.Error.UnknownInterface")},
+        {"setName", {text}, interfaceName, "InvalidArgs"},
+        {"setName", {text, 1U}, interfaceName, "InvalidArgs"},
+        {"setName", {text, 1, 1}, {}, "InvalidArgs"},
+        {"quit", {text}, interfaceName, "InvalidArgs"},
+        {"setname", {text, 1}, interfaceName, "UnknownMethod"},
+        {"setname", {text, 1}, {}, "UnknownMethod"},
+        {"quit", {}, QStringLiteral("org.caravel.Other"), "UnknownInterface"},
     };
     const SystemLogCapture log;
-    for (const auto &each : cases)
-        EXPECT_EQ(peer->ask(peer->request(each.member, each.arguments, each.interface)).errorName(),
-                  each.error)
-            << qPrintable(each.member);
+    for (const auto &c : cases)
+        EXPECT_EQ(peer->ask(QString::fromLatin1(c.member), c.arguments, c.interface).errorName(),
+                  QLatin1String("org.freedesktop.DBus.Error.") + QLatin1String(c.error))
+            << c.member;
     EXPECT_THAT(requests, IsEmpty());
-    EXPECT_TRUE(log.contains(QStringLiteral("setName takes the types \"si\", not \"su\"")));
-    EXPECT_TRUE(log.contains(peer->bus.baseService()));
-    EXPECT_EQ(peer->ask(peer->request(QStringLiteral("quit"), {}, {})).type(),
-              QDBusMessage::ReplyMessage);
+    EXPECT_TRUE(log.contains(peer->bus.baseService() +
+                             QStringLiteral(": setName takes the types \"si\", not \"su\"")));
+    EXPECT_EQ(peer->ask(QStringLiteral("quit"), {}, {}).type(), QDBusMessage::ReplyMessage);
     EXPECT_EQ(requests.size(), 1U);
 }
 
@@ -260,11 +203,10 @@ TEST_F(BusTest, DescribesItselfToTheBussTools)
     RemoteMethod named =
         method(QStringLiteral("take"), {QStringLiteral("a{sv}")}, QStringLiteral("t"));
     named.inNames = {QStringLiteral("sender")};
-    serve({named, method(QStringLiteral("quit"), {}, {}, {}, true)});
+    serve({named, method(QStringLiteral("quit"), {}, {}, true)});
     for (const QString &interface :
          {QStringLiteral("org.freedesktop.DBus.Introspectable"), QString()}) {
-        const QDBusMessage answer =
-            peer->ask(peer->request(QStringLiteral("Introspect"), {}, interface));
+        const QDBusMessage answer = peer->ask(QStringLiteral("Introspect"), {}, interface);
         const QString xml = answer.arguments().value(0).toString().simplified();
         EXPECT_TRUE(xml.contains(QStringLiteral(
             "<interface name=\"org.caravel.Test\"> <method name=\"take\"> "
@@ -273,121 +215,58 @@ TEST_F(BusTest, DescribesItselfToTheBussTools)
             "<annotation name=\"org.freedesktop.DBus.Method.NoReply\" value=\"true\"/> </method>")))
             << qPrintable(xml);
     }
-    EXPECT_EQ(peer->ask(peer->request(QStringLiteral("Ping"), {},
-                                      QStringLiteral("org.freedesktop.DBus.Peer")))
-                  .type(),
-              QDBusMessage::ReplyMessage);
-}
-
-TEST_F(BusTest, AMethodOfATypeThatIsNoneIsNotServed)
-{
-    const QString unknown = QStringLiteral("a{ss}");
-    EXPECT_DEATH(serve({method(QStringLiteral("take"), {unknown}, {})}), "take: \"a\\{ss\\}\"");
-    EXPECT_DEATH(serve({method(QStringLiteral("give"), {}, unknown)}), "give: \"a\\{ss\\}\"");
 }
 
 TEST_F(BusTest, OneObjectAPathAndOneProcessAName)
 {
     serve({});
     EXPECT_FALSE(served.exportObject(path, interfaceName, {}));
-    const QString taken = QStringLiteral("Taken 1");
-    ASSERT_TRUE(peer->bus.registerService(NamedConnection::busName(taken)));
-    EXPECT_FALSE(served.registerName(taken));
+    const QString taken = QStringLiteral("org.caravel.Taken_1");
+    ASSERT_TRUE(peer->bus.registerService(taken));
+    EXPECT_FALSE(served.registerName(QStringLiteral("Taken 1")));
     peer->leave();
     // Nothing is asked again: who waited for the name has it now.
-    RemoteObject waiting(NamedConnection::busName(taken), path, interfaceName);
+    RemoteObject waiting(taken, path, interfaceName);
     EXPECT_TRUE(waitFor([&] { return waiting.isAvailable(); }));
 }
 
 TEST_F(BusTest, AnInvalidatedConnectionServesNothing)
 {
-    RemoteMethod stop = method(QStringLiteral("stop"), {}, {});
+    RemoteMethod stop = method(QStringLiteral("stop"));
     stop.call = [this](const RemoteRequest &) {
         served.invalidate();
         return QVariant();
     };
-    serve({stop, method(QStringLiteral("late"), {}, {})});
-    const RemoteObject watched(NamedConnection::busName(connectionName), path, interfaceName);
+    serve({stop, method(QStringLiteral("late"))});
+    const RemoteObject watched(QStringLiteral("org.caravel.Bus_Test___1"), path, interfaceName);
+    EXPECT_TRUE(watched.isAvailable());
     // Both are on their way before the first one runs.
-    const QString unique = QDBusConnection::sessionBus().baseService();
-    const auto toUnique = [&](const QString &member) {
-        return QDBusMessage::createMethodCall(unique, path, interfaceName, member);
-    };
-    const QDBusPendingCall first = peer->bus.asyncCall(toUnique(QStringLiteral("stop")));
-    const QDBusPendingCall second = peer->bus.asyncCall(toUnique(QStringLiteral("late")));
-    EXPECT_TRUE(waitFor([&] { return first.isFinished() && second.isFinished(); }));
+    const QDBusPendingCall first = peer->call(QStringLiteral("stop"));
+    EXPECT_EQ(peer->ask(QStringLiteral("late")).errorName(),
+              u"org.freedesktop.DBus.Error.UnknownObject");
     EXPECT_FALSE(first.isError());
-    EXPECT_EQ(second.error().name(), u"org.freedesktop.DBus.Error.UnknownObject");
     EXPECT_FALSE(watched.isAvailable());
     EXPECT_TRUE(served.exportObject(path, interfaceName, {}));
 }
 
-TEST_F(BusTest, SendsInOrderWithTheTypesThatTheValuesStandFor)
-{
-    RemoteObject remote(peer->bus.baseService(), path, interfaceName);
-    const struct
-    {
-        QVariant value;
-        QString signature;
-    } cases[] = {
-        {true, QStringLiteral("b")},
-        {1, QStringLiteral("i")},
-        {1U, QStringLiteral("u")},
-        {quint64(1), QStringLiteral("t")},
-        {1.5, QStringLiteral("d")},
-        {QStringLiteral("s"), QStringLiteral("s")},
-        {QStringList(), QStringLiteral("as")},
-        {QVariantMap(), QStringLiteral("a{sv}")},
-        {QVariantList{QVariantMap()}, QStringLiteral("aa{sv}")},
-        {QVariant::fromValue(ObjectPath{QStringLiteral("/o")}), QStringLiteral("o")},
-    };
-    QStringList expected;
-    for (const auto &each : cases) {
-        const QString member = QStringLiteral("take%1").arg(expected.size());
-        remote.send(member, {each.value});
-        expected.append(member + u':' + each.signature);
-    }
-    EXPECT_TRUE(waitFor([&] { return peer->received().size() == expected.size(); }));
-    EXPECT_EQ(peer->received(), expected);
-}
-
-TEST_F(BusTest, AnswersComeAsPlainValuesAndFailuresAsText)
-{
-    const QString name = QStringLiteral("org.freedesktop.DBus");
-    RemoteObject bus(name, QStringLiteral("/org/freedesktop/DBus"), name);
-    const QString own = QDBusConnection::sessionBus().baseService();
-    const auto names = bus.call(QStringLiteral("ListNames"), {}, 30s);
-    EXPECT_TRUE(names.value.value_or(QVariant()).toStringList().contains(own));
-    const auto credentials = bus.call(QStringLiteral("GetConnectionCredentials"), {own}, 30s);
-    EXPECT_EQ(credentials.value.value_or(QVariant()).toMap().value(QStringLiteral("ProcessID")),
-              QVariant(static_cast<uint>(QCoreApplication::applicationPid())));
-    const auto nothing =
-        bus.call(QStringLiteral("AddMatch"), {QStringLiteral("type='error'")}, 30s);
-    EXPECT_TRUE(nothing.value && !nothing.value->isValid());
-    const auto failure = bus.call(QStringLiteral("NoSuch"), {}, 30s);
-    EXPECT_FALSE(failure.value);
-    EXPECT_FALSE(failure.error.isEmpty());
-}
-
 TEST_F(BusTest, AServiceThatComesAndGoesIsNoticed)
 {
-    const QString name = NamedConnection::busName(QStringLiteral("Comes And Goes"));
+    const QString name = QStringLiteral("org.caravel.ComesAndGoes");
     RemoteObject byName(name, path, interfaceName);
     RemoteObject byAddress(peer->bus.baseService(), path, interfaceName);
-    QStringList events;
-    QObject::connect(&byName, &RemoteObject::appeared, [&] { events << QStringLiteral("came"); });
-    QObject::connect(&byName, &RemoteObject::vanished, [&] { events << QStringLiteral("went"); });
+    std::vector<std::string> events;
+    QObject::connect(&byName, &RemoteObject::appeared, [&] { events.emplace_back("came"); });
+    QObject::connect(&byName, &RemoteObject::vanished, [&] { events.emplace_back("went"); });
     bool addressGone = false;
     QObject::connect(&byAddress, &RemoteObject::vanished, [&] { addressGone = true; });
     EXPECT_FALSE(byName.isAvailable());
     EXPECT_FALSE(byName.call(QStringLiteral("anything"), {}, 30s, false).value);
     ASSERT_TRUE(peer->bus.registerService(name));
-    EXPECT_TRUE(waitFor([&] { return events.size() == 1; }));
-    EXPECT_TRUE(byName.isAvailable());
+    EXPECT_TRUE(waitFor([&] { return byName.isAvailable() && events.size() == 1; }));
     EXPECT_TRUE(byAddress.isAvailable());
     peer->leave();
     EXPECT_TRUE(waitFor([&] { return events.size() == 2 && addressGone; }));
-    EXPECT_THAT(events, ElementsAre(QStringLiteral("came"), QStringLiteral("went")));
+    EXPECT_THAT(events, ElementsAre("came", "went"));
 }
 
 // Two processes may call each other while one of them waits for the other.
@@ -398,25 +277,22 @@ TEST_F(BusTest, CallsMayCross)
     peer->moveToThread(&thread);
     RemoteObject remote(peer->bus.baseService(), path, interfaceName);
     std::optional<QVariant> nested;
-    RemoteMethod callsBack = method(QStringLiteral("callsBack"), {}, {});
+    RemoteMethod callsBack = method(QStringLiteral("callsBack"));
     callsBack.call = [&](const RemoteRequest &) {
         nested = remote.call(QStringLiteral("nested"), {5}, 30s).value;
         return QVariant();
     };
-    serve({callsBack, method(QStringLiteral("notice"), {}, {})});
+    serve({callsBack, method(QStringLiteral("notice"))});
 
     // The other side's call comes while this one waits: it is served once the wait is over.
     peer->meanwhile = [this] {
-        peer->bus.asyncCall(peer->request(QStringLiteral("notice")));
+        peer->call(QStringLiteral("notice"));
     };
     EXPECT_EQ(remote.call(QStringLiteral("first"), {QStringLiteral("x")}, 30s).value,
               QVariant(QStringLiteral("x")));
     EXPECT_TRUE(waitFor([&] { return requests.size() == 1; }));
-
     // The served method calls its caller back.
-    const QDBusPendingCall pending =
-        peer->bus.asyncCall(peer->request(QStringLiteral("callsBack")));
-    EXPECT_TRUE(waitFor([&] { return pending.isFinished(); }));
+    peer->ask(QStringLiteral("callsBack"));
     EXPECT_EQ(nested, QVariant(5));
     EXPECT_TRUE(waitFor([&] { return requests.size() == 2; }));
     thread.quit();
@@ -430,18 +306,20 @@ TEST_F(BusTest, NotificationsReachEveryObserver)
     int heard = 0;
     int othersHeard = 0;
     int forgotten = 0;
-    int otherName = 0;
     QObject context;
-    auto *ending = new QObject;
-    using Own = DistributedNotificationCenter::Own;
-    center.observe(name, &context, [&] { ++heard; });
-    center.observe(
-        name, &context, [&] { ++othersHeard; }, Own::Ignore);
-    center.observe(name, ending, [&] { ++forgotten; });
-    center.observe(QStringLiteral("CVOtherNotification"), &context, [&] { ++otherName; });
+    const auto count = [](int &number) {
+        return [&number] {
+            ++number;
+        };
+    };
+    center.observe(name, &context, count(heard));
+    center.observe(name, &context, count(othersHeard), DistributedNotificationCenter::Own::Ignore);
+    auto leaving = std::make_unique<QObject>();
+    center.observe(name, leaving.get(), count(forgotten));
+    center.observe(QStringLiteral("CVOtherNotification"), &context, [] { ADD_FAILURE(); });
     center.post(name);
     EXPECT_TRUE(waitFor([&] { return heard == 1 && forgotten == 1; }));
-    delete ending;
+    leaving.reset();
     NamedConnection::flush();
     peer->bus.send(QDBusMessage::createSignal(
         QStringLiteral("/org/caravel/DistributedNotificationCenter"),
@@ -449,14 +327,6 @@ TEST_F(BusTest, NotificationsReachEveryObserver)
     EXPECT_TRUE(waitFor([&] { return heard == 2 && othersHeard >= 1; }));
     EXPECT_EQ(othersHeard, 1);
     EXPECT_EQ(forgotten, 1);
-    EXPECT_EQ(otherName, 0);
-}
-
-TEST_F(BusTest, ANotificationWithoutAValidNameIsNotedNotSent)
-{
-    const SystemLogCapture log;
-    DistributedNotificationCenter::defaultCenter().post(QStringLiteral("no such name"));
-    EXPECT_TRUE(log.contains(QStringLiteral("no such name")));
 }
 
 } // namespace
