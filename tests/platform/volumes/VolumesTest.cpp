@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QCoreApplication>
 #include <QDir>
 
 using testing::ElementsAre;
@@ -37,83 +38,66 @@ protected:
     std::vector<std::string> events(size_t count)
     {
         EXPECT_TRUE(waitFor([&] { return m_events.size() >= count; }));
-        bool settled = false;
-        performOnMainThread(
-            nullptr, [&] { settled = true; }, CallMode::DontWait);
-        waitFor([&] { return settled; });
+        QCoreApplication::processEvents();
         return std::exchange(m_events, {});
     }
 
-    QString path(const QString &name) const { return m_folder + u'/' + name; }
-    void insert(const QString &name) { QDir().mkpath(path(name)); }
+    QString path(const char *name) const { return m_folder + u'/' + QString::fromUtf8(name); }
+    void insert(const char *name) const { QDir().mkpath(path(name)); }
 
     TemporaryFolder m_temporary;
-    const QString m_folder = m_temporary / QStringLiteral("not/yet");
+    const QString m_folder = m_temporary / "not/yet";
     FolderVolumes m_volumes{m_folder};
     std::vector<std::string> m_events;
 };
 
-} // namespace
-
 TEST_F(FolderVolumesTest, FolderMadeLaterItsVolumesAndTheirEvents)
 {
     EXPECT_THAT(m_volumes.mountedRemovableMedia(), IsEmpty());
-    insert(QStringLiteral("stick"));
+    insert("stick");
     EXPECT_THAT(events(1), ElementsAre("+stick"));
-    insert(QStringLiteral("a"));
-    EXPECT_THAT(events(1), ElementsAre("+a"));
-    insert(QStringLiteral(".hidden"));
-    writeFile(path(QStringLiteral("file")), {});
-    QFile::link(QStringLiteral("/"), path(QStringLiteral("z link")));
+    insert(".hidden");
+    writeFile(path("file"), {});
+    QFile::link(QStringLiteral("/"), path("z link"));
     EXPECT_THAT(events(1), ElementsAre("+z link"));
-    EXPECT_THAT(m_volumes.mountedRemovableMedia(),
-                ElementsAre(path(QStringLiteral("a")), path(QStringLiteral("stick")),
-                            path(QStringLiteral("z link"))));
-    QDir().rmdir(path(QStringLiteral("a")));
-    EXPECT_THAT(events(1), ElementsAre("-a"));
+    EXPECT_THAT(m_volumes.mountedRemovableMedia(), ElementsAre(path("stick"), path("z link")));
     // Gone and made again between two looks is another stick.
-    QDir().rmdir(path(QStringLiteral("stick")));
-    insert(QStringLiteral("stick"));
+    QDir().rmdir(path("stick"));
+    insert("stick");
     EXPECT_THAT(events(2), ElementsAre("-stick", "+stick"));
     QDir(m_folder).removeRecursively();
     EXPECT_THAT(events(2), ElementsAre("-stick", "-z link"));
-    insert(QStringLiteral("back"));
+    insert("back");
     EXPECT_THAT(events(1), ElementsAre("+back"));
 }
 
 TEST_F(FolderVolumesTest, EjectsFromAnyThreadAnnouncedFirstAndOnce)
 {
-    writeFile(path(QStringLiteral("stick/MEMSTICK.IND")), "x");
-    insert(QStringLiteral("other"));
-    events(2);
-    EXPECT_TRUE(m_volumes.unmountAndEject(path(QStringLiteral("other"))));
-    EXPECT_EQ(m_volumes.mountedRemovableMedia().size(), 1);
-    EXPECT_THAT(events(2), ElementsAre("?other", "-other"));
-
+    writeFile(path("stick/MEMSTICK.IND"), "x");
+    events(1);
     bool ejected = false;
-    EXPECT_TRUE(Workers::start(
-        [&] { ejected = m_volumes.unmountAndEject(path(QStringLiteral("stick"))); }));
+    ASSERT_TRUE(Workers::start([&] { ejected = m_volumes.unmountAndEject(path("stick")); }));
     EXPECT_TRUE(Workers::serveUntilFinished(std::chrono::seconds(60)));
     EXPECT_TRUE(ejected);
     EXPECT_THAT(events(2), ElementsAre("?stick", "-stick"));
-    EXPECT_EQ(readFile(path(QStringLiteral(".ejected/stick/MEMSTICK.IND"))), "x");
+    EXPECT_THAT(m_volumes.mountedRemovableMedia(), IsEmpty());
+    EXPECT_EQ(readFile(path(".ejected/stick/MEMSTICK.IND")), "x");
 }
 
 TEST_F(FolderVolumesTest, RefusesWhatIsNoVolumeOrWouldReplaceAnEjectedOne)
 {
-    insert(QStringLiteral("stick"));
-    insert(QStringLiteral("stick/sub"));
-    insert(QStringLiteral(".ejected/stick"));
+    insert("stick/sub");
+    insert(".ejected/stick");
     events(1);
     const SystemLogCapture log;
-    for (const QString &name :
-         {QStringLiteral("stick"), QStringLiteral("stick/sub"), QStringLiteral("none"),
-          QStringLiteral(".ejected"), QStringLiteral("stick/.."), QString()}) {
+    for (const char *name : {"stick", "stick/sub", "none", ".ejected", "stick/..", ""}) {
         const auto before = log.lines().size();
-        EXPECT_FALSE(m_volumes.unmountAndEject(path(name))) << name.toStdString();
-        EXPECT_EQ(log.lines().size(), before + 1) << name.toStdString();
+        EXPECT_FALSE(m_volumes.unmountAndEject(path(name))) << name;
+        EXPECT_EQ(log.lines().size(), before + 1) << name;
     }
     EXPECT_FALSE(m_volumes.unmountAndEject(m_folder));
     EXPECT_THAT(events(0), IsEmpty());
-    EXPECT_TRUE(QFile::exists(path(QStringLiteral("stick/sub"))));
+    EXPECT_TRUE(QFile::exists(path("stick/sub")));
 }
+
+} // namespace
