@@ -1,5 +1,6 @@
 #include "fuzz/Home.h"
 #include "platform/people/own/VCardAddressBook.h"
+#include "platform/people/own/VCardText.h"
 
 #include <glib.h>
 
@@ -24,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     g_log_set_default_handler(ignore, nullptr); // libebook speaks up about every bad property
     const QByteArray input = bytesOf(data, size);
-    const std::vector<QByteArray> cards = cardsOf(input);
+    const std::vector<QByteArray> cards = VCardText::cardsOf(input).cards;
     for (const QByteArray &card : cards)
         promise(card.left(5).toUpper() == "BEGIN", "a card goes from its beginning");
     const Home &home = Home::instance();

@@ -1,89 +1,19 @@
 #include "platform/people/own/VCardPerson.h"
 
-#include <QByteArrayList>
-#include <QStringList>
+#include "platform/people/own/VCardValues.h"
+
 #include <QUrl>
 
 #include <libebook-contacts/libebook-contacts.h>
-#include <limits>
 
 namespace {
-
-constexpr int notPreferred = std::numeric_limits<int>::max();
 
 bool isNamed(EVCardAttribute *attribute, const char *name)
 {
     return g_ascii_strcasecmp(e_vcard_attribute_get_name(attribute), name) == 0;
 }
 
-/// The values of one property, its types and its rank among those of its name.
-class Property
-{
-public:
-    explicit Property(EVCardAttribute *attribute)
-    {
-        for (GList *each = e_vcard_attribute_get_values_decoded(attribute); each;
-             each = each->next) {
-            const auto *value = static_cast<const GString *>(each->data);
-            m_values.append(QByteArray(value->str, static_cast<qsizetype>(value->len)));
-        }
-        for (GList *each = e_vcard_attribute_get_params(attribute); each; each = each->next)
-            addParameter(static_cast<EVCardAttributeParam *>(each->data));
-    }
-
-    bool is(const char *type) const { return m_types.contains(type); }
-    int rank() const { return m_rank; }               ///< the lower the more preferred
-    const QByteArray &kind() const { return m_kind; } ///< of the value: "URI", "URL" or empty
-
-    /// What an unescaped semicolon split is one text all the same.
-    QByteArray bytes() const { return m_values.join(';'); }
-    QString text() const { return QString::fromUtf8(bytes()).trimmed(); }
-    QString component(qsizetype index) const
-    {
-        return QString::fromUtf8(m_values.value(index)).trimmed();
-    }
-
-private:
-    void addParameter(EVCardAttributeParam *parameter)
-    {
-        const QByteArray name = QByteArray(e_vcard_attribute_param_get_name(parameter)).toUpper();
-        GList *each = e_vcard_attribute_param_get_values(parameter);
-        if (!each)
-            addType(name);
-        for (; each; each = each->next) {
-            const QByteArray value = QByteArray(static_cast<const char *>(each->data)).toUpper();
-            if (name == "PREF")
-                setRank(value);
-            else if (name == "VALUE")
-                m_kind = value;
-            else if (name == "TYPE")
-                for (const QByteArray &type : value.split(','))
-                    addType(type.trimmed());
-        }
-    }
-
-    void addType(const QByteArray &type)
-    {
-        m_types.append(type);
-        if (type == "PREF")
-            m_rank = 0;
-    }
-
-    void setRank(const QByteArray &value)
-    {
-        bool isNumber = false;
-        const int rank = value.toInt(&isNumber);
-        if (isNumber)
-            m_rank = rank;
-    }
-
-    QByteArrayList m_values;
-    QByteArrayList m_types; // upper case
-    QByteArray m_kind;
-    int m_rank = notPreferred;
-};
-
-ContactLabel phoneLabel(const Property &property)
+ContactLabel phoneLabel(const VCardValues &property)
 {
     if (property.is("FAX")) {
         if (property.is("HOME"))
@@ -101,7 +31,7 @@ ContactLabel phoneLabel(const Property &property)
     return property.is("HOME") ? ContactLabel::Home : ContactLabel::Other;
 }
 
-ContactLabel labelOf(const Property &property)
+ContactLabel labelOf(const VCardValues &property)
 {
     if (property.is("WORK"))
         return ContactLabel::Work;
@@ -128,7 +58,7 @@ public:
         struct Reading
         {
             const char *name;
-            void (PersonReader::*read)(const Property &);
+            void (PersonReader::*read)(const VCardValues &);
         };
         static constexpr Reading readings[] = {
             {EVC_UID, &PersonReader::readUid},
@@ -152,7 +82,7 @@ public:
         };
         for (const Reading &reading : readings) {
             if (isNamed(attribute, reading.name))
-                (this->*reading.read)(Property(attribute));
+                (this->*reading.read)(VCardValues(attribute));
         }
     }
 
@@ -166,26 +96,29 @@ public:
     }
 
 private:
-    void readUid(const Property &property)
+    void readUid(const VCardValues &property)
     {
         if (m_person.uid.isEmpty())
             m_person.uid = property.text();
     }
 
-    void readName(const Property &property)
+    void readName(const VCardValues &property)
     {
         setIfAny(m_person.lastName, property.component(0));
         setIfAny(m_person.firstName, property.component(1));
     }
 
-    void readFormattedName(const Property &property) { setIfAny(m_formattedName, property.text()); }
+    void readFormattedName(const VCardValues &property)
+    {
+        setIfAny(m_formattedName, property.text());
+    }
 
-    void readOrganization(const Property &property)
+    void readOrganization(const VCardValues &property)
     {
         setIfAny(m_person.organization, property.component(0));
     }
 
-    void readPhone(const Property &property)
+    void readPhone(const VCardValues &property)
     {
         const QString number = withoutScheme(property.text(), u"tel:");
         if (number.isEmpty())
@@ -197,7 +130,7 @@ private:
         m_person.phones.push_back({phoneLabel(property), number});
     }
 
-    void readEmail(const Property &property)
+    void readEmail(const VCardValues &property)
     {
         const QString address = withoutScheme(property.text(), u"mailto:");
         if (!address.isEmpty())
@@ -205,12 +138,12 @@ private:
     }
 
     template <MessagingService service>
-    void readMessaging(const Property &property)
+    void readMessaging(const VCardValues &property)
     {
         addMessaging(service, labelOf(property), property.text());
     }
 
-    void readMessagingUri(const Property &property)
+    void readMessagingUri(const VCardValues &property)
     {
         static constexpr std::pair<QStringView, MessagingService> schemes[] = {
             {u"aim", MessagingService::Aim},     {u"icq", MessagingService::Icq},
@@ -237,7 +170,7 @@ private:
             names.push_back({label, name});
     }
 
-    void readAddress(const Property &property)
+    void readAddress(const VCardValues &property)
     {
         const PostalAddress address{property.component(2), property.component(3),
                                     property.component(4), property.component(5),
@@ -250,7 +183,7 @@ private:
             m_person.addresses.push_back({label, address});
     }
 
-    void readNote(const Property &property)
+    void readNote(const VCardValues &property)
     {
         const QString note = QString::fromUtf8(property.bytes());
         if (!note.trimmed().isEmpty())
@@ -258,7 +191,7 @@ private:
     }
 
     /// A picture on another machine is none: nothing is fetched.
-    void readPhoto(const Property &property)
+    void readPhoto(const VCardValues &property)
     {
         PersonImage &image = m_person.image;
         if (!image.bytes.isEmpty() || !image.file.isEmpty())
@@ -285,12 +218,12 @@ private:
                    : QByteArray::fromPercentEncoding(data);
     }
 
-    void readKind(const Property &property)
+    void readKind(const VCardValues &property)
     {
         m_isGroup = m_isGroup || property.text().compare(u"group", Qt::CaseInsensitive) == 0;
     }
 
-    void readList(const Property &property)
+    void readList(const VCardValues &property)
     {
         m_isGroup = m_isGroup || property.text().compare(u"true", Qt::CaseInsensitive) == 0;
     }
@@ -308,7 +241,7 @@ private:
 
     Person m_person;
     std::optional<QString> m_formattedName;
-    int m_bestPhone = notPreferred;
+    int m_bestPhone = VCardValues::notPreferred;
     bool m_isGroup = false;
 };
 
