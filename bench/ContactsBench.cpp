@@ -6,7 +6,6 @@
 #include "platform/people/ContactPicture.h"
 #include "platform/people/own/VCardAddressBook.h"
 #include "support/SyncHarness.h"
-#include "sync/SyncRun.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -80,8 +79,7 @@ void itemsToSync(benchmark::State &state, Pictures pictures)
     SyncHarness harness;
     const QDir support(harness.home(QStringLiteral("Library/Application Support/Caravel")));
     support.mkpath(QStringLiteral("."));
-    SyncRun run(harness.manager, harness.stick());
-    size_t items = CVSyncContacts(&run).itemsToSync().size();
+    size_t items = CVSyncContacts(harness.stick()).itemsToSync().size();
     for (auto _ : state) {
         if (pictures == Pictures::New) {
             state.PauseTiming();
@@ -89,7 +87,7 @@ void itemsToSync(benchmark::State &state, Pictures pictures)
                 QFile::remove(support.filePath(name));
             state.ResumeTiming();
         }
-        items = CVSyncContacts(&run).itemsToSync().size();
+        items = CVSyncContacts(harness.stick()).itemsToSync().size();
     }
     if (items != (pictures == Pictures::None ? 1U : 1U + size_t(countOf(pictures))))
         state.SkipWithError("not everybody was found");

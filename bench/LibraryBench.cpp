@@ -4,7 +4,6 @@
 #include "Workbench.h"
 #include "modules/music/CVSyncMusic.h"
 #include "platform/lists/UserDefaults.h"
-#include "sync/CVSyncModuleDelegate.h"
 #include "util/Settings.h"
 
 #include <QDir>
@@ -110,22 +109,9 @@ struct LibraryHome
     ~LibraryHome() { UserDefaults::setStandard(nullptr); }
 };
 
-struct NoStick : CVSyncModuleDelegate
-{
-    QString pspVolume() const override { return QStringLiteral("/media/PSP"); }
-    bool pspVolumeIsPresent() override { return false; }
-    bool pspVolumeTellsCaseApart() const override { return true; }
-    bool syncModuleShouldCancel() override { return false; }
-    void syncModuleWillProcessItem(const CVSyncItem &) override {}
-    void syncModuleDidCopyBytes(quint64) override {}
-    void syncModuleDidProcessItem(const CVSyncItem &) override {}
-    void syncModuleError(const FileError &) override {}
-};
-
 size_t itemsToSync()
 {
-    NoStick stick;
-    return CVSyncMusic(&stick).itemsToSync().size();
+    return CVSyncMusic(QStringLiteral("/media/PSP")).itemsToSync().size();
 }
 
 void bareExpatPass(const QString &path)

@@ -3,7 +3,7 @@
 #include "Workbench.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
-#include "sync/SyncRun.h"
+#include "sync/SyncPlanner.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,12 +47,13 @@ void prepareInPlace(benchmark::State &state)
     const InPlace place;
     const ListModule::Wishes wishes{[&place] { return place.items; }, QStringLiteral("/PSP/MUSIC")};
     SyncHarness harness;
-    SyncRun run(harness.manager, place.folder / QStringLiteral("stick"));
+    const QString stick = place.folder / QStringLiteral("stick");
     quint64 left = 0;
     for (auto _ : state) {
-        ListModule module(&run, QStringLiteral("Music"), wishes);
-        module.prepare(true);
-        left += module.syncQueueSize();
+        ModuleList modules;
+        modules.push_back(std::make_unique<ListModule>(stick, QStringLiteral("Music"), wishes));
+        const SyncPlan plan = SyncPlanner(stick, [] { return false; }).plan(modules);
+        left += plan.syncBytesTotal() + plan.kinds[0].removals.size();
     }
     if (left != 0)
         state.SkipWithError("not everything was in place");
@@ -77,7 +78,7 @@ void bareStatLoop(benchmark::State &state)
 }
 
 BENCHMARK(prepareInPlace)
-    ->Name("20,000 files in place/prepare")
+    ->Name("20,000 files in place/plan")
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 BENCHMARK(bareStatLoop)

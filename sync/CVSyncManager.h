@@ -5,7 +5,7 @@
 #include "platform/volumes/VolumeIdentity.h"
 #include "platform/volumes/Volumes.h"
 #include "sync/CVSyncManagerDelegate.h"
-#include "sync/ModuleKind.h"
+#include "sync/SyncRun.h"
 
 #include <QObject>
 
@@ -14,7 +14,6 @@
 #include <optional>
 
 class DistributedNotificationCenter;
-class SyncRun;
 
 /// What the manager works with; not owned, outliving it and every run.
 struct SyncServices
@@ -29,7 +28,7 @@ struct SyncServices
 ///
 /// Main thread, except where a member says otherwise. Runs and estimates work on threads of their
 /// own (platform/MainThread.h's Workers); the manager must outlive them.
-class CVSyncManager : public QObject
+class CVSyncManager : public QObject, private SyncRunHost
 {
     Q_OBJECT
 public:
@@ -61,7 +60,7 @@ public:
     // --- The run
 
     bool isSyncing() const { return m_isSyncing; }
-    bool shouldCancelSync() const { return m_shouldCancelSync; }
+    bool shouldCancelSync() const override { return m_shouldCancelSync; }
     bool canSync();
     bool canCancelSync() const;
     /// Progress can't be shown as a fraction now.
@@ -77,7 +76,7 @@ public:
     void sync();
     /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any
     /// thread.
-    void cancelSync();
+    void cancelSync() override;
     /// Unmounts and ejects the stick, waiting for the outcome. Main thread or the run's.
     void eject();
 
@@ -93,8 +92,6 @@ public:
     quint32 syncPercentEstimate();
 
 private:
-    friend class SyncRun;
-
     // Detection
     bool takeAsPSP(const QString &volume);
     bool isStillThere() const;
@@ -107,27 +104,25 @@ private:
     // The run, on its own thread
     void _sync();
     void setRunVolume(const QString &volume);
-    void startRun(SyncRun &run);
-    void pauseBeforeRun();
-    void createModules(SyncRun &run) const;
-    void prepareModules(SyncRun &run);
-    void cleanUpModules(SyncRun &run);
-    void testFreeSpace(SyncRun &run);
-    void syncModules(SyncRun &run);
-    void finalizeModules(SyncRun &run);
-    void recordSizes(SyncRun &run);
-    void ejectAfterRun(SyncRun &run);
-    void eject(const QString &volume);
-    void finishRun();
     bool endRun();
-    void setIcon(SyncRun &run);
-    void addCopiedBytes(quint64 count);
+    void finishRun();
+
+    // What a run asks for and tells
+    void setIsIndeterminate(bool indeterminate) override { m_isIndeterminate = indeterminate; }
+    void setSyncBytes(quint64 total, quint64 copied) override;
+    void setSyncBytesEstimate(quint64 bytes) override { m_syncBytesEstimate = bytes; }
+    quint64 syncBytesLeft() const override;
+    void tell(const std::function<void(CVSyncManagerDelegate &)> &callback) override;
+    bool shouldUnmountPSP() override { return m_delegate->shouldUnmountPSP(); }
+    void ejectVolume(const QString &volume) override;
+    bool syncModuleShouldCancel() override { return m_shouldCancelSync; }
+    void syncModuleWillProcessItem(const CVSyncItem &item) override;
+    void syncModuleDidCopyBytes(quint64 count) override;
+    void syncModuleDidProcessItem(const CVSyncItem &item) override;
+    void syncModuleError(const FileError &error) override;
 
     // The estimate, on its own thread
     void _refreshSyncBytesEstimate();
-
-    template <typename Callback>
-    void tell(Callback callback);
 
     // Fixed after construction
     const SyncServices m_services;
@@ -153,11 +148,3 @@ private:
     std::atomic<quint64> m_syncBytes = 0;
     std::atomic<quint64> m_syncBytesEstimate = 0;
 };
-
-/// Runs a callback of the delegate on the main thread and waits for it.
-template <typename Callback>
-void CVSyncManager::tell(Callback callback)
-{
-    performOnMainThread(
-        this, [this, &callback] { callback(*m_delegate); }, CallMode::Wait);
-}

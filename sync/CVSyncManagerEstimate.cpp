@@ -1,6 +1,6 @@
 #include "sync/CVSyncManager.h"
 
-#include "sync/SyncRun.h"
+#include "sync/SyncPlanner.h"
 #include "util/Settings.h"
 
 void CVSyncManager::refreshSyncBytesEstimate()
@@ -18,15 +18,13 @@ void CVSyncManager::refreshSyncBytesEstimate()
 
 void CVSyncManager::_refreshSyncBytesEstimate()
 {
-    SyncRun estimate(*this, pspVolume());
+    const QString volume = pspVolume();
     m_syncBytesEstimate = 0;
     quint64 total = 0;
     for (const ModuleKind &kind : m_catalogue) {
         if (!kind.countsInEstimate || (kind.takesPart && !kind.takesPart()))
             continue;
-        const auto module = kind.make(&estimate);
-        module->prepare(false);
-        total += module->syncEstimateSize();
+        total += SyncPlanner::estimate(*kind.make(volume));
     }
     m_syncBytesEstimate = total;
     tell([total](CVSyncManagerDelegate &delegate) { delegate.newSyncBytesEstimate(total); });

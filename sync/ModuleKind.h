@@ -11,8 +11,9 @@ struct ModuleKind
 {
     /// Fixed: preference keys and file names on the stick are formed from it.
     QString saveName;
-    /// Made anew for each run and each estimate, on its thread.
-    std::function<std::unique_ptr<CVSyncModule>(CVSyncModuleDelegate *)> make;
+    /// Makes its module for the stick mounted there (empty: for none); anew for each run and each
+    /// estimate, on its thread.
+    std::function<std::unique_ptr<CVSyncModule>(const QString &volume)> make;
     /// Whether it takes part in what starts now; empty: always. What takes part with an empty queue
     /// still cleans its folder up. Any thread.
     std::function<bool()> takesPart = {};

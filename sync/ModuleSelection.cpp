@@ -3,6 +3,7 @@
 #include "platform/files/FileManager.h"
 #include "platform/lists/PropertyList.h"
 #include "sync/Log.h"
+#include "sync/StickEditor.h"
 #include "sync/StickFiles.h"
 #include "util/Settings.h"
 
@@ -16,9 +17,10 @@ bool hasProfiles(const QString &volume)
            FileManager::defaultManager().status(StickFiles::caravelFolder(volume)).isFolder();
 }
 
-void storeProfile(const QStringList &identifiers, const QString &profile)
+void storeProfile(const QStringList &identifiers, const QString &profile, const QString &volume)
 {
-    if (const FileResult<> written = PropertyList::writeAtomically(identifiers, profile); !written)
+    const auto written = StickEditor(volume).write(profile, PropertyList::toXml(identifiers));
+    if (!written)
         qCWarning(lcSync).noquote()
             << "Can't store the selection in" << profile << ":" << written.error().text;
 }
@@ -48,7 +50,7 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume)
 {
     if (hasProfiles(volume))
-        storeProfile(identifiers, StickFiles::selectionProfile(volume, moduleSaveName));
+        storeProfile(identifiers, StickFiles::selectionProfile(volume, moduleSaveName), volume);
     Settings::setSelection(moduleSaveName, identifiers);
 }
 
@@ -59,7 +61,7 @@ void rename(const QString &identifier, const QString &newIdentifier, const QStri
         const QString profile = StickFiles::selectionProfile(volume, moduleSaveName);
         auto selection = PropertyList::readStringArray(profile);
         if (selection && replaceIn(*selection, identifier, newIdentifier))
-            storeProfile(*selection, profile);
+            storeProfile(*selection, profile, volume);
     }
     auto selection = Settings::selection(moduleSaveName);
     if (selection && replaceIn(*selection, identifier, newIdentifier))

@@ -1,65 +1,106 @@
+// The run as a whole, its start and its end.
+
 #include "sync/SyncRun.h"
 
-#include "sync/CVSyncManager.h"
+#include "platform/core/Clock.h"
+#include "platform/lists/NumberArchive.h"
 #include "sync/Log.h"
+#include "sync/StickFiles.h"
+#include "util/Settings.h"
 
-#include <QDir>
-
+#include <algorithm>
 #include <utility>
 
-SyncRun::SyncRun(CVSyncManager &manager, QString volume)
-    : m_manager(manager)
-    , m_volume(std::move(volume))
-    , m_identity(VolumeIdentity::of(m_volume))
+namespace {
+
+constexpr int startPauses = 5;
+constexpr auto startPause = std::chrono::seconds(1);
+
+} // namespace
+
+SyncRun::SyncRun(SyncRunHost &host, Services services, const QString &volume)
+    : m_host(host)
+    , m_services(std::move(services))
+    , m_stick(volume)
 {
+    m_stick.setWhenGone([this] {
+        if (!std::exchange(m_saidGone, true)) {
+            qCWarning(lcSync).noquote() << "The stick at" << m_stick.volume()
+                                        << "is gone; the sync ends and nothing is written there";
+        }
+        m_host.cancelSync();
+    });
 }
 
-SyncRun::~SyncRun() = default;
-
-bool SyncRun::pspVolumeIsPresent()
+RunReport SyncRun::run()
 {
-    if (m_identity && VolumeIdentity::of(m_volume) == m_identity)
-        return true;
-    if (!std::exchange(m_saidGone, true)) {
-        qCWarning(lcSync).noquote()
-            << "The stick at" << m_volume << "is gone; the sync ends and nothing is written there";
+    start();
+    prepare();
+    cleanUp();
+    testFreeSpace();
+    copy();
+    finalize();
+    recordSizes();
+    ejectStick();
+    m_report.isComplete = !m_host.shouldCancelSync();
+    return std::move(m_report);
+}
+
+void SyncRun::start()
+{
+    const QString caravel = StickFiles::caravelFolder(m_stick.volume());
+    if (!m_stick.isPresent())
+        return;
+    if (const auto made = m_stick.makeFolders(caravel); !made)
+        qCWarning(lcSync).noquote() << "Can't create the folder" << caravel;
+    if (Settings::useDetailedLogging())
+        qCInfo(lcSync) << "Setting PSP device icon...";
+    m_stick.setIcon(QStringLiteral("%1/PSP%2.icns")
+                        .arg(m_services.resourceFolder)
+                        .arg(m_services.clock.now().date().month()));
+    m_stick.flush();
+    pause();
+}
+
+// In which a cancel costs nothing.
+void SyncRun::pause()
+{
+    for (int i = 0; i < startPauses && !m_host.shouldCancelSync(); ++i)
+        m_services.clock.sleep(startPause);
+}
+
+void SyncRun::recordSizes()
+{
+    quint64 size = m_plan.syncBytesEstimate();
+    if (m_host.shouldCancelSync())
+        size -= std::min(m_host.syncBytesLeft(), size);
+    Settings::lastSyncSize.set(size);
+    // Of a stick that is gone the last known free space is still the best guess.
+    if (m_stick.isPresent()) {
+        if (const auto space = files().volumeSpace(m_stick.volume()))
+            Settings::lastFreeSpace.set(space->free);
+        const QString path = StickFiles::lastSyncSize(m_stick.volume());
+        if (const auto written = m_stick.write(path, NumberArchive::encode(size)); !written)
+            qCWarning(lcSync).noquote() << "Can't write" << path << ":" << written.error().text;
     }
-    m_manager.cancelSync();
-    return false;
+    m_host.setSyncBytes(1, 0);
 }
 
-bool SyncRun::syncModuleShouldCancel()
+void SyncRun::ejectStick()
 {
-    pspVolumeIsPresent();
-    return m_manager.shouldCancelSync();
+    if (!m_host.shouldCancelSync() && Settings::unmountAfterSync() && m_host.shouldUnmountPSP())
+        m_host.ejectVolume(m_stick.volume());
 }
 
-void SyncRun::syncModuleWillProcessItem(const CVSyncItem &item)
+bool SyncRun::fileManagerCopiedBytes(quint64 bytes, const QString &)
 {
-    m_manager.tell(
-        [&item](CVSyncManagerDelegate &delegate) { delegate.syncWillProcessItem(item); });
+    m_host.syncModuleDidCopyBytes(bytes);
+    std::ignore = m_stick.isPresent(); // a stick that is gone cancels the run
+    return m_host.syncModuleShouldCancel();
 }
 
-void SyncRun::syncModuleDidCopyBytes(quint64 count)
+bool SyncRun::fileManagerShouldProceedAfterError(const FileError &error)
 {
-    m_manager.addCopiedBytes(count);
-}
-
-void SyncRun::syncModuleDidProcessItem(const CVSyncItem &item)
-{
-    m_manager.tell([&item](CVSyncManagerDelegate &delegate) { delegate.syncDidProcessItem(item); });
-}
-
-void SyncRun::syncModuleError(const FileError &error)
-{
-    m_manager.tell(
-        [&error](CVSyncManagerDelegate &delegate) { delegate.syncError(errorInfo(error)); });
-}
-
-void SyncRun::learnHowNamesCompare()
-{
-    const QString otherCase = QStringLiteral(".CARAVEL");
-    const QDir root(m_volume);
-    m_tellsCaseApart = !root.exists(otherCase) ||
-                       root.entryList(QDir::AllEntries | QDir::Hidden).contains(otherCase);
+    m_host.syncModuleError(error);
+    return true;
 }

@@ -1,44 +1,85 @@
 #pragma once
 
-#include "platform/volumes/VolumeIdentity.h"
+#include "sync/CVSyncManagerDelegate.h"
 #include "sync/CVSyncModuleDelegate.h"
+#include "sync/ModuleKind.h"
+#include "sync/RunReport.h"
+#include "sync/StickEditor.h"
+#include "sync/SyncPlan.h"
 
-#include <functional>
-#include <memory>
-#include <optional>
-#include <vector>
+#include <QHash>
+#include <QStringList>
 
-class CVSyncManager;
-class CVSyncModule;
+class Clock;
 
-/// What one run or estimate works on, fixed at its start: the volume, which file system that was,
-/// and the modules. It lives on the thread of the run and is its modules' delegate, so that a stick
-/// that comes or goes meanwhile never changes where they write.
-class SyncRun : public CVSyncModuleDelegate
+/// What a run needs of the manager that started it. Any thread.
+class SyncRunHost : public CVSyncModuleDelegate
 {
 public:
-    SyncRun(CVSyncManager &manager, QString volume);
-    ~SyncRun() override;
+    virtual bool shouldCancelSync() const = 0;
+    virtual void cancelSync() = 0;
+    virtual void setIsIndeterminate(bool indeterminate) = 0;
+    /// Of the run's copies; and of everything selected.
+    virtual void setSyncBytes(quint64 total, quint64 copied) = 0;
+    virtual void setSyncBytesEstimate(quint64 bytes) = 0;
+    virtual quint64 syncBytesLeft() const = 0;
+    /// Calls the delegate on the main thread and waits for it.
+    virtual void tell(const std::function<void(CVSyncManagerDelegate &)> &callback) = 0;
+    virtual bool shouldUnmountPSP() = 0;
+    virtual void ejectVolume(const QString &volume) = 0;
+};
 
-    std::vector<std::unique_ptr<CVSyncModule>> modules;
-    quint64 estimateTotal = 0; ///< bytes of everything selected
+/// One sync, from its start to the eject: a plan is made, then carried out. A stick that comes or
+/// goes meanwhile never changes where it writes. Lives on the run's thread.
+class SyncRun : private FileOperationHandler
+{
+public:
+    struct Services
+    {
+        const ModuleCatalogue &catalogue;
+        Clock &clock;
+        QString resourceFolder; ///< holds the device icons
+    };
 
-    QString pspVolume() const override { return m_volume; }
-    bool pspVolumeIsPresent() override;
-    bool pspVolumeTellsCaseApart() const override { return m_tellsCaseApart; }
-    bool syncModuleShouldCancel() override;
-    void syncModuleWillProcessItem(const CVSyncItem &item) override;
-    void syncModuleDidCopyBytes(quint64 count) override;
-    void syncModuleDidProcessItem(const CVSyncItem &item) override;
-    void syncModuleError(const FileError &error) override;
+    /// Host and services are not owned and outlive the run.
+    SyncRun(SyncRunHost &host, Services services, const QString &volume);
 
-    /// Finds out how the stick compares names, by a folder that is known to lie on it.
-    void learnHowNamesCompare();
+    /// All of it but the announcement of the end.
+    RunReport run();
 
 private:
-    CVSyncManager &m_manager;
-    const QString m_volume;
-    const std::optional<VolumeIdentity> m_identity;
+    // The phases, in their order; each has a file of its own
+    void start();
+    void prepare();
+    void cleanUp();
+    void testFreeSpace();
+    void copy();
+    void finalize();
+    void recordSizes();
+    void ejectStick();
+
+    void pause();
+    void makePlan();
+    void removeReplaced(const KindPlan &kind);
+    void cleanUp(const KindPlan &kind, ItemPlacer *placer);
+    void removePlanned(const PlannedRemoval &removal);
+    bool fits(const SyncPlan &plan, quint64 &needed) const;
+    void copyKind(const KindPlan &kind, ItemPlacer &placer);
+    void copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringList &index);
+    void leaveOut(const PlannedItem &planned);
+    void writeIndex(const KindPlan &kind);
+
+    bool fileManagerCopiedBytes(quint64 bytes, const QString &toPath) override;
+    bool fileManagerShouldProceedAfterError(const FileError &error) override;
+
+    SyncRunHost &m_host;
+    const Services m_services;
+    StickEditor m_stick;
     bool m_saidGone = false;
-    bool m_tellsCaseApart = true;
+
+    ModuleList m_modules; // one for each kind of the plan
+    SyncPlan m_plan;
+    QHash<QString, QStringList> m_indexes; // syncIndex: per save name, relative to the volume
+    QStringList m_notRemoved;              // paths; their folders stay
+    RunReport m_report;
 };

@@ -12,7 +12,19 @@ using StringTools::appendingPathComponent;
 
 namespace {
 
+using Ended = CopyOutcome::Ended;
+
 constexpr size_t chunkSize = 1U << 20;
+
+CopyOutcome copyFolder(const QString &source, const QString &destination,
+                       FileOperationHandler &handler)
+{
+    // A link that leads nowhere is in the way too: writing through it would land elsewhere.
+    if (files().linkStatus(destination).exists())
+        return {};
+    const bool isWhole = files().copy(source, destination, &handler);
+    return {.ended = isWhole ? Ended::Complete : Ended::Failed};
+}
 
 /// What the copy of one file needs until both sides are closed.
 class ChunkedCopy
@@ -25,14 +37,20 @@ public:
     {
     }
 
-    void run()
+    CopyOutcome run()
     {
-        for (;;) {
-            const size_t count = copyChunk();
-            if (count == 0 || m_handler.fileManagerCopiedBytes(count, m_to.path()))
+        CopyOutcome outcome{.ended = Ended::Complete};
+        while (const size_t count = copyChunk()) {
+            outcome.bytes += count;
+            if (m_handler.fileManagerCopiedBytes(count, m_to.path())) {
+                outcome.ended = Ended::Stopped;
                 break;
+            }
         }
         report(m_to.closeAndFlush());
+        if (m_hasFailed)
+            outcome.ended = Ended::Failed;
+        return outcome;
     }
 
 private:
@@ -57,6 +75,7 @@ private:
             m_buffer = std::make_unique_for_overwrite<char[]>(chunkSize);
         const auto count = m_from.read(m_buffer.get(), size);
         if (!count) {
+            m_hasFailed = true;
             m_handler.fileManagerShouldProceedAfterError(count.error());
             return 0;
         }
@@ -67,6 +86,7 @@ private:
     /// A full stick fails every further chunk too: said once a file.
     void report(const FileResult<> &written)
     {
+        m_hasFailed |= !written;
         if (!written && !std::exchange(m_saidNotWritten, true))
             m_handler.fileManagerShouldProceedAfterError(written.error());
     }
@@ -77,6 +97,7 @@ private:
     std::unique_ptr<char[]> m_buffer;
     bool m_canTransfer = true;
     bool m_saidNotWritten = false;
+    bool m_hasFailed = false;
 };
 
 } // namespace
@@ -90,27 +111,24 @@ void FileManagerTools::createPath(const QString &path)
     [[maybe_unused]] const auto made = files().createFolder(path);
 }
 
-bool FileManagerTools::copyPath(const QString &source, const QString &toPath,
-                                FileOperationHandler &detailedHandler)
+CopyOutcome FileManagerTools::copyPath(const QString &source, const QString &toPath,
+                                       FileOperationHandler &detailedHandler)
 {
     auto from = OpenFile::forReading(source);
     if (!from) {
-        // A link that leads nowhere is in the way too: writing through it would land elsewhere.
         if (files().status(source).isFolder())
-            return !files().linkStatus(toPath).exists() &&
-                   files().copy(source, toPath, &detailedHandler);
+            return copyFolder(source, toPath, detailedHandler);
         if (from.error().number != ENOENT)
             detailedHandler.fileManagerShouldProceedAfterError(from.error());
-        return false;
+        return {};
     }
     auto to = OpenFile::forWriting(toPath, FileManager::Existing::Refuse);
     if (!to) {
         if (to.error().number != EEXIST)
             detailedHandler.fileManagerShouldProceedAfterError(to.error());
-        return false;
+        return {};
     }
-    ChunkedCopy(*from, *to, detailedHandler).run();
-    return true;
+    return ChunkedCopy(*from, *to, detailedHandler).run();
 }
 
 QString FileManagerTools::pathByResolvingAliasesInPath(const QString &path)

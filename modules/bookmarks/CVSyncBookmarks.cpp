@@ -50,18 +50,15 @@ QByteArray lineFor(const Bookmark &bookmark)
 
 } // namespace
 
-CVSyncBookmarks::CVSyncBookmarks(CVSyncModuleDelegate *delegate)
-    : CVSyncModule(delegate, saveName())
+CVSyncBookmarks::CVSyncBookmarks(const QString &volume)
+    : CVSyncModule(volume, saveName())
 {
 }
 
 ModuleKind CVSyncBookmarks::kind()
 {
     return {.saveName = saveName(),
-            .make =
-                [](CVSyncModuleDelegate *delegate) {
-                    return std::make_unique<CVSyncBookmarks>(delegate);
-                },
+            .make = [](const QString &volume) { return std::make_unique<CVSyncBookmarks>(volume); },
             .takesPart =
                 [] {
                     return Settings::firmwareVersion() > 0;

@@ -11,7 +11,7 @@
 class CVSyncBookmarks : public CVSyncModule
 {
 public:
-    explicit CVSyncBookmarks(CVSyncModuleDelegate *delegate);
+    explicit CVSyncBookmarks(const QString &volume);
 
     /// As the catalogue of kinds has it.
     static ModuleKind kind();

@@ -74,18 +74,15 @@ std::vector<Person> sortedPeople()
 
 } // namespace
 
-CVSyncContacts::CVSyncContacts(CVSyncModuleDelegate *delegate)
-    : CVSyncModule(delegate, saveName())
+CVSyncContacts::CVSyncContacts(const QString &volume)
+    : CVSyncModule(volume, saveName())
 {
 }
 
 ModuleKind CVSyncContacts::kind()
 {
     return {.saveName = saveName(),
-            .make =
-                [](CVSyncModuleDelegate *delegate) {
-                    return std::make_unique<CVSyncContacts>(delegate);
-                },
+            .make = [](const QString &volume) { return std::make_unique<CVSyncContacts>(volume); },
             .takesPart =
                 [] {
                     return Settings::firmwareVersion() > 0;

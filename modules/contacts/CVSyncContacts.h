@@ -11,7 +11,7 @@
 class CVSyncContacts : public CVSyncModule
 {
 public:
-    explicit CVSyncContacts(CVSyncModuleDelegate *delegate);
+    explicit CVSyncContacts(const QString &volume);
 
     /// As the catalogue of kinds has it.
     static ModuleKind kind();

@@ -72,15 +72,15 @@ void keepConverted(const QString &title)
 
 } // namespace
 
-CVSyncMovies::CVSyncMovies(CVSyncModuleDelegate *delegate)
-    : CVSyncModule(delegate, saveName())
+CVSyncMovies::CVSyncMovies(const QString &volume)
+    : CVSyncModule(volume, saveName())
 {
 }
 
 ModuleKind CVSyncMovies::kind()
 {
-    return {.saveName = saveName(), .make = [](CVSyncModuleDelegate *delegate) {
-                return std::make_unique<CVSyncMovies>(delegate);
+    return {.saveName = saveName(), .make = [](const QString &volume) {
+                return std::make_unique<CVSyncMovies>(volume);
             }};
 }
 

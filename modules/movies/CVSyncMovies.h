@@ -12,7 +12,7 @@
 class CVSyncMovies : public CVSyncModule
 {
 public:
-    explicit CVSyncMovies(CVSyncModuleDelegate *delegate);
+    explicit CVSyncMovies(const QString &volume);
 
     /// As the catalogue of kinds has it.
     static ModuleKind kind();

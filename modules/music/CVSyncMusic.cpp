@@ -39,15 +39,15 @@ bool isPlayable(const MusicLibrary::Track &track, qint64 firmware)
 
 } // namespace
 
-CVSyncMusic::CVSyncMusic(CVSyncModuleDelegate *delegate)
-    : CVSyncModule(delegate, saveName())
+CVSyncMusic::CVSyncMusic(const QString &volume)
+    : CVSyncModule(volume, saveName())
 {
 }
 
 ModuleKind CVSyncMusic::kind()
 {
-    return {.saveName = saveName(), .make = [](CVSyncModuleDelegate *delegate) {
-                return std::make_unique<CVSyncMusic>(delegate);
+    return {.saveName = saveName(), .make = [](const QString &volume) {
+                return std::make_unique<CVSyncMusic>(volume);
             }};
 }
 

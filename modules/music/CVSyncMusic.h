@@ -11,7 +11,7 @@
 class CVSyncMusic : public CVSyncModule
 {
 public:
-    explicit CVSyncMusic(CVSyncModuleDelegate *delegate);
+    explicit CVSyncMusic(const QString &volume);
 
     /// As the catalogue of kinds has it.
     static ModuleKind kind();

@@ -56,15 +56,15 @@ QString captionOf(const PhotoLibrary::Image &image)
 
 } // namespace
 
-CVSyncPhotos::CVSyncPhotos(CVSyncModuleDelegate *delegate)
-    : CVSyncModule(delegate, saveName())
+CVSyncPhotos::CVSyncPhotos(const QString &volume)
+    : CVSyncModule(volume, saveName())
 {
 }
 
 ModuleKind CVSyncPhotos::kind()
 {
-    return {.saveName = saveName(), .make = [](CVSyncModuleDelegate *delegate) {
-                return std::make_unique<CVSyncPhotos>(delegate);
+    return {.saveName = saveName(), .make = [](const QString &volume) {
+                return std::make_unique<CVSyncPhotos>(volume);
             }};
 }
 

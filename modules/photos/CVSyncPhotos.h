@@ -10,7 +10,7 @@
 class CVSyncPhotos : public CVSyncModule
 {
 public:
-    explicit CVSyncPhotos(CVSyncModuleDelegate *delegate);
+    explicit CVSyncPhotos(const QString &volume);
 
     /// As the catalogue of kinds has it.
     static ModuleKind kind();

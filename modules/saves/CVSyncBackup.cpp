@@ -5,13 +5,14 @@
 #include "platform/core/Localized.h"
 #include "platform/files/FileManager.h"
 #include "sync/ErrorLog.h"
+#include "sync/StickEditor.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
 
 #include <iterator>
 
-CVSyncBackup::CVSyncBackup(CVSyncModuleDelegate *delegate, const Clock &clock)
-    : CVSyncModule(delegate, saveName())
+CVSyncBackup::CVSyncBackup(const QString &volume, const Clock &clock)
+    : CVSyncModule(volume, saveName())
     , m_clock(clock)
 {
 }
@@ -21,8 +22,8 @@ ModuleKind CVSyncBackup::kind(const Clock &clock)
     // Saves are copied to the computer: they take no room on the stick.
     return {.saveName = saveName(),
             .make =
-                [&clock](CVSyncModuleDelegate *delegate) {
-                    return std::make_unique<CVSyncBackup>(delegate, clock);
+                [&clock](const QString &volume) {
+                    return std::make_unique<CVSyncBackup>(volume, clock);
                 },
             .takesPart = [] { return Settings::syncBackup(); },
             .countsInEstimate = false};
@@ -90,26 +91,31 @@ std::vector<CVSyncItem> CVSyncBackup::itemsToSync()
     return items;
 }
 
-void CVSyncBackup::cleanUp()
+std::vector<FolderToCleanUp> CVSyncBackup::foldersToCleanUp() const
 {
-    SaveOnStick::removeLeftovers(pspVolume()); // of a restore that was interrupted
-    cleanUp(pspVolume() + QStringLiteral("/PSP/GAME"), false);
-    cleanUp(SaveOnStick::parentOn(pspVolume()), false);
-    removeOldBackups();
+    return {{pspVolume() + QStringLiteral("/PSP/GAME"), false},
+            {SaveOnStick::parentOn(pspVolume()), false}};
 }
 
-void CVSyncBackup::removeOldBackups()
+QStringList CVSyncBackup::leftovers() const
+{
+    return SaveOnStick::leftoversOn(pspVolume());
+}
+
+CopyOutcome CVSyncBackup::Placer::place(const CVSyncItem &item, FileOperationHandler &handler)
+{
+    const bool isKept =
+        BackupHistory::keep(item.source, PathComponents::folderOf(item.destination), handler);
+    return {.ended = isKept ? CopyOutcome::Ended::Complete : CopyOutcome::Ended::Failed};
+}
+
+void CVSyncBackup::Placer::prune()
 {
     // The run may add one more.
     constexpr qsizetype kept[] = {9, 24, 49};
     const qint64 choice = Settings::backupsToKeep();
     if (choice >= 1 && choice <= std::ssize(kept))
         BackupHistory::prune(kept[choice - 1]);
-}
-
-bool CVSyncBackup::copyItem(const CVSyncItem &item)
-{
-    return BackupHistory::keep(item.source, PathComponents::folderOf(item.destination), *this);
 }
 
 // --- Restoring
@@ -125,8 +131,9 @@ CVSyncBackup::Restored CVSyncBackup::restoreBackupWithIdentifier(const QString &
     if (volume.isEmpty() || !files().exists(volume + QStringLiteral("/MEMSTICK.IND")))
         return Restored::NoStick;
     ErrorLog errors;
-    SaveOnStick::removeLeftovers(volume);
-    const SaveOnStick save(volume, backup->save);
+    StickEditor stick(volume);
+    SaveOnStick save(stick, backup->save);
+    save.removeLeftovers();
     if (save.exists()) {
         if (files().contentsEqual(backup->folder(), save.folder()))
             return Restored::Done;

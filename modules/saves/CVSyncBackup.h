@@ -17,7 +17,7 @@ class Clock;
 class CVSyncBackup : public CVSyncModule
 {
 public:
-    CVSyncBackup(CVSyncModuleDelegate *delegate, const Clock &clock);
+    CVSyncBackup(const QString &volume, const Clock &clock);
 
     /// As the catalogue of kinds has it. The clock is not owned and outlives the runs.
     static ModuleKind kind(const Clock &clock);
@@ -49,15 +49,21 @@ public:
 
     QString moduleName() const override;
     QString rootSyncFolder() const override;
+    /// Where games and their saves lie on the stick: what others left behind goes there too.
+    std::vector<FolderToCleanUp> foldersToCleanUp() const override;
+    QStringList leftovers() const override;
     std::vector<CVSyncItem> itemsToSync() override;
-    using CVSyncModule::cleanUp;
-    void cleanUp() override;
-
-protected:
-    bool copyItem(const CVSyncItem &item) override;
+    ItemPlacer *placer() override { return &m_placer; }
 
 private:
-    static void removeOldBackups();
+    /// Writes and prunes the history.
+    class Placer : public ItemPlacer
+    {
+    public:
+        CopyOutcome place(const CVSyncItem &item, FileOperationHandler &handler) override;
+        void prune() override;
+    };
 
     const Clock &m_clock;
+    Placer m_placer;
 };

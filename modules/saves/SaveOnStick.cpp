@@ -1,8 +1,8 @@
 #include "modules/saves/own/SaveOnStick.h"
 
 #include "platform/files/FileManager.h"
+#include "sync/StickEditor.h"
 #include "sync/StickFiles.h"
-#include "util/FileManagerTools.h"
 
 namespace {
 
@@ -16,11 +16,20 @@ QString replaced(const QString &volume)
     return StickFiles::caravelFolder(volume) + QStringLiteral("/Replaced");
 }
 
+/// False, reported, where the folder isn't there afterwards.
+bool makeFolder(StickEditor &stick, const QString &folder, FileOperationHandler &handler)
+{
+    const auto made = stick.makeFolders(folder);
+    if (!made)
+        handler.fileManagerShouldProceedAfterError(made.error());
+    return bool(made);
+}
+
 } // namespace
 
-SaveOnStick::SaveOnStick(const QString &volume, const QString &save)
-    : m_volume(volume)
-    , m_folder(parentOn(volume) + u'/' + save)
+SaveOnStick::SaveOnStick(StickEditor &stick, const QString &save)
+    : m_stick(stick)
+    , m_folder(parentOn(stick.volume()) + u'/' + save)
 {
 }
 
@@ -29,12 +38,9 @@ QString SaveOnStick::parentOn(const QString &volume)
     return volume + QStringLiteral("/PSP/SAVEDATA");
 }
 
-void SaveOnStick::removeLeftovers(const QString &volume)
+QStringList SaveOnStick::leftoversOn(const QString &volume)
 {
-    for (const QString &leftover : {incoming(volume), replaced(volume)}) {
-        if (files().linkStatus(leftover).exists())
-            files().remove(leftover, nullptr);
-    }
+    return {incoming(volume), replaced(volume)};
 }
 
 bool SaveOnStick::exists() const
@@ -42,22 +48,31 @@ bool SaveOnStick::exists() const
     return files().linkStatus(m_folder).exists();
 }
 
-bool SaveOnStick::takeAway(FileOperationHandler &handler) const
+void SaveOnStick::removeLeftovers()
 {
-    FileManagerTools::createPath(StickFiles::caravelFolder(m_volume));
-    return files().move(m_folder, replaced(m_volume), &handler);
+    for (const QString &leftover : leftoversOn(m_stick.volume())) {
+        if (files().linkStatus(leftover).exists())
+            m_stick.remove(leftover, nullptr);
+    }
 }
 
-bool SaveOnStick::put(const QString &backup, FileOperationHandler &handler) const
+bool SaveOnStick::takeAway(FileOperationHandler &handler)
 {
-    removeLeftovers(m_volume);
-    const QString partial = incoming(m_volume);
-    FileManagerTools::createPath(parentOn(m_volume));
-    FileManagerTools::createPath(StickFiles::caravelFolder(m_volume));
-    const bool done =
-        files().copy(backup, partial, &handler) && files().move(partial, m_folder, &handler);
+    return makeFolder(m_stick, StickFiles::caravelFolder(m_stick.volume()), handler) &&
+           m_stick.move(m_folder, replaced(m_stick.volume()), handler);
+}
+
+bool SaveOnStick::put(const QString &backup, FileOperationHandler &handler)
+{
+    removeLeftovers();
+    const QString volume = m_stick.volume();
+    const QString partial = incoming(volume);
+    const bool done = makeFolder(m_stick, parentOn(volume), handler) &&
+                      makeFolder(m_stick, StickFiles::caravelFolder(volume), handler) &&
+                      m_stick.copyTree(backup, partial, handler) &&
+                      m_stick.move(partial, m_folder, handler);
     if (!done)
-        removeLeftovers(m_volume);
-    files().flush(parentOn(m_volume));
+        removeLeftovers();
+    m_stick.flush();
     return done;
 }

@@ -40,6 +40,14 @@ EntryKind kindOf(const dirent &entry, int folder)
     }
 }
 
+Entry measured(const dirent &entry, int folder)
+{
+    struct stat status;
+    if (::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return {entry.d_name, EntryKind::Unknown};
+    return {entry.d_name, Posix::kindOf(status), static_cast<std::uint64_t>(status.st_size)};
+}
+
 bool isSelfOrParent(const char *name)
 {
     return name[0] == '.' && (name[1] == 0 || (name[1] == '.' && name[2] == 0));
@@ -100,7 +108,7 @@ EntryKind kindOf(const struct stat &status)
     }
 }
 
-std::optional<std::vector<Entry>> entriesOf(Descriptor folder)
+std::optional<std::vector<Entry>> entriesOf(Descriptor folder, Sizes sizes)
 {
     const std::unique_ptr<DIR, CloseFolder> listing(folder ? ::fdopendir(folder.get()) : nullptr);
     if (!listing)
@@ -110,7 +118,9 @@ std::optional<std::vector<Entry>> entriesOf(Descriptor folder)
     errno = 0;
     while (const dirent *entry = ::readdir(listing.get())) {
         if (!isSelfOrParent(entry->d_name))
-            entries.push_back({entry->d_name, kindOf(*entry, descriptor)});
+            entries.push_back(sizes == Sizes::Read
+                                  ? measured(*entry, descriptor)
+                                  : Entry{entry->d_name, kindOf(*entry, descriptor)});
         errno = 0;
     }
     if (errno != 0)

@@ -1,6 +1,7 @@
 #include "platform/files/FileManager.h"
 
 #include "platform/core/own/Posix.h"
+#include "platform/files/own/MountInfo.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -258,7 +259,13 @@ std::optional<VolumeSpace> FileManager::volumeSpace(const QString &path) const
     if (::statvfs(Posix::native(path).constData(), &space) != 0)
         return std::nullopt;
     return VolumeSpace{quint64(space.f_blocks) * space.f_frsize,
-                       quint64(space.f_bavail) * space.f_frsize};
+                       quint64(space.f_bavail) * space.f_frsize,
+                       std::max<quint64>(space.f_frsize, 1)};
+}
+
+QString FileManager::fileSystemType(const QString &path) const
+{
+    return QString::fromLatin1(MountInfo::typeOf(path));
 }
 
 QString FileManager::displayName(const QString &path) const

@@ -47,6 +47,9 @@ struct FolderEntry
     bool isFolder = false; ///< a folder itself; false for a link to one
     /// Index of the folder that holds it in the same listing; -1: the listed folder.
     int parent = -1;
+    // Only where sizes were asked for
+    bool isLink = false;
+    quint64 size = 0; ///< bytes; of a link itself
 };
 
 /// Size and free space of a file system in bytes; free is what an ordinary user can still fill.
@@ -54,6 +57,7 @@ struct VolumeSpace
 {
     quint64 size = 0;
     quint64 free = 0;
+    quint64 clusterSize = 1; ///< what the smallest file takes
 };
 
 /// What tells that a file is still the one that was looked at before.
@@ -94,7 +98,9 @@ public:
     /// be read counts as empty and is named in the system log, as is an entry that is left out
     /// because its name is no valid UTF-8 (no QString could lead back to it).
     virtual std::vector<FolderEntry> subpaths(const QString &folder) const;
-    /// The same without what lies deeper than the folder's own entries.
+    /// The same with sizes, at the price of a stat call for each entry.
+    virtual std::vector<FolderEntry> subpathsWithSizes(const QString &folder) const;
+    /// The same as subpaths() without what lies deeper than the folder's own entries.
     virtual std::vector<FolderEntry> entries(const QString &folder) const;
 
     /// Whether two files, or two folder trees entry by entry, hold the same bytes. Links are
@@ -171,6 +177,10 @@ public:
 
     /// Space of the file system that holds the path; nothing where the path doesn't exist.
     virtual std::optional<VolumeSpace> volumeSpace(const QString &path) const;
+
+    /// The kernel's name for the type of the file system that holds the path ("vfat", "ext4"; what
+    /// runs in a process of its own is "fuse…"); empty where it can't be told.
+    virtual QString fileSystemType(const QString &path) const;
 
     /// What the desktop would call the file: its name.
     virtual QString displayName(const QString &path) const;

@@ -16,9 +16,10 @@ class Lister
 public:
     enum class Depth { Whole, Top };
 
-    Lister(std::string top, Depth depth)
+    Lister(std::string top, Depth depth, Posix::Sizes sizes = Posix::Sizes::Skip)
         : m_top(std::move(top))
         , m_depth(depth)
+        , m_sizes(sizes)
     {
     }
 
@@ -31,7 +32,7 @@ public:
 private:
     void listFolder(const std::string &folder, const QString &prefix, int parent, Links links)
     {
-        const auto entries = Trees::entriesAt(folder, links);
+        const auto entries = Trees::entriesAt(folder, links, m_sizes);
         if (!entries && parent < 0 && (errno == ENOENT || errno == ENOTDIR))
             return;
         if (!entries) {
@@ -53,7 +54,7 @@ private:
         }
         const bool isFolder = entry.kind == EntryKind::Folder;
         const QString path = prefix + name.toString();
-        m_found.push_back({path, isFolder, parent});
+        m_found.push_back({path, isFolder, parent, entry.kind == EntryKind::Link, entry.size});
         const int index = static_cast<int>(m_found.size()) - 1;
         if (isFolder && m_depth == Depth::Whole)
             listFolder(folder + '/' + entry.name, path + u'/', index, Links::Refuse);
@@ -61,6 +62,7 @@ private:
 
     const std::string m_top;
     const Depth m_depth;
+    const Posix::Sizes m_sizes;
     std::vector<FolderEntry> m_found;
 };
 
@@ -69,6 +71,11 @@ private:
 std::vector<FolderEntry> FileManager::subpaths(const QString &folder) const
 {
     return Lister(nativeText(folder), Lister::Depth::Whole).list();
+}
+
+std::vector<FolderEntry> FileManager::subpathsWithSizes(const QString &folder) const
+{
+    return Lister(nativeText(folder), Lister::Depth::Whole, Posix::Sizes::Read).list();
 }
 
 std::vector<FolderEntry> FileManager::entries(const QString &folder) const

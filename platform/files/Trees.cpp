@@ -20,7 +20,7 @@ std::optional<std::string> Trees::linkTarget(const std::string &path)
 }
 
 std::optional<std::vector<Posix::Entry>> Trees::entriesAt(const std::string &folder,
-                                                          Posix::Links links)
+                                                          Posix::Links links, Posix::Sizes sizes)
 {
-    return Posix::entriesOf(Posix::openFolder(AT_FDCWD, folder.c_str(), links));
+    return Posix::entriesOf(Posix::openFolder(AT_FDCWD, folder.c_str(), links), sizes);
 }

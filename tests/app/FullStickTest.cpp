@@ -75,12 +75,13 @@ protected:
 
 TEST_F(FullStick, HoldsWhatFitsAfterTenOverflows)
 {
+    ASSERT_TRUE(helper.sync());
     quint64 leftAtFirst = 0;
     for (int round = 0; round < 10; ++round) {
         const QString folder = QStringLiteral("Many %1/").arg(round);
         for (int i = 0; i < many; ++i)
             writeFile(dropbox(folder + QStringLiteral("%1.mp3").arg(i)), contents(round));
-        EXPECT_THAT(alertsOfFailedSync(), ElementsAre(QStringLiteral("Memory stick full!")));
+        EXPECT_THAT(alertsOfFailedSync(), ElementsAre(QStringLiteral("Sync too large!")));
         EXPECT_EQ(missing(), QStringList()) << round;
 
         writeFile(dropbox(folder + QStringLiteral("large.mp3")), {});

@@ -349,7 +349,9 @@ TEST_F(Faults, EveryCallMayFail)
             }
         }
     }
-    EXPECT_GT(alerts, 0) << "a stick that fills is said to be full";
+    if (isFullLength()) {
+        EXPECT_GT(alerts, 0) << "a stick that fills is said to be full";
+    }
 }
 
 TEST_F(Faults, ShortAndInterruptedCallsLoseNothing)

@@ -33,10 +33,10 @@ public:
         ++statusCalls;
         return FileManager::linkStatus(path);
     }
-    std::vector<FolderEntry> subpaths(const QString &folder) const override
+    std::vector<FolderEntry> subpathsWithSizes(const QString &folder) const override
     {
         ++listings;
-        return FileManager::subpaths(folder);
+        return FileManager::subpathsWithSizes(folder);
     }
     FileResult<> createFolder(const QString &path) override
     {
@@ -100,7 +100,7 @@ public:
     {
         auto space = FileManager::volumeSpace(path);
         if (space && freeBytes)
-            space->free = *freeBytes;
+            *space = {.size = space->size, .free = *freeBytes};
         return space;
     }
 

@@ -17,16 +17,16 @@ public:
         QString name = QStringLiteral("Test");
     };
 
-    ListModule(CVSyncModuleDelegate *delegate, const QString &saveName, const Wishes &wishes)
-        : CVSyncModule(delegate, saveName)
+    ListModule(const QString &volume, const QString &saveName, const Wishes &wishes)
+        : CVSyncModule(volume, saveName)
         , m_wishes(wishes)
     {
     }
 
     static ModuleKind kind(const QString &saveName, const Wishes &wishes)
     {
-        return {.saveName = saveName, .make = [saveName, &wishes](CVSyncModuleDelegate *delegate) {
-                    return std::make_unique<ListModule>(delegate, saveName, wishes);
+        return {.saveName = saveName, .make = [saveName, &wishes](const QString &volume) {
+                    return std::make_unique<ListModule>(volume, saveName, wishes);
                 }};
     }
 

@@ -5,8 +5,8 @@
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
-#include "sync/DeviceIcon.h"
 #include "sync/ModuleSelection.h"
+#include "sync/StickEditor.h"
 #include "util/Settings.h"
 
 #include <QDir>
@@ -217,7 +217,7 @@ TEST(Icon, IsTheMonthsAndMarksTheVolume)
     writeFile(folder / QStringLiteral("resources/PSP3.icns"), "march");
     writeFile(folder / QStringLiteral("volume/.VolumeIcon.icns"), "february");
     const QString volume = folder / QStringLiteral("volume");
-    DeviceIcon::set(volume, folder / QStringLiteral("resources"), QDate(2026, 3, 31));
+    StickEditor(volume).setIcon(folder / QStringLiteral("resources/PSP3.icns"));
     EXPECT_EQ(readFile(volume + QStringLiteral("/.VolumeIcon.icns")), "march");
     unsigned char info[32] = {};
     if (::getxattr(volume.toUtf8().constData(), "user.com.apple.FinderInfo", info, sizeof info) < 0)

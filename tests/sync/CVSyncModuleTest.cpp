@@ -4,7 +4,7 @@
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
-#include "sync/SyncRun.h"
+#include "sync/Compare.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
 
@@ -26,8 +26,8 @@ QStringList uniqueNames(const QStringList &destinations, bool tellsCaseApart = t
     for (const QString &destination : destinations)
         items.emplace_back(QString(), destination, QString());
     QStringList names;
-    for (const CVSyncItem &item :
-         CVSyncModule::fixDuplicateDestinations(std::move(items), tellsCaseApart))
+    for (const CVSyncItem &item : Compare::fixDuplicateDestinations(
+             std::move(items), StickNames(QString(), {.tellsCaseApart = tellsCaseApart})))
         names.append(item.destination);
     return names;
 }
@@ -192,16 +192,16 @@ TEST_F(CVSyncModuleTest, SwitchedOffItTakesItsFilesAway)
     EXPECT_TRUE(harness.index(QStringLiteral("Music")).isEmpty());
 }
 
-TEST_F(CVSyncModuleTest, NeverCleansOutsideTheStick)
+TEST(Compare, NeverCleansOutsideTheStick)
 {
-    // The second folder's path begins with the stick's, letter by letter.
-    for (const QString &outside :
-         {harness.home(QStringLiteral("PSP")), harness.stick() + QStringLiteral("-2")}) {
-        writeFile(outside + QStringLiteral("/mine"), "mine");
-        SyncRun run(harness.manager, harness.stick());
-        ListModule module(&run, QStringLiteral("Music"), wishes);
-        module.cleanUp(outside, false);
-        EXPECT_EQ(readFile(outside + QStringLiteral("/mine")), "mine");
+    const QString volume = QStringLiteral("/media/PSP");
+    for (const QString &folder :
+         {QStringLiteral("/home/PSP"), volume + QStringLiteral("-2"), QStringLiteral("/")}) {
+        KindInput input;
+        input.volume = volume;
+        input.shouldClearUnsyncedFiles = true;
+        input.folders = {{folder, false, {{QStringLiteral("mine")}}, {}}};
+        EXPECT_TRUE(Compare::plan(input, StickNames(volume, {})).removals.empty());
     }
 }
 

@@ -15,6 +15,8 @@ using namespace FileManagerTools;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+using Ended = CopyOutcome::Ended;
+
 namespace {
 
 constexpr qsizetype mebibyte = 1 << 20;
@@ -44,7 +46,7 @@ protected:
 TEST_F(CopyPath, CopiesInChunksAndFlushesOnce)
 {
     disk.largestWrite = 700'000; // short writes are continued
-    EXPECT_TRUE(copyPath(source, copy, notes));
+    EXPECT_EQ(copyPath(source, copy, notes).ended, Ended::Complete);
     EXPECT_EQ(readFile(copy), contents);
     EXPECT_THAT(notes.chunks, ElementsAre(1048576, 1048576, 524288));
     EXPECT_EQ(notes.copied, copy);
@@ -52,11 +54,11 @@ TEST_F(CopyPath, CopiesInChunksAndFlushesOnce)
     EXPECT_EQ(disk.closed, 2);
     FileManager::setDefaultManager(nullptr); // a system that moves the bytes by itself
     OperationNotes same(folder.path());
-    EXPECT_TRUE(copyPath(source, folder / "second", same));
+    EXPECT_EQ(copyPath(source, folder / "second", same).ended, Ended::Complete);
     EXPECT_EQ(same.chunks, notes.chunks);
     EXPECT_EQ(readFile(folder / "second"), contents);
     writeFile(folder / "empty", {});
-    EXPECT_TRUE(copyPath(folder / "empty", folder / "third", same));
+    EXPECT_EQ(copyPath(folder / "empty", folder / "third", same).ended, Ended::Complete);
     EXPECT_EQ(same.chunks.size(), 3U);
     EXPECT_TRUE(QFile::exists(folder / "third"));
 }
@@ -82,7 +84,8 @@ TEST_F(CopyPath, AStopOrAFailureMidwayLeavesAShortFileThatIsClosedAndFlushed)
         disk.readableTimes = c.readableTimes;
         disk.writableBytes = c.writableBytes;
         disk.closed = disk.flushed = 0;
-        EXPECT_TRUE(copyPath(source, copy, told));
+        const auto ended = c.stopAfter > 0 ? Ended::Stopped : Ended::Failed;
+        EXPECT_EQ(copyPath(source, copy, told).ended, ended) << c.size;
         EXPECT_EQ(told.chunks.size(), c.chunks) << c.size;
         EXPECT_EQ(told.errors, c.errors);
         EXPECT_EQ(readFile(copy).size(), c.size);
@@ -96,25 +99,25 @@ TEST_F(CopyPath, NeverOverwritesAndReportsWhatCannotBeMadeOnce)
 {
     writeFile(copy, "old");
     QFile::link(folder / "outside", folder / "dangling");
-    EXPECT_FALSE(copyPath(source, copy, notes));
-    EXPECT_FALSE(copyPath(source, folder / "dangling", notes));
-    EXPECT_FALSE(copyPath(folder / "none", folder / "second", notes));
+    EXPECT_EQ(copyPath(source, copy, notes).ended, Ended::Refused);
+    EXPECT_EQ(copyPath(source, folder / "dangling", notes).ended, Ended::Refused);
+    EXPECT_EQ(copyPath(folder / "none", folder / "second", notes).ended, Ended::Refused);
     EXPECT_EQ(readFile(copy), "old");
     EXPECT_FALSE(QFile::exists(folder / "outside"));
     EXPECT_THAT(notes.errors, IsEmpty());
-    EXPECT_FALSE(copyPath(source, folder / "none/copy", notes));
+    EXPECT_EQ(copyPath(source, folder / "none/copy", notes).ended, Ended::Refused);
     EXPECT_EQ(disk.closed, 3); // the source, each time that it was opened
     ASSERT_EQ(::mkfifo(qPrintable(folder / "pipe"), 0600), 0);
-    EXPECT_FALSE(copyPath(folder / "pipe", folder / "second", notes));
+    EXPECT_EQ(copyPath(folder / "pipe", folder / "second", notes).ended, Ended::Refused);
     EXPECT_THAT(notes.errors, ElementsAre("Couldn't create none/copy", "Couldn't read pipe"));
 }
 
 TEST_F(CopyPath, CopiesFoldersAsTrees)
 {
     writeFile(folder / "tree/sub/x", "x");
-    EXPECT_TRUE(copyPath(folder / "tree", copy, notes));
+    EXPECT_EQ(copyPath(folder / "tree", copy, notes).ended, Ended::Complete);
     EXPECT_EQ(treeOf(copy).join(u' '), u"sub/ sub/x");
-    EXPECT_FALSE(copyPath(folder / "tree", copy, notes));
+    EXPECT_EQ(copyPath(folder / "tree", copy, notes).ended, Ended::Refused);
     EXPECT_THAT(notes.errors, IsEmpty());
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class FileOperationHandler;
+class StickEditor;
 
 /// One game save on a stick. It leaves its place and comes to it whole, in one step each: half a
 /// save is worse than none, and would be backed up as one. What is on its way lies in the stick's
@@ -10,22 +12,24 @@ class FileOperationHandler;
 class SaveOnStick
 {
 public:
-    SaveOnStick(const QString &volume, const QString &save);
+    /// The editor is not owned and outlives it.
+    SaveOnStick(StickEditor &stick, const QString &save);
 
     /// The folder of a stick's saves.
     static QString parentOn(const QString &volume);
-    /// Removes what an interrupted restore left on a stick.
-    static void removeLeftovers(const QString &volume);
+    /// Where an interrupted restore may have left something on a stick.
+    static QStringList leftoversOn(const QString &volume);
 
     QString folder() const { return m_folder; }
     bool exists() const;
+    void removeLeftovers();
     /// Takes it out of its place; on failure it is as it was.
-    bool takeAway(FileOperationHandler &handler) const;
+    bool takeAway(FileOperationHandler &handler);
     /// Puts a copy of a backup's files in its place, where nothing must be, and removes what was
     /// taken away; on failure nothing is there.
-    bool put(const QString &backup, FileOperationHandler &handler) const;
+    bool put(const QString &backup, FileOperationHandler &handler);
 
 private:
-    const QString m_volume;
+    StickEditor &m_stick;
     const QString m_folder;
 };

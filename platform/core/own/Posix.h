@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cerrno>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -71,11 +72,15 @@ struct Entry
 {
     std::string name;
     EntryKind kind = EntryKind::Unknown; ///< Unknown where the entry vanished meanwhile
+    std::uint64_t size = 0;              ///< bytes, where sizes are read
 };
+
+/// Sizes cost a stat call for each entry.
+enum class Sizes { Skip, Read };
 
 /// The entries of an open folder in byte order of names; nothing and errno where it can't be read.
 /// Takes the descriptor over.
-std::optional<std::vector<Entry>> entriesOf(Descriptor folder);
+std::optional<std::vector<Entry>> entriesOf(Descriptor folder, Sizes sizes = Sizes::Skip);
 
 enum class Links { Follow, Refuse };
 

@@ -18,6 +18,7 @@ std::string nativeText(const QString &path);
 std::optional<std::string> linkTarget(const std::string &path);
 
 /// In byte order of names.
-std::optional<std::vector<Posix::Entry>> entriesAt(const std::string &folder, Posix::Links links);
+std::optional<std::vector<Posix::Entry>> entriesAt(const std::string &folder, Posix::Links links,
+                                                   Posix::Sizes sizes = Posix::Sizes::Skip);
 
 } // namespace Trees

@@ -3,7 +3,6 @@
 #include "modules/bookmarks/own/FirefoxBookmarks.h"
 #include "platform/lists/PropertyList.h"
 #include "support/SyncHarness.h"
-#include "sync/SyncRun.h"
 
 #include <QFile>
 
@@ -70,11 +69,7 @@ protected:
         return readFile(support + QStringLiteral("Caravel/bookmarks.html"));
     }
 
-    std::vector<CVSyncItem> items()
-    {
-        SyncRun run(harness.manager, harness.stick());
-        return CVSyncBookmarks(&run).itemsToSync();
-    }
+    std::vector<CVSyncItem> items() { return CVSyncBookmarks(harness.stick()).itemsToSync(); }
 
     /// What the browser's file offers: "title size", then its bookmarks as "  title=address".
     QString offered(Source source, const QByteArray &contents)

@@ -3,7 +3,6 @@
 #include "modules/contacts/own/ContactsPage.h"
 #include "platform/people/ContactPicture.h"
 #include "support/SyncHarness.h"
-#include "sync/SyncRun.h"
 #include "util/QMMD5Hasher.h"
 
 #include <QBuffer>
@@ -101,11 +100,7 @@ protected:
     {
         return readFile(harness.stick(QStringLiteral("Caravel/Contacts/") + name));
     }
-    std::vector<CVSyncItem> items()
-    {
-        SyncRun run(harness.manager, harness.stick());
-        return CVSyncContacts(&run).itemsToSync();
-    }
+    std::vector<CVSyncItem> items() { return CVSyncContacts(harness.stick()).itemsToSync(); }
 };
 
 } // namespace

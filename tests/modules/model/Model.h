@@ -84,12 +84,6 @@ struct Kind
     std::function<std::vector<Wish>(World &, Dice &, SyncHarness &)> roll;
 };
 
-template <typename Module>
-std::unique_ptr<CVSyncModule> make(CVSyncModuleDelegate *delegate)
-{
-    return std::make_unique<Module>(delegate);
-}
-
 /// Builds, runs, compares, and runs again, round for round.
 void holdAgainstTheRules(const Kind &kind);
 

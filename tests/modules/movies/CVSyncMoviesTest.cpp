@@ -2,7 +2,6 @@
 
 #include "support/SyncHarness.h"
 #include "sync/ModuleSelection.h"
-#include "sync/SyncRun.h"
 #include "util/Settings.h"
 
 #include <QDir>
@@ -48,9 +47,8 @@ protected:
     }
     QStringList items()
     {
-        SyncRun run(harness.manager, harness.stick());
         QStringList lines;
-        for (const CVSyncItem &item : CVSyncMovies(&run).itemsToSync())
+        for (const CVSyncItem &item : CVSyncMovies(harness.stick()).itemsToSync())
             lines.append(item.destination.mid(harness.stick(QStringLiteral("MP_ROOT/")).size()) +
                          QStringLiteral(" < ") + item.source.section(u'/', -1) +
                          QStringLiteral(" : ") + item.description);

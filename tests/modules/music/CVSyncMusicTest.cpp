@@ -1,7 +1,6 @@
 #include "modules/music/CVSyncMusic.h"
 #include "support/MusicLibraryFile.h"
 #include "support/SyncHarness.h"
-#include "sync/SyncRun.h"
 #include "util/PathComponents.h"
 
 #include <QDir>
@@ -48,8 +47,7 @@ protected:
     std::vector<CVSyncItem> itemsOf(const QByteArray &file)
     {
         writeFile(libraryPath(), file);
-        SyncRun run(harness.manager, harness.stick());
-        return CVSyncMusic(&run).itemsToSync();
+        return CVSyncMusic(harness.stick()).itemsToSync();
     }
     /// Destinations of everything that is to be synced, below the module's folder.
     QStringList placesOf(const QByteArray &file)

@@ -2,7 +2,6 @@
 
 #include "support/PhotoLibraryFile.h"
 #include "support/SyncHarness.h"
-#include "sync/SyncRun.h"
 
 #include <QFile>
 
@@ -47,9 +46,8 @@ protected:
     /// "place on the stick < source" of everything that is to be synced.
     QStringList items()
     {
-        SyncRun run(harness.manager, harness.stick());
         QStringList lines;
-        for (const CVSyncItem &item : CVSyncPhotos(&run).itemsToSync())
+        for (const CVSyncItem &item : CVSyncPhotos(harness.stick()).itemsToSync())
             lines.append(item.destination.mid(harness.stick(QStringLiteral("PSP/PHOTO/")).size()) +
                          QStringLiteral(" < ") + item.source.section(u'/', -1));
         return lines;

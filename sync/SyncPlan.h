@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/files/FileError.h"
+#include "sync/CVSyncItem.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+/// What becomes of one thing that the selection wants.
+struct PlannedItem
+{
+    enum class Action {
+        Copy,    ///< nothing lies at its destination
+        Replace, ///< what lies there goes first
+        InPlace,
+        LeaveOut,
+    };
+    enum class Reason {
+        None,
+        Missing, ///< the source doesn't exist
+        Link,    ///< a link lies on the way to the destination
+        /// The source is other systems' "._" file, which never goes along; what lies at its
+        /// destination in another size goes all the same.
+        Companion,
+    };
+
+    CVSyncItem item;
+    Action action = Action::Copy;
+    Reason reason = Reason::None; ///< why it is not copied
+    quint64 clusterBytes = 0;     ///< what its copy takes of the stick
+    bool isStranger = false;      ///< what is replaced was placed by no earlier sync
+
+    bool isCopied() const
+    {
+        return reason == Reason::None && (action == Action::Copy || action == Action::Replace);
+    }
+};
+
+/// Something that the clean-up removes.
+struct PlannedRemoval
+{
+    QString path;                 ///< absolute
+    bool isEmptiedFolder = false; ///< goes only as long as it is empty
+    bool isUnwantedFile = false;  ///< one that the kind clears away; else it is clutter
+    bool isStranger = false;      ///< a file that no earlier sync placed
+    quint64 bytes = 0;
+};
+
+/// What a run does for one kind of media.
+struct KindPlan
+{
+    QString saveName;
+    QString moduleName;                   ///< as shown to the user
+    std::vector<PlannedItem> items;       ///< in the order of the kind
+    std::vector<PlannedRemoval> removals; ///< in the order in which they are made
+    QStringList leftovers;                ///< of operations that were cut short; removed unseen
+    std::vector<FileError> errors;        ///< met while looking, to be told to the user
+
+    /// Bytes of everything that the selection wants and that exists, as the sources' sizes say.
+    quint64 syncEstimateSize = 0;
+    /// Bytes of what is to be copied.
+    quint64 syncQueueSize = 0;
+
+    QStringList inPlace(const QString &volume) const;
+};
+
+/// What a run will do, in its order. A value: making one changes nothing on the stick, and a plan
+/// that nobody carries out is a preview.
+struct SyncPlan
+{
+    std::vector<KindPlan> kinds;
+
+    quint64 syncBytesTotal() const;
+    quint64 syncBytesEstimate() const;
+    /// Of the stick's clusters that the copies take; kinds that go elsewhere take none.
+    quint64 clusterBytes() const;
+};

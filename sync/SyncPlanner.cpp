@@ -1,0 +1,204 @@
+#include "sync/SyncPlanner.h"
+
+#include "platform/lists/PropertyList.h"
+#include "sync/CVSyncModule.h"
+#include "sync/StickFiles.h"
+#include "util/PathComponents.h"
+#include "util/Settings.h"
+
+#include <QHash>
+
+#include <utility>
+
+namespace {
+
+MeasuredItem measured(CVSyncItem item)
+{
+    const FileStatus own = files().linkStatus(item.source);
+    // A link on the computer is followed: what it leads to is what is copied, and compared.
+    const FileStatus target =
+        own.kind == FileStatus::Kind::Link ? files().status(item.source) : own;
+    if (target.exists())
+        item.size = target.size;
+    return {std::move(item), target.exists(), target.isFolder()};
+}
+
+std::vector<CVSyncItem> wantedItems(CVSyncModule &module)
+{
+    return Settings::takesPart(module.moduleSaveName()) ? module.itemsToSync()
+                                                        : std::vector<CVSyncItem>();
+}
+
+std::optional<QSet<QString>> readLastIndex(const QString &path, const StickNames &names)
+{
+    if (!files().exists(path))
+        return std::nullopt;
+    // An index that can't be read is an empty one: nothing in it is known to be ours.
+    QSet<QString> keys;
+    for (const QString &entry : PropertyList::readStringArray(path).valueOr({}))
+        keys.insert(names.key(entry));
+    return keys;
+}
+
+/// What the listings tell of the stick, by key.
+class StickListing
+{
+public:
+    StickListing(const std::vector<StickFolder> &folders, QString volume, const StickNames &names)
+        : m_folders(folders)
+        , m_volume(std::move(volume))
+        , m_names(names)
+    {
+        size_t count = 0;
+        for (const StickFolder &folder : folders)
+            count += folder.entries.size();
+        m_entries.reserve(static_cast<qsizetype>(count));
+        for (const StickFolder &folder : folders) {
+            for (const FolderEntry &entry : folder.entries)
+                m_entries.insert(names.key(folder.path + u'/' + entry.path), &entry);
+        }
+    }
+
+    /// Links not followed.
+    FileStatus statusOf(const QString &path) const
+    {
+        if (const auto entry = m_entries.constFind(m_names.key(path)); entry != m_entries.cend())
+            return statusFrom(**entry);
+        return isListed(path) ? FileStatus() : files().linkStatus(path);
+    }
+
+    /// The first folder on the way to the path that is a link; empty: none.
+    QString linkOnTheWayTo(const QString &path)
+    {
+        return linkAtOrAbove(PathComponents::folderOf(path));
+    }
+
+private:
+    static FileStatus statusFrom(const FolderEntry &entry)
+    {
+        using Kind = FileStatus::Kind;
+        return {entry.isFolder ? Kind::Folder : entry.isLink ? Kind::Link : Kind::File, entry.size};
+    }
+
+    bool isListed(const QString &path) const
+    {
+        for (const StickFolder &folder : m_folders) {
+            if (path.size() > folder.path.size() && path.startsWith(folder.path) &&
+                path[folder.path.size()] == u'/')
+                return true;
+        }
+        return false;
+    }
+
+    QString linkAtOrAbove(const QString &folder)
+    {
+        if (!StickFiles::isOnVolume(folder, m_volume) || folder.size() == m_volume.size())
+            return {};
+        if (const auto known = m_links.constFind(folder); known != m_links.cend())
+            return *known;
+        const bool isLink = statusOf(folder).kind == FileStatus::Kind::Link;
+        const QString link = isLink ? folder : linkAtOrAbove(PathComponents::folderOf(folder));
+        m_links.insert(folder, link);
+        return link;
+    }
+
+    const std::vector<StickFolder> &m_folders;
+    const QString m_volume;
+    const StickNames &m_names;
+    QHash<QString, const FolderEntry *> m_entries;
+    QHash<QString, QString> m_links;
+};
+
+} // namespace
+
+SyncPlanner::SyncPlanner(QString volume, ShouldStop shouldStop)
+    : m_volume(std::move(volume))
+    , m_shouldStop(std::move(shouldStop))
+    , m_names(StickNames::of(m_volume))
+{
+}
+
+SyncPlan SyncPlanner::plan(const ModuleList &modules)
+{
+    SyncPlan plan;
+    for (const auto &module : modules) {
+        if (m_shouldStop())
+            break;
+        plan.kinds.push_back(planOf(*module));
+    }
+    return plan;
+}
+
+quint64 SyncPlanner::estimate(CVSyncModule &module)
+{
+    quint64 bytes = 0;
+    for (CVSyncItem &item : wantedItems(module)) {
+        const MeasuredItem wanted = measured(std::move(item));
+        if (wanted.exists)
+            bytes += wanted.item.size;
+    }
+    return bytes;
+}
+
+KindPlan SyncPlanner::planOf(CVSyncModule &module)
+{
+    KindInput input;
+    input.volume = m_volume;
+    input.saveName = module.moduleSaveName();
+    input.moduleName = module.moduleName();
+    input.shouldClearUnsyncedFiles = module.shouldClearUnsyncedFiles();
+    input.takesStickSpace = !module.placer();
+    input.folders = listFolders(module);
+    input.items = measureItems(module, input.folders);
+    input.lastIndex =
+        readLastIndex(StickFiles::syncIndex(m_volume, module.moduleSaveName()), m_names);
+    for (const QString &leftover : module.leftovers()) {
+        if (files().linkStatus(leftover).exists())
+            input.leftovers.append(leftover);
+    }
+    if (const auto space = files().volumeSpace(m_volume))
+        input.clusterSize = space->clusterSize;
+    return Compare::plan(std::move(input), m_names);
+}
+
+std::vector<StickFolder> SyncPlanner::listFolders(const CVSyncModule &module)
+{
+    std::vector<StickFolder> folders;
+    const std::vector<StickFolder> none;
+    StickListing unlisted(none, m_volume, m_names);
+    for (const FolderToCleanUp &wanted : module.foldersToCleanUp()) {
+        StickFolder folder{wanted.path, wanted.ownOnly, {}, {}};
+        // Nothing behind a link is looked at, and only the stick is cleaned up.
+        if (StickFiles::isOnVolume(folder.path, m_volume)) {
+            folder.link = unlisted.linkOnTheWayTo(folder.path + QStringLiteral("/x"));
+            if (folder.link.isEmpty())
+                folder.entries = files().subpathsWithSizes(folder.path);
+            folders.push_back(std::move(folder));
+        }
+    }
+    return folders;
+}
+
+std::vector<MeasuredItem> SyncPlanner::measureItems(CVSyncModule &module,
+                                                    const std::vector<StickFolder> &folders)
+{
+    std::vector<CVSyncItem> wanted = wantedItems(module);
+    for (CVSyncItem &item : wanted)
+        item.destination = m_names.destination(item.destination);
+    wanted = Compare::fixDuplicateDestinations(std::move(wanted), m_names);
+    StickListing listing(folders, m_volume, m_names);
+    std::vector<MeasuredItem> items;
+    items.reserve(wanted.size());
+    for (CVSyncItem &item : wanted) {
+        if (m_shouldStop())
+            break;
+        MeasuredItem &last = items.emplace_back(measured(std::move(item)));
+        last.link = listing.linkOnTheWayTo(last.item.destination);
+        if (!last.exists || !last.link.isEmpty())
+            continue;
+        last.destination = listing.statusOf(last.item.destination);
+        last.isEqualTree = last.isFolder && last.destination.isFolder() &&
+                           files().contentsEqual(last.item.destination, last.item.source);
+    }
+    return items;
+}
