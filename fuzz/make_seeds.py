@@ -86,32 +86,47 @@ write("ConversionProgress", "clock", b"1Duration: 00:10:05.2, start: 0.0\nOutput
       b"frame=  150 fps=30 q=2.0\0frame= 9000 q=1")
 write("ConversionProgress", "movinfo", b"0Duration: x MOVINFO: 6000, 1, 2, 600 :MOVINFO Output\0"
       b"frame=75 q=0\0frame=-1 q=0")
-# Numbers are taken from the end of the input: the preference, whether a stick is there, then each
-# call's method and arguments, and whether to wait for what it has started. Before a run comes the
-# number of its pause in which the next call is made, or 0.
-TEXT, MAP = (0, 1), (0, 1, 0, 0, 1)  # a text of the table, and a dictionary with one as identifier
-CALLS = {"select-movies": (30, 0, 1, 1, 8), "add-movies": (32, 0, 1, 1, 4),
-         "remove-movie": (33, *MAP, 8), "rename-movie": (34, *MAP, 8, *TEXT, 6),
-         "backups-of": (38, *TEXT, 10), "restore": (39, *TEXT, 11), "delete": (40, *TEXT, 11),
-         "sync": (4, *MAP, 5, 1, 0), "cancel": (4, *MAP, 5, 1, 20, 4, 0, 1, 3, 0, 1, 5, 0),
-         "select-backups": (36, 0, 1, 1, 10),
-         # The same with paths that lead out.
-         "remove-movie-out": (33, *MAP, 9), "rename-movie-out": (34, *MAP, 8, *TEXT, 15),
-         "backups-of-out": (38, *TEXT, 13), "restore-out": (39, *TEXT, 16),
-         "delete-out": (40, *TEXT, 16)}
-for name, call in CALLS.items():
-    write("FrontEndProtocol", name, bytes(reversed((0, 1, *call, 1, 35, 1))))
-# The same for values of any type: the method, three times 0 for a call as it should be, the arguments,
-# and the byte order. The texts are "title", "label", "clicked" and "Cancel Sync", the item the first.
-TITLE, LABEL, CLICKED, CANCEL, ITEM = (1, 1), (1, 5), (1, 2), (1, 8), (1, 3)
-MAP = (2, *TITLE, 0, 9, *CANCEL, *LABEL, 2, 0, 4, 1, *ITEM)  # a text and a list of numbers
-EVENT = (*ITEM, *CLICKED, 0, 4, *ITEM, 0, 0, 0, 9)
-ARGUMENTS = {"bool": (0, 1), "int": (1, *ITEM), "uint": (2, 0, 0, 0, 7), "long": (3, *range(8)),
-             "real": (4, *range(8)), "text": (5, *TITLE), "texts": (6, 2, *TITLE, *LABEL),
-             "map": (7, *MAP), "rows": (8, 2, *MAP, *MAP), "path": (9, 1, 0),
-             "two": (10, *MAP, *TITLE), "none": (11,), "oneway": (12, *MAP),
-             "layout": (13, *ITEM, *ITEM, 0), "properties": (14, 1, *ITEM, 1, *LABEL),
-             "property": (15, *ITEM, *LABEL), "event": (16, *EVENT),
-             "events": (17, 2, *EVENT, *EVENT), "show": (18, *ITEM), "show-group": (19, 1, *ITEM)}
-for name, (method, *values) in ARGUMENTS.items():
-    write("BusArguments", name, bytes(reversed((method, 0, 0, 0, *values, 0))))
+# What goes over the bus is written as calls, with a value of each type at each method.
+VALUES = ["true", "byte 5", "int16 -5", "uint16 5", "-5", "uint32 5", "int64 -5", "uint64 5", "0.5",
+          "'x'", "objectpath '/a'", "signature 'as'", "handle 0", "b'x'", "<5>", "['a']", "[1, 2]",
+          "@ai []", "@aa{sv} []", "[{'title': <'x'>}, {}]", "{byte 5: 'y'}", "{objectpath '/a': 1}",
+          "{-1: {int64 2: <(1, 'x')>}}", "(1, ['x'], {1.5: signature ''})"]
+SERVED = {"echoBool": "(true,)", "echoInt": "(-5,)", "echoUInt": "(5,)", "echoLong": "(5,)",
+          "echoReal": "(0.5,)", "echoText": "('x',)", "echoTexts": "(['x', ''],)",
+          "echoPath": "('/a',)", "takeMap": "({'x': <%s>},)", "takeRows": "([{'x': <%s>}, {}],)",
+          "takeTwo": "({'x': <%s>}, 'y')", "takeNone": "()", "hear": "({'x': <%s>},)",
+          "GetLayout": "(0, 1, ['label'])", "GetGroupProperties": "([1, 9], @as [])",
+          "GetProperty": "(1, 'label')", "Event": "(3, 'clicked', <%s>, 0)",
+          "EventGroup": "([(0, 'opened', <%s>, 0), (9, 'x', <1>, 0)],)", "AboutToShow": "(0,)",
+          "AboutToShowGroup": "([0, 1, 9],)", "GetAll": "('com.canonical.dbusmenu',)"}
+PATHS = ["", ".", "..", "/", "/etc", "Film", "M4V00001", "M4V00001/Film", "M4V00001/../../letter.txt",
+         "ULUS10041", "ULUS10041/1000", "ULUS10041/..", "../..", "../../letter.txt",
+         "../../../letter.txt", "../../../../letter.txt", "../../../../../letter.txt"]
+SENT = {"setApplication": "('/%s',)", "ejectPSP": "({'title': <%s>},)", "setIsInteractive": "(true,)",
+        "setSelectedMusicIdentifiers": "([%s],)", "setSelectedPhotosIdentifiers": "([%s],)",
+        "setSelectedBookmarksIdentifiers": "([%s],)", "addMoviesFromArray": "([%s],)",
+        "setSelectedMoviesIdentifiers": "([%s],)", "setSelectedBackupIdentifiers": "([%s],)",
+        "renameMovieItem": "({'identifier': <'M4V00001/Film'>}, %s)", "logChanged": "(%s,)",
+        "removeMovieItem": "({'identifier': <%s>, 'identifier2': <%s>},)", "moviesItems": "()",
+        "backupSubItemsForIdentifier": "(%s,)", "restoreBackupWithIdentifier": "(%s,)",
+        "backupItems": "()", "deleteBackupWithIdentifier": "(%s,)", "refreshSyncBytesEstimate": "()",
+        "changeStartOnLogin": "()", "syncNow": "({'title': <%s>},)", "stick": "()", "log": "()"}
+
+
+def calls(target, name, methods, values):
+    for method, arguments in methods.items():
+        lines = [f"{method} {arguments.replace('%s', value)}" for value in values]
+        lines += [f"{method} ({value},)" for value in values]  # of wrong types, most of them
+        lines = list(dict.fromkeys(lines + [">" + lines[0], "!" + lines[0]]))
+        write(target, f"{method}-{name}", "\n".join(lines) + "\n")
+
+
+calls("BusArguments", "types", SERVED, VALUES)
+calls("FrontEndProtocol", "types", SENT, VALUES)
+calls("FrontEndProtocol", "paths", {name: sent for name, sent in SENT.items() if "%s" in sent},
+      [f"'{path}'" for path in PATHS])
+SYNC, CANCEL = "syncNow (@a{sv} {},)\n", "syncNow ({'title': <'Cancel Sync'>},)\n"
+SELECT = "setSelectedBackupIdentifiers (['ULUS10041'],)\nsetSelectedMoviesIdentifiers (['M4V00001'],)\n"
+for first in ("", "no stick", "profile"):
+    write("FrontEndProtocol", "run " + first, first + "\n" + SELECT + SYNC + CANCEL + SYNC + "\n" +
+          "restoreBackupWithIdentifier ('ULUS10041/1000',)\n" + SYNC + "applicationWillQuit ()\n" + SYNC)
