@@ -40,9 +40,10 @@ QString helperDidStartNotification()
 CaravelHelperController::CaravelHelperController(Services services, QObject *parent)
     : QObject(parent)
     , m_services(std::move(services))
+    , m_catalogue(catalogue(m_services.clock))
     , m_manager({m_services.volumes, m_services.notifications, m_services.clock,
                  m_services.bundle.resourcePath()},
-                catalogue(m_services.clock))
+                m_catalogue)
     , m_menu(m_manager, menuActions())
     , m_icon(m_services.statusBar, m_manager)
     , m_status({m_manager, m_logger, m_frontEnd, m_menu, m_icon, m_services.alerts,
@@ -50,7 +51,7 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
                 [this] {
                     openCaravel();
                 }})
-    , m_lists(m_manager, m_services.clock)
+    , m_lists(m_catalogue, m_manager, m_services.clock)
     , m_movies({m_manager, m_logger, m_services.sounds, m_services.clock, *this,
                 m_services.bundle.resourcePath()})
     , m_loginItems(m_services.bundle, frontEndPath())
@@ -151,8 +152,10 @@ void CaravelHelperController::createFolders()
 {
     FileManagerTools::createPath(Folders::support());
     FileManagerTools::createPath(Folders::documents());
-    for (const char *name : {"Music", "Photos", "Movies"})
-        FileManagerTools::createPath(Folders::dropbox(QString::fromLatin1(name)));
+    for (const ModuleKind &kind : m_catalogue) {
+        if (kind.hasDropbox)
+            FileManagerTools::createPath(Folders::dropbox(kind.saveName));
+    }
 }
 
 void CaravelHelperController::logDetail(const QString &message)

@@ -98,6 +98,7 @@ private:
 
     const Services m_services;
     QMLogger m_logger;
+    const ModuleCatalogue m_catalogue;
     CVSyncManager m_manager;
     FrontEnd m_frontEnd;
     StatusMenu m_menu;

@@ -1,6 +1,7 @@
 #include "app/FrontEndProtocol.h"
 
 #include "app/CaravelHelperController.h"
+#include "modules/movies/CVSyncMovies.h"
 #include "platform/lists/UserDefaults.h"
 #include "protocol/ServedMethods.h"
 #include "util/ByteCount.h"
@@ -85,32 +86,22 @@ void bindEstimate(ServedMethods &served, CVSyncManager &manager)
     });
 }
 
-void bindSelection(ServedMethods &served, const Protocol::Method &method, SelectionLists &lists,
-                   void (SelectionLists::*select)(const QStringList &) const)
+void bindLists(ServedMethods &served, CaravelHelperController &helper)
 {
-    served.perform(method, [&lists, select](Request request) {
-        (lists.*select)(request.arguments.first().toStringList());
-    });
+    SelectionLists &lists = helper.lists();
+    for (const Protocol::List &list : Protocol::lists) {
+        const QString saveName = list.saveName.toString();
+        if (saveName != CVSyncMovies::saveName()) // whose rows the queue adds to
+            served.answer(list.items, [&lists, saveName] { return lists.items(saveName); });
+        served.perform(list.select, [&lists, saveName](Request request) {
+            lists.setSelected(saveName, request.arguments.first().toStringList());
+        });
+    }
 }
 
-void bindLists(ServedMethods &served, SelectionLists &lists)
-{
-    served.answer(Protocol::musicItems, [&lists] { return lists.musicItems(); });
-    bindSelection(served, Protocol::setSelectedMusicIdentifiers, lists,
-                  &SelectionLists::setSelectedMusicIdentifiers);
-    served.answer(Protocol::photosItems, [&lists] { return lists.photosItems(); });
-    bindSelection(served, Protocol::setSelectedPhotosIdentifiers, lists,
-                  &SelectionLists::setSelectedPhotosIdentifiers);
-    served.answer(Protocol::bookmarksItems, [&lists] { return lists.bookmarksItems(); });
-    bindSelection(served, Protocol::setSelectedBookmarksIdentifiers, lists,
-                  &SelectionLists::setSelectedBookmarksIdentifiers);
-}
-
-void bindMovies(ServedMethods &served, MovieQueue &movies, SelectionLists &lists)
+void bindMovies(ServedMethods &served, MovieQueue &movies)
 {
     served.answer(Protocol::moviesItems, [&movies] { return movies.moviesItems(); });
-    bindSelection(served, Protocol::setSelectedMoviesIdentifiers, lists,
-                  &SelectionLists::setSelectedMoviesIdentifiers);
     served.answer(Protocol::isConvertingMovie, [&movies] { return movies.isConvertingMovie(); });
     served.perform(Protocol::addMoviesFromArray, [&movies](Request request) {
         movies.addMoviesFromArray(request.arguments.first().toStringList());
@@ -126,9 +117,6 @@ void bindMovies(ServedMethods &served, MovieQueue &movies, SelectionLists &lists
 void bindBackups(ServedMethods &served, CaravelHelperController &helper)
 {
     SelectionLists &lists = helper.lists();
-    served.answer(Protocol::backupItems, [&lists] { return lists.backupItems(); });
-    bindSelection(served, Protocol::setSelectedBackupIdentifiers, lists,
-                  &SelectionLists::setSelectedBackupIdentifiers);
     served.perform(Protocol::logChanged,
                    [&helper](Request request) { helper.logChanged(text(request)); });
     served.bind(Protocol::backupSubItemsForIdentifier, [&lists](Request request) {
@@ -148,8 +136,8 @@ std::vector<RemoteMethod> methods(CaravelHelperController &controller)
     bindConnection(served, controller);
     bindState(served, controller);
     bindEstimate(served, controller.syncManager());
-    bindLists(served, controller.lists());
-    bindMovies(served, controller.movies(), controller.lists());
+    bindLists(served, controller);
+    bindMovies(served, controller.movies());
     bindBackups(served, controller);
     return served.take(Protocol::helperMethods);
 }

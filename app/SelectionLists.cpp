@@ -90,28 +90,6 @@ QVariantMap row(const QString &name, const Kind &kind, qsizetype size,
     return row;
 }
 
-// What comes over the bus may name anything. Slashes in names are the user's own.
-bool isWellFormed(const QString &identifier)
-{
-    return PathComponents::count(identifier) > 0;
-}
-
-// A movie that waits for its conversion goes by the path of its source.
-bool isWellFormedMovie(const QString &identifier)
-{
-    return isWellFormed(identifier.startsWith(u'/') ? identifier.mid(1) : identifier);
-}
-
-bool areTakeable(const QStringList &identifiers, const QString &moduleSaveName,
-                 bool (*isGood)(const QString &))
-{
-    const auto bad = std::find_if_not(identifiers.begin(), identifiers.end(), isGood);
-    if (bad != identifiers.end())
-        qCWarning(lcApp).noquote().nospace() << "A selection was refused for its identifier \""
-                                             << *bad << "\" (" << moduleSaveName << ')';
-    return bad == identifiers.end();
-}
-
 } // namespace
 
 QVariantList SelectionLists::musicItems() const
@@ -160,34 +138,30 @@ QVariantList SelectionLists::bookmarksItems() const
     return rows;
 }
 
-void SelectionLists::setSelectedMusicIdentifiers(const QStringList &identifiers) const
+QVariantList SelectionLists::items(const QString &saveName) const
 {
-    if (areTakeable(identifiers, CVSyncMusic::saveName(), isWellFormed))
-        CVSyncMusic::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
+    static const QHash<QString, QVariantList (SelectionLists::*)() const> lists{
+        {CVSyncMusic::saveName(), &SelectionLists::musicItems},
+        {CVSyncPhotos::saveName(), &SelectionLists::photosItems},
+        {CVSyncBookmarks::saveName(), &SelectionLists::bookmarksItems},
+        {CVSyncBackup::saveName(), &SelectionLists::backupItems},
+    };
+    const auto list = lists.constFind(saveName);
+    return list == lists.constEnd() ? QVariantList() : (this->**list)();
 }
 
-void SelectionLists::setSelectedPhotosIdentifiers(const QStringList &identifiers) const
+void SelectionLists::setSelected(const QString &saveName, const QStringList &identifiers) const
 {
-    if (areTakeable(identifiers, CVSyncPhotos::saveName(), isWellFormed))
-        CVSyncPhotos::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
-}
-
-void SelectionLists::setSelectedBookmarksIdentifiers(const QStringList &identifiers) const
-{
-    if (areTakeable(identifiers, CVSyncBookmarks::saveName(), isWellFormed))
-        CVSyncBookmarks::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
-}
-
-void SelectionLists::setSelectedMoviesIdentifiers(const QStringList &identifiers) const
-{
-    if (areTakeable(identifiers, CVSyncMovies::saveName(), isWellFormedMovie))
-        CVSyncMovies::setSelectedIdentifiers(identifiers, m_manager.pspVolume());
-}
-
-void SelectionLists::setSelectedBackupIdentifiers(const QStringList &identifiers) const
-{
-    if (areTakeable(identifiers, CVSyncBackup::saveName(), isWellFormed))
-        ModuleSelection::store(identifiers, CVSyncBackup::saveName(), m_manager.pspVolume());
+    const auto kind = std::ranges::find(m_catalogue, saveName, &ModuleKind::saveName);
+    if (kind == m_catalogue.end() || !kind->setSelectedIdentifiers)
+        return;
+    // What comes over the bus may name anything.
+    const auto bad = std::find_if_not(identifiers.begin(), identifiers.end(), kind->isIdentifier);
+    if (bad != identifiers.end())
+        qCWarning(lcApp).noquote().nospace()
+            << "A selection was refused for its identifier \"" << *bad << "\" (" << saveName << ')';
+    else
+        kind->setSelectedIdentifiers(identifiers, m_manager.pspVolume());
 }
 
 // --- Game saves

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sync/ModuleKind.h"
+
 #include <QStringList>
 #include <QVariantList>
 
@@ -13,24 +15,25 @@ class SelectionLists
 {
 public:
     /// Not owned, outlive the lists.
-    SelectionLists(const CVSyncManager &manager, const Clock &clock)
-        : m_manager(manager)
+    SelectionLists(const ModuleCatalogue &catalogue, const CVSyncManager &manager,
+                   const Clock &clock)
+        : m_catalogue(catalogue)
+        , m_manager(manager)
         , m_clock(clock)
     {
     }
 
+    /// The rows of the kind of that save name; none for a kind without a list here.
+    QVariantList items(const QString &saveName) const;
+    void setSelected(const QString &saveName, const QStringList &identifiers) const;
+
     /// Rows of the selectable playlists in library order: "identifier", "name", "icon" (image
     /// name), "order" (rank of its kind), "size" (entries), and "enabled" = true where selected.
     QVariantList musicItems() const;
-    void setSelectedMusicIdentifiers(const QStringList &identifiers) const;
     /// The same for the photo library's albums.
     QVariantList photosItems() const;
-    void setSelectedPhotosIdentifiers(const QStringList &identifiers) const;
     /// The same for the top-level folders of the chosen browser's bookmarks.
     QVariantList bookmarksItems() const;
-    void setSelectedBookmarksIdentifiers(const QStringList &identifiers) const;
-    void setSelectedMoviesIdentifiers(const QStringList &identifiers) const;
-    void setSelectedBackupIdentifiers(const QStringList &identifiers) const;
     /// Rows of the game saves that have backups: "identifier", "name", "icon" (an image's path),
     /// "description" and "date" of the newest one.
     QVariantList backupItems() const;
@@ -41,6 +44,7 @@ public:
 private:
     QString dateText(double timestamp) const;
 
+    const ModuleCatalogue &m_catalogue;
     const CVSyncManager &m_manager;
     const Clock &m_clock;
 };

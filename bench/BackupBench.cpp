@@ -1,6 +1,7 @@
 // The list of 300 game saves with 20 backups each, against finding the newest PARAM.SFO of each and
 // reading it.
 
+#include "app/Catalogue.h"
 #include "app/SelectionLists.h"
 #include "modules/saves/CVSyncBackup.h"
 #include "support/PSFFile.h"
@@ -55,7 +56,8 @@ struct History
 void backupItems(benchmark::State &state)
 {
     const History history;
-    const SelectionLists lists(history.harness.manager, history.harness.clock);
+    const ModuleCatalogue kinds = catalogue(history.harness.clock);
+    const SelectionLists lists(kinds, history.harness.manager, history.harness.clock);
     qsizetype rows = 0;
     for (auto _ : state)
         rows = lists.backupItems().size();

@@ -3,6 +3,7 @@
 #include "cli/Output.h"
 #include "cli/Session.h"
 #include "frontend/Rows.h"
+#include "protocol/Protocol.h"
 #include "util/Settings.h"
 
 #include <QJsonArray>
@@ -14,19 +15,24 @@ using Rows::text;
 
 namespace {
 
-const ListKind &kindNamed(const QString &name)
+/// As the command line calls the kind: saves are what a user backs up.
+QString nameOf(const Protocol::List &list)
 {
-    const auto &kinds = listKinds();
-    const auto found = std::find_if(kinds.begin(), kinds.end(),
-                                    [&](const ListKind &kind) { return kind.name == name; });
-    Q_ASSERT(found != kinds.end());
+    const QString name = list.saveName.toString().toLower();
+    return name == u"backup" ? QStringLiteral("saves") : name;
+}
+
+const Protocol::List &listNamed(const QString &name)
+{
+    const auto *const found = std::ranges::find(Protocol::lists, name, nameOf);
+    Q_ASSERT(found != std::end(Protocol::lists));
     return *found;
 }
 
-QStringList currentSelection(const ListKind &kind, const QVariantList &rows)
+QStringList currentSelection(const Protocol::List &list, const QVariantList &rows)
 {
-    if (!kind.saveName.isEmpty())
-        return Settings::selection(kind.saveName).value_or(QStringList());
+    if (!list.rowsTellSelection)
+        return Settings::selection(list.saveName.toString()).value_or(QStringList());
     QStringList selected;
     for (const QVariant &each : rows) {
         const QVariantMap row = each.toMap();
@@ -93,27 +99,21 @@ bool isWanted(SelectMode mode, bool isNow, bool isNamed)
     return isNamed;
 }
 
-ExitStatus refuseNames(const ListKind &kind, const QStringList &names)
+ExitStatus refuseNames(const QString &kind, const QStringList &names)
 {
     Output::error(QStringLiteral("not among the %1: %2 (nothing was changed)")
-                      .arg(kind.name, names.join(QStringLiteral(", "))));
+                      .arg(kind, names.join(QStringLiteral(", "))));
     return Refused;
 }
 
 } // namespace
 
-const std::vector<ListKind> &listKinds()
+QStringList listKinds()
 {
-    using namespace Protocol;
-    static const std::vector<ListKind> kinds = {
-        {QStringLiteral("music"), musicItems, setSelectedMusicIdentifiers, {}},
-        {QStringLiteral("photos"), photosItems, setSelectedPhotosIdentifiers, {}},
-        {QStringLiteral("bookmarks"), bookmarksItems, setSelectedBookmarksIdentifiers, {}},
-        {QStringLiteral("movies"), moviesItems, setSelectedMoviesIdentifiers, {}},
-        {QStringLiteral("saves"), backupItems, setSelectedBackupIdentifiers,
-         QStringLiteral("Backup")},
-    };
-    return kinds;
+    QStringList names;
+    for (const Protocol::List &list : Protocol::lists)
+        names.append(nameOf(list));
+    return names;
 }
 
 Selection changedSelection(const QVariantList &rows, const QStringList &current, SelectMode mode,
@@ -137,36 +137,35 @@ Selection changedSelection(const QVariantList &rows, const QStringList &current,
 
 ExitStatus runList(const QString &kindName, bool json)
 {
-    const ListKind &kind = kindNamed(kindName);
+    const Protocol::List &list = listNamed(kindName);
     Session session;
     HelperClient &helper = session.helper();
-    const QVariantList rows = helper.ask(kind.items).toList();
+    const QVariantList rows = helper.ask(list.items).toList();
     if (helper.failed())
         return session.report();
     if (json)
         Output::json(QJsonArray::fromVariantList(rows));
     else
-        printRows(rows, currentSelection(kind, rows));
+        printRows(rows, currentSelection(list, rows));
     return Done;
 }
 
 ExitStatus runSelect(const QString &kindName, SelectMode mode, const QStringList &names)
 {
-    const ListKind &kind = kindNamed(kindName);
+    const Protocol::List &list = listNamed(kindName);
     Session session;
     HelperClient &helper = session.helper();
-    const QVariantList rows = helper.ask(kind.items).toList();
+    const QVariantList rows = helper.ask(list.items).toList();
     if (helper.failed())
         return session.report();
-    const Selection selection = changedSelection(rows, currentSelection(kind, rows), mode, names);
+    const Selection selection = changedSelection(rows, currentSelection(list, rows), mode, names);
     if (!selection.unknown.isEmpty())
-        return refuseNames(kind, selection.unknown);
-    helper.tell(kind.select, {selection.identifiers});
+        return refuseNames(kindName, selection.unknown);
+    helper.tell(list.select, {selection.identifiers});
     // Asked after the change, and served after it.
-    const QVariantList now = helper.ask(kind.items).toList();
+    const QVariantList now = helper.ask(list.items).toList();
     if (helper.failed())
         return session.report();
-    const bool rowsTell = kind.saveName.isEmpty();
-    printRows(now, rowsTell ? currentSelection(kind, now) : selection.identifiers);
+    printRows(now, list.rowsTellSelection ? currentSelection(list, now) : selection.identifiers);
     return Done;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cli/ExitStatus.h"
-#include "protocol/Protocol.h"
 
 #include <QStringList>
 #include <QVariantList>
@@ -9,18 +8,8 @@
 #include <optional>
 #include <vector>
 
-/// One kind of media whose rows the user selects from.
-struct ListKind
-{
-    QString name; ///< as the command line calls it
-    const Protocol::Method &items;
-    const Protocol::Method &select;
-    /// For a kind whose rows don't tell what is selected, so that it is read from the settings;
-    /// else empty.
-    QString saveName;
-};
-
-const std::vector<ListKind> &listKinds();
+/// The kinds' names on the command line: "music", "saves".
+QStringList listKinds();
 
 /// `caravel list KIND`. As JSON the rows as the helper gives them.
 ExitStatus runList(const QString &kind, bool json);

@@ -5,6 +5,7 @@
 #include "platform/bus/DistributedNotificationCenter.h"
 #include "platform/bus/NamedConnection.h"
 #include "platform/lists/UserDefaults.h"
+#include "protocol/Protocol.h"
 #include "util/Settings.h"
 
 #include <QLocale>
@@ -42,14 +43,10 @@ const Settings::Key *findKey(const QString &name)
 // Kept by the helper, without a default: shown, never set here.
 bool isReadOnlyKey(const QString &name)
 {
-    static const QStringList saveNames = {
-        QStringLiteral("Music"),     QStringLiteral("Photos"), QStringLiteral("Movies"),
-        QStringLiteral("Bookmarks"), QStringLiteral("Backup"), QStringLiteral("Contacts"),
+    const auto isSelectionOf = [&name](const Protocol::List &list) {
+        return name == Settings::selectionKey(list.saveName.toString());
     };
-    return name == Settings::lastSync.name ||
-           std::any_of(saveNames.begin(), saveNames.end(), [&](const QString &saveName) {
-               return name == Settings::selectionKey(saveName);
-           });
+    return name == Settings::lastSync.name || std::ranges::any_of(Protocol::lists, isSelectionOf);
 }
 
 QJsonObject entry(const QVariant &value, bool isDefaultValue)

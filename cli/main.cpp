@@ -130,8 +130,8 @@ void CommandLine::addSync()
 void addKind(CLI::App &subcommand, std::string &kind)
 {
     std::vector<std::string> names;
-    for (const ListKind &each : listKinds())
-        names.push_back(each.name.toStdString());
+    for (const QString &name : listKinds())
+        names.push_back(name.toStdString());
     subcommand.add_option("KIND", kind, "Kind of media")->required()->check(CLI::IsMember(names));
 }
 

@@ -104,6 +104,24 @@ inline constexpr Method backupSubItemsForIdentifier{
 inline constexpr Method restoreBackupWithIdentifier{u"restoreBackupWithIdentifier", {identifier}};
 inline constexpr Method deleteBackupWithIdentifier{u"deleteBackupWithIdentifier", {identifier}};
 
+/// A kind of media whose rows the user selects from; rows without "enabled" leave it to the
+/// settings to tell what is selected.
+struct List
+{
+    QStringView saveName;
+    const Method &items;
+    const Method &select;
+    bool rowsTellSelection = true;
+};
+
+inline constexpr List lists[] = {
+    {u"Music", musicItems, setSelectedMusicIdentifiers},
+    {u"Photos", photosItems, setSelectedPhotosIdentifiers},
+    {u"Bookmarks", bookmarksItems, setSelectedBookmarksIdentifiers},
+    {u"Movies", moviesItems, setSelectedMoviesIdentifiers},
+    {u"Backup", backupItems, setSelectedBackupIdentifiers, false},
+};
+
 /// The mounted stick: "name" and "volume" (texts), "capacity", "free" and "used" (bytes, "t");
 /// empty without one.
 inline constexpr Method stick{u"stick", {}, u"a{sv}"};

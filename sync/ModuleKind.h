@@ -19,6 +19,13 @@ struct ModuleKind
     std::function<bool()> takesPart = {};
     /// Whether its bytes are the stick's.
     bool countsInEstimate = true;
+    /// Whether files in its folder below "Dropboxes", which goes by the save name, come along.
+    bool hasDropbox = false;
+    /// Stores what the user selected, for the stick mounted there too; null: nothing of it can be
+    /// selected. Main thread.
+    void (*setSelectedIdentifiers)(const QStringList &identifiers, const QString &forPSP) = nullptr;
+    /// Whether a text that came from elsewhere may be an identifier; null where none is asked for.
+    bool (*isIdentifier)(const QString &text) = nullptr;
 };
 
 /// All kinds in the order in which runs take them; made above the engine, which knows none.

@@ -5,6 +5,7 @@
 #include "sync/Log.h"
 #include "sync/StickEditor.h"
 #include "sync/StickFiles.h"
+#include "util/PathComponents.h"
 #include "util/Settings.h"
 
 namespace ModuleSelection {
@@ -52,6 +53,11 @@ void store(const QStringList &identifiers, const QString &moduleSaveName, const 
     if (hasProfiles(volume))
         storeProfile(identifiers, StickFiles::selectionProfile(volume, moduleSaveName), volume);
     Settings::setSelection(moduleSaveName, identifiers);
+}
+
+bool isIdentifier(const QString &text)
+{
+    return PathComponents::count(text) > 0;
 }
 
 void rename(const QString &identifier, const QString &newIdentifier, const QString &moduleSaveName,

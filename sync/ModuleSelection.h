@@ -18,6 +18,10 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
 /// synced before. An empty volume path stands for no volume.
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume);
 
+/// Whether a text may stand for a thing that can be selected. Slashes in names are the user's own;
+/// what would lead out of a folder is none.
+bool isIdentifier(const QString &text);
+
 /// Puts another identifier in the place of one, in the preferences' selection and in the volume's
 /// profile, wherever it is selected.
 void rename(const QString &identifier, const QString &newIdentifier, const QString &moduleSaveName,

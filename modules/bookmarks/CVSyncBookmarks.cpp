@@ -59,10 +59,9 @@ ModuleKind CVSyncBookmarks::kind()
 {
     return {.saveName = saveName(),
             .make = [](const QString &volume) { return std::make_unique<CVSyncBookmarks>(volume); },
-            .takesPart =
-                [] {
-                    return Settings::firmwareVersion() > 0;
-                }};
+            .takesPart = [] { return Settings::firmwareVersion() > 0; },
+            .setSelectedIdentifiers = setSelectedIdentifiers,
+            .isIdentifier = ModuleSelection::isIdentifier};
 }
 
 QString CVSyncBookmarks::saveName()

@@ -70,6 +70,12 @@ void keepConverted(const QString &title)
     }
 }
 
+// A movie that waits for its conversion goes by the path of its source.
+bool isMovieIdentifier(const QString &text)
+{
+    return ModuleSelection::isIdentifier(text.startsWith(u'/') ? text.mid(1) : text);
+}
+
 } // namespace
 
 CVSyncMovies::CVSyncMovies(const QString &volume)
@@ -79,9 +85,11 @@ CVSyncMovies::CVSyncMovies(const QString &volume)
 
 ModuleKind CVSyncMovies::kind()
 {
-    return {.saveName = saveName(), .make = [](const QString &volume) {
-                return std::make_unique<CVSyncMovies>(volume);
-            }};
+    return {.saveName = saveName(),
+            .make = [](const QString &volume) { return std::make_unique<CVSyncMovies>(volume); },
+            .hasDropbox = true,
+            .setSelectedIdentifiers = setSelectedIdentifiers,
+            .isIdentifier = isMovieIdentifier};
 }
 
 QString CVSyncMovies::saveName()

@@ -46,9 +46,11 @@ CVSyncMusic::CVSyncMusic(const QString &volume)
 
 ModuleKind CVSyncMusic::kind()
 {
-    return {.saveName = saveName(), .make = [](const QString &volume) {
-                return std::make_unique<CVSyncMusic>(volume);
-            }};
+    return {.saveName = saveName(),
+            .make = [](const QString &volume) { return std::make_unique<CVSyncMusic>(volume); },
+            .hasDropbox = true,
+            .setSelectedIdentifiers = setSelectedIdentifiers,
+            .isIdentifier = ModuleSelection::isIdentifier};
 }
 
 QString CVSyncMusic::saveName()

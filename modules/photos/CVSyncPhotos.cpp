@@ -63,9 +63,11 @@ CVSyncPhotos::CVSyncPhotos(const QString &volume)
 
 ModuleKind CVSyncPhotos::kind()
 {
-    return {.saveName = saveName(), .make = [](const QString &volume) {
-                return std::make_unique<CVSyncPhotos>(volume);
-            }};
+    return {.saveName = saveName(),
+            .make = [](const QString &volume) { return std::make_unique<CVSyncPhotos>(volume); },
+            .hasDropbox = true,
+            .setSelectedIdentifiers = setSelectedIdentifiers,
+            .isIdentifier = ModuleSelection::isIdentifier};
 }
 
 QString CVSyncPhotos::saveName()

@@ -5,6 +5,7 @@
 #include "platform/core/Localized.h"
 #include "platform/files/FileManager.h"
 #include "sync/ErrorLog.h"
+#include "sync/ModuleSelection.h"
 #include "sync/StickEditor.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
@@ -26,12 +27,19 @@ ModuleKind CVSyncBackup::kind(const Clock &clock)
                     return std::make_unique<CVSyncBackup>(volume, clock);
                 },
             .takesPart = [] { return Settings::syncBackup(); },
-            .countsInEstimate = false};
+            .countsInEstimate = false,
+            .setSelectedIdentifiers = setSelectedIdentifiers,
+            .isIdentifier = ModuleSelection::isIdentifier};
 }
 
 QString CVSyncBackup::saveName()
 {
     return QStringLiteral("Backup");
+}
+
+void CVSyncBackup::setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP)
+{
+    ModuleSelection::store(identifiers, saveName(), forPSP);
 }
 
 QString CVSyncBackup::moduleName() const

@@ -32,6 +32,8 @@ public:
     /// The folder that holds a backup's own files; the identifier is "<save>/<timestamp>", and any
     /// other has none.
     static QString folderOf(const QString &identifier);
+    /// Kept for front-ends; every save is backed up whatever it says.
+    static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
 
     enum class Restored {
         Done,

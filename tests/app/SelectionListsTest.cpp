@@ -1,4 +1,5 @@
 #include "app/SelectionLists.h"
+#include "app/Catalogue.h"
 
 #include "support/MusicLibraryFile.h"
 #include "support/PSFFile.h"
@@ -37,7 +38,8 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
     using Library = MusicLibraryFile;
     SyncHarness harness;
     harness.mountStick();
-    const SelectionLists lists(harness.manager, harness.clock);
+    const ModuleCatalogue kinds = catalogue(harness.clock);
+    const SelectionLists lists(kinds, harness.manager, harness.clock);
     EXPECT_TRUE(lists.musicItems().isEmpty()) << "no library";
 
     Library library;
@@ -51,7 +53,8 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
     library.addRawPlaylist("<key>Playlist Items</key><array/>");
     writeFile(harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
               library.contents());
-    lists.setSelectedMusicIdentifiers(
+    lists.setSelected(
+        QStringLiteral("Music"),
         {QStringLiteral("Smart"), QStringLiteral("AC/DC: Live?"), QStringLiteral("Films")});
 
     EXPECT_EQ(described(lists.musicItems()),
@@ -64,7 +67,8 @@ TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
 TEST(PhotosItems, OffersAlbumsByKind)
 {
     SyncHarness harness;
-    const SelectionLists lists(harness.manager, harness.clock);
+    const ModuleCatalogue kinds = catalogue(harness.clock);
+    const SelectionLists lists(kinds, harness.manager, harness.clock);
     EXPECT_TRUE(lists.photosItems().isEmpty());
     PhotoLibraryFile library;
     const auto type = [](const char *name) {
@@ -78,7 +82,7 @@ TEST(PhotosItems, OffersAlbumsByKind)
     library.addAlbum(QStringLiteral("Plain"), {QStringLiteral("1")});
     writeFile(harness.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml")),
               library.contents());
-    lists.setSelectedPhotosIdentifiers({QStringLiteral("Plain")});
+    lists.setSelected(QStringLiteral("Photos"), {QStringLiteral("Plain")});
     EXPECT_EQ(described(lists.photosItems()),
               "All iPhotoLibrary 0 2, Special Roll iPhotoRoll 1 0, Special Month iPhotoMonth 2 0, "
               "Smart iPhotoSmartAlbum 3 0, Regular iPhotoAlbum 4 0, Book iPhotoBook 5 0, "
@@ -89,7 +93,8 @@ TEST(PhotosItems, OffersAlbumsByKind)
 TEST(BookmarksItems, OffersTopLevelFolders)
 {
     SyncHarness harness;
-    const SelectionLists lists(harness.manager, harness.clock);
+    const ModuleCatalogue kinds = catalogue(harness.clock);
+    const SelectionLists lists(kinds, harness.manager, harness.clock);
     EXPECT_TRUE(lists.bookmarksItems().isEmpty());
     const auto folder = [](const char *title, int size) {
         return QByteArray("<dict><key>WebBookmarkType</key><string>WebBookmarkTypeList</string>"
@@ -100,7 +105,7 @@ TEST(BookmarksItems, OffersTopLevelFolders)
     writeFile(harness.home(QStringLiteral("Library/Safari/Bookmarks.plist")),
               "<plist><dict><key>Children</key><array>" + folder("BookmarksBar", 2) +
                   folder("BookmarksMenu", 0) + folder("News", 1) + "</array></dict></plist>");
-    lists.setSelectedBookmarksIdentifiers({QStringLiteral("BookmarksMenu")});
+    lists.setSelected(QStringLiteral("Bookmarks"), {QStringLiteral("BookmarksMenu")});
     EXPECT_EQ(described(lists.bookmarksItems()),
               "BookmarksBar (Bookmarks Bar) BookmarksBar 0 2, "
               "BookmarksMenu (Bookmarks Menu) BookmarksMenu 1 0 enabled, News Folder16 2 1");
@@ -109,7 +114,8 @@ TEST(BookmarksItems, OffersTopLevelFolders)
 TEST(BackupItems, TellWhatTheGameSays)
 {
     SyncHarness harness;
-    const SelectionLists lists(harness.manager, harness.clock);
+    const ModuleCatalogue kinds = catalogue(harness.clock);
+    const SelectionLists lists(kinds, harness.manager, harness.clock);
     EXPECT_TRUE(lists.backupItems().isEmpty());
     const QString root = harness.home(QStringLiteral("Documents/Caravel/Backup/Game Saves/"));
     const qint64 now = harness.clock.current.toSecsSinceEpoch();
@@ -170,32 +176,21 @@ TEST(BackupItems, TellWhatTheGameSays)
 TEST(Selections, RefuseIdentifiersThatNameOtherPlaces)
 {
     SyncHarness harness;
-    const SelectionLists lists(harness.manager, harness.clock);
-    using Select = void (SelectionLists::*)(const QStringList &) const;
-    const struct
-    {
-        const char *key;
-        Select select;
-        bool takesPaths; // of sources
-    } kinds[] = {
-        {"enabledMusic", &SelectionLists::setSelectedMusicIdentifiers, false},
-        {"enabledPhotos", &SelectionLists::setSelectedPhotosIdentifiers, false},
-        {"enabledBookmarks", &SelectionLists::setSelectedBookmarksIdentifiers, false},
-        {"enabledMovies", &SelectionLists::setSelectedMoviesIdentifiers, true},
-        {"enabledBackup", &SelectionLists::setSelectedBackupIdentifiers, false},
-    };
-    for (const auto &kind : kinds) {
-        const QString key = QString::fromLatin1(kind.key);
+    const ModuleCatalogue kinds = catalogue(harness.clock);
+    const SelectionLists lists(kinds, harness.manager, harness.clock);
+    for (const char *name : {"Music", "Photos", "Bookmarks", "Movies", "Backup"}) {
+        const QString saveName = QString::fromLatin1(name);
+        const QString key = QStringLiteral("enabled") + saveName;
         const QStringList good{QStringLiteral("AC/DC"), QStringLiteral("Trip. ..")};
-        (lists.*kind.select)(good);
+        lists.setSelected(saveName, good);
         EXPECT_EQ(harness.defaults.stringArrayForKey(key), good);
         const SystemLogCapture log;
         for (const char *bad : {"", ".", "..", "a/../b", "a//b", "a/", "../x"}) {
-            (lists.*kind.select)({QStringLiteral("other"), QString::fromLatin1(bad)});
-            EXPECT_EQ(harness.defaults.stringArrayForKey(key), good) << kind.key << ' ' << bad;
+            lists.setSelected(saveName, {QStringLiteral("other"), QString::fromLatin1(bad)});
+            EXPECT_EQ(harness.defaults.stringArrayForKey(key), good) << name << ' ' << bad;
         }
-        (lists.*kind.select)({QStringLiteral("/etc/passwd")});
-        EXPECT_EQ(harness.defaults.stringArrayForKey(key) == good, !kind.takesPaths) << kind.key;
-        EXPECT_TRUE(log.contains(QStringLiteral("\"a/../b\""))) << kind.key;
+        lists.setSelected(saveName, {QStringLiteral("/etc/passwd")});
+        EXPECT_EQ(harness.defaults.stringArrayForKey(key) == good, saveName != u"Movies") << name;
+        EXPECT_TRUE(log.contains(QStringLiteral("\"a/../b\""))) << name;
     }
 }
