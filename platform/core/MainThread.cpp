@@ -1,15 +1,16 @@
 #include "platform/core/MainThread.h"
 
 #include "platform/core/Log.h"
+#include "platform/core/own/Posix.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QPointer>
-#include <QSemaphore>
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <semaphore.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -27,10 +28,29 @@ namespace {
 /// How long calls are served in one go, so that timers and requests don't starve.
 constexpr auto longestBurst = std::chrono::microseconds(4000);
 
+/// Lets a waiting caller go on, who may take this away at once.
+class Completion
+{
+public:
+    Completion() { ::sem_init(&m_done, 0, 0); }
+    ~Completion() { ::sem_destroy(&m_done); }
+    Completion(const Completion &) = delete;
+    Completion &operator=(const Completion &) = delete;
+
+    void signal() { ::sem_post(&m_done); }
+    void wait()
+    {
+        Posix::retryInterrupted([this] { return ::sem_wait(&m_done); });
+    }
+
+private:
+    sem_t m_done;
+};
+
 struct Call
 {
     std::function<void()> work;
-    QSemaphore *done = nullptr; // the waiting caller's; null where nobody waits
+    Completion *done = nullptr; // the waiting caller's; null where nobody waits
 };
 
 /// The calls on their way to the main thread. Workers touch nothing of the application's, which may
@@ -103,7 +123,7 @@ private:
         call->work();
         call->work = nullptr; // what it captured dies before its caller goes on
         if (call->done)
-            call->done->release();
+            call->done->signal();
         return true;
     }
 
@@ -190,9 +210,9 @@ void performOnMainThread(QObject *context, std::function<void()> work, CallMode 
         callQueue().append({std::move(work), nullptr});
         return;
     }
-    QSemaphore done;
+    Completion done;
     callQueue().append({std::move(work), &done});
-    done.acquire();
+    done.wait();
 }
 
 // The toolkit ends the program by itself when its display goes away: no destructor may then run
