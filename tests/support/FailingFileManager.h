@@ -18,6 +18,7 @@ public:
     size_t largestWrite = SIZE_MAX;      ///< longer ones are cut short
     std::function<void()> onFull;        ///< at the first write that finds no room
     QString readOnlyBelow;               ///< nothing below can be made or removed
+    bool waitsForLocks = true;
     mutable std::atomic<int> statusCalls = 0;
     mutable std::atomic<int> listings = 0;
     int closed = 0; ///< the flushed ones too
@@ -70,6 +71,10 @@ public:
             *writableBytes -= static_cast<qint64>(count);
         }
         return FileManager::write(descriptor, buffer, std::min(count, largestWrite));
+    }
+    FileResult<FileLock> lock(const QString &path, std::chrono::milliseconds limit) override
+    {
+        return FileManager::lock(path, waitsForLocks ? limit : std::chrono::milliseconds(0));
     }
     bool close(int descriptor) override
     {

@@ -38,65 +38,47 @@ int grey(QRgb pixel)
 
 } // namespace
 
-TEST(ContactPicture, StretchesTheWholeImage)
+TEST(ContactPicture, StretchesTheWholeImageOntoWhite)
 {
-    QImage wide(400, 100, QImage::Format_RGB32);
-    wide.fill(Qt::red);
-    QPainter(&wide).fillRect(200, 0, 200, 100, Qt::blue);
-    for (const char *format : {"PNG", "JPG", "BMP"}) {
+    QImage wide(400, 100, QImage::Format_ARGB32);
+    wide.fill(Qt::transparent);
+    QPainter(&wide).fillRect(0, 0, 200, 100, Qt::blue);
+    for (const char *format : {"PNG", "BMP"}) {
         const auto picture = ContactPicture::render(encoded(wide, format), mark);
-        EXPECT_TRUE(picture.problem.isEmpty()) << qPrintable(picture.problem);
+        EXPECT_TRUE(picture.problem.isEmpty()) << format << qPrintable(picture.problem);
         const QImage image = QImage::fromData(picture.jpeg, "JPG");
         ASSERT_EQ(image.size(), QSize(64, 64));
         for (const int y : {2, 61}) {
-            EXPECT_GT(qRed(image.pixel(2, y)), 200);
-            EXPECT_LT(qBlue(image.pixel(2, y)), 60);
-            EXPECT_GT(qBlue(image.pixel(61, y)), 200);
+            EXPECT_GT(qBlue(image.pixel(2, y)), 200);
+            EXPECT_LT(qRed(image.pixel(2, y)), 60);
+            EXPECT_TRUE(QByteArray(format) != "PNG" || grey(image.pixel(61, y)) > 250);
         }
     }
-    QImage clear(10, 10, QImage::Format_ARGB32);
-    clear.fill(Qt::transparent);
-    const auto picture = ContactPicture::render(encoded(clear, "PNG"), mark);
-    EXPECT_GT(grey(QImage::fromData(picture.jpeg).pixel(32, 32)), 250);
 }
 
 TEST(ContactPicture, IsGreyWhereNothingCanBeDecoded)
 {
     const QByteArray good = encoded(QImage(100, 100, QImage::Format_RGB32), "PNG");
-    const struct
-    {
-        QByteArray bytes;
-        const char *problem;
-    } cases[] = {{{}, "format"},
-                 {"no image", "format"},
-                 {good.first(40), ""},
-                 {bomb(8001, 8000), "8001 by 8000 pixels"},
-                 {bomb(12000, 12000), "12000 by 12000 pixels"},
-                 {bomb(INT32_MAX, INT32_MAX), ""}};
+    const std::pair<QByteArray, const char *> cases[] = {
+        {"no image", "format"},
+        {good.first(40), ""},
+        {bomb(8001, 8000), "8001 by 8000 pixels"},
+        {bomb(INT32_MAX, INT32_MAX), ""},
+    };
     for (const auto &[bytes, problem] : cases) {
         const auto picture = ContactPicture::render(bytes, mark);
         EXPECT_FALSE(picture.problem.isEmpty());
-        EXPECT_TRUE(picture.problem.contains(QString::fromLatin1(problem)))
+        EXPECT_TRUE(picture.problem.contains(QLatin1String(problem)))
             << qPrintable(picture.problem);
-        const QImage image = QImage::fromData(picture.jpeg, "JPG");
-        ASSERT_EQ(image.size(), QSize(64, 64));
-        EXPECT_NEAR(grey(image.pixel(1, 1)), 192, 3);
-        EXPECT_NEAR(grey(image.pixel(62, 62)), 192, 3);
+        EXPECT_NEAR(grey(QImage::fromData(picture.jpeg, "JPG").pixel(62, 62)), 192, 3);
+        EXPECT_TRUE(ContactPicture::carriesMark(picture.jpeg, mark));
+        EXPECT_FALSE(ContactPicture::carriesMark(picture.jpeg, mark + u'0'));
+        EXPECT_FALSE(ContactPicture::carriesMark(picture.jpeg.chopped(1), mark)) << "cut off";
     }
 }
 
 TEST(ContactPicture, TakesNearlySixtyFourMegapixels)
 {
-    const auto picture =
-        ContactPicture::render(encoded(QImage(8000, 7999, QImage::Format_Grayscale8), "BMP"), mark);
-    EXPECT_TRUE(picture.problem.isEmpty()) << qPrintable(picture.problem);
-}
-
-TEST(ContactPicture, KnowsItsOwnMark)
-{
-    const QByteArray jpeg = ContactPicture::render("no image", mark).jpeg;
-    EXPECT_TRUE(ContactPicture::carriesMark(jpeg, mark));
-    EXPECT_FALSE(ContactPicture::carriesMark(jpeg, QStringLiteral("0123") + u'0'));
-    EXPECT_FALSE(ContactPicture::carriesMark(jpeg.chopped(1), mark)) << "cut off";
-    EXPECT_FALSE(ContactPicture::carriesMark({}, mark));
+    const QByteArray large = encoded(QImage(8000, 7999, QImage::Format_Grayscale8), "BMP");
+    EXPECT_EQ(ContactPicture::render(large, mark).problem, QString());
 }
