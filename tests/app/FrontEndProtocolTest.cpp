@@ -16,8 +16,8 @@ TEST(FrontEndProtocol, MethodsHaveTheTypesThatFrontEndsKnow)
                                         statusBar, alerts, sounds, Bundle(harness.folder.path())});
     QStringList found;
     for (const RemoteMethod &method : FrontEndProtocol::methods(controller))
-        found.append(method.name + (method.oneway ? QStringLiteral("*(") : QStringLiteral("(")) +
-                     method.in.join(u',') + QStringLiteral(")") + method.out);
+        found.append(method.name + (method.oneway ? u"*("_s : u"("_s) + method.in.join(u',') +
+                     u")"_s + method.out);
     const QString expected = QStringLiteral(
         "setApplication(o) applicationWillQuit*() ejectPSP*(a{sv}) openCaravel*(a{sv}) "
         "syncNow*(a{sv}) log()s isFirstSync()b pspIsMounted()b canSync()b isSyncing()b "

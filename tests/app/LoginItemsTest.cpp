@@ -11,11 +11,11 @@
 
 namespace {
 
-const QString itemsKey = QStringLiteral("AutoLaunchedApplicationDictionary");
+const QString itemsKey = u"AutoLaunchedApplicationDictionary"_s;
 
 QVariantMap item(const char *path)
 {
-    return {{QStringLiteral("Path"), QString::fromUtf8(path)}, {QStringLiteral("Hide"), true}};
+    return {{u"Path"_s, QString::fromUtf8(path)}, {u"Hide"_s, true}};
 }
 
 class LoginItemsTest : public testing::Test
@@ -23,19 +23,18 @@ class LoginItemsTest : public testing::Test
 protected:
     TemporaryFolder home;
     const QByteArray oldHome = qgetenv("HOME");
-    UserDefaults defaults{QStringLiteral("shared"), home / QStringLiteral("prefs")};
-    const QString list = home / QStringLiteral("prefs/loginwindow.plist");
-    const QString autostart = home / QStringLiteral(".config/autostart/caravel-helper.desktop");
+    UserDefaults defaults{u"shared"_s, home / u"prefs"_s};
+    const QString list = home / u"prefs/loginwindow.plist"_s;
+    const QString autostart = home / u".config/autostart/caravel-helper.desktop"_s;
     const QString bundle = home / QStringLiteral("50% \"off\"/CaravelHelper");
-    const LoginItems items{Bundle(bundle), home / QStringLiteral("Caravel")};
+    const LoginItems items{Bundle(bundle), home / u"Caravel"_s};
 
     void SetUp() override
     {
         qputenv("HOME", home.path().toUtf8());
         UserDefaults::setStandard(&defaults);
-        writeFile(bundle + QStringLiteral("/Contents/Info.plist"),
-                  PropertyList::toXml(QVariantMap{
-                      {QStringLiteral("CFBundleExecutable"), QStringLiteral("caravel-helper")}}));
+        writeFile(bundle + u"/Contents/Info.plist"_s,
+                  PropertyList::toXml(QVariantMap{{u"CFBundleExecutable"_s, u"caravel-helper"_s}}));
     }
     void TearDown() override
     {
@@ -48,7 +47,7 @@ protected:
         QStringList result;
         for (const QVariant &entry :
              PropertyList::readDictionary(list).valueOr({}).value(itemsKey).toList())
-            result.append(entry.toMap().value(QStringLiteral("Path")).toString());
+            result.append(entry.toMap().value(u"Path"_s).toString());
         return result;
     }
 };
@@ -61,32 +60,30 @@ TEST_F(LoginItemsTest, EditsTheListAndNothingElse)
     EXPECT_EQ(*PropertyList::read(list), QVariant(QVariantMap{{itemsKey, QVariantList()}}));
     EXPECT_FALSE(QFile::exists(autostart));
 
-    const QVariantMap others{
-        {QStringLiteral("LastUser"), QStringLiteral("me")},
-        {QStringLiteral("When"), QDateTime(QDate(2006, 3, 3), QTime(4, 5), Qt::UTC)},
-        {QStringLiteral("Raw"), QByteArray("\0\1", 2)}};
+    const QVariantMap others{{u"LastUser"_s, u"me"_s},
+                             {u"When"_s, QDateTime(QDate(2006, 3, 3), QTime(4, 5), Qt::UTC)},
+                             {u"Raw"_s, QByteArray("\0\1", 2)}};
     QVariantMap domain = others;
     domain.insert(itemsKey,
-                  QVariantList{item("/Apps/Mail"), item("/old/CaravelHelper/"),
-                               QStringLiteral("no item"), item("/Apps/Caravel"),
-                               item("/copy/CaravelHelper"), item("/Apps/CaravelHelper 2")});
+                  QVariantList{item("/Apps/Mail"), item("/old/CaravelHelper/"), u"no item"_s,
+                               item("/Apps/Caravel"), item("/copy/CaravelHelper"),
+                               item("/Apps/CaravelHelper 2")});
     writeFile(list, PropertyList::toXml(domain));
     for (int again = 0; again < 2; ++again) {
         items.setStartOnLogin(true);
-        EXPECT_EQ(paths(), (QStringList{bundle, QStringLiteral("/Apps/Mail"), QString(),
-                                        QStringLiteral("/Apps/CaravelHelper 2")}));
+        EXPECT_EQ(paths(),
+                  (QStringList{bundle, u"/Apps/Mail"_s, QString(), u"/Apps/CaravelHelper 2"_s}));
     }
     const QVariantMap entry =
         PropertyList::readDictionary(list).valueOr({}).value(itemsKey).toList().first().toMap();
-    EXPECT_EQ(entry.value(QStringLiteral("Hide")), QVariant(false));
-    EXPECT_EQ(entry.value(QStringLiteral("AliasData")).typeId(), QMetaType::QByteArray);
+    EXPECT_EQ(entry.value(u"Hide"_s), QVariant(false));
+    EXPECT_EQ(entry.value(u"AliasData"_s).typeId(), QMetaType::QByteArray);
     const QByteArray exec = "\nExec=\"" + home.path().toUtf8() +
                             "/50%% \\\\\"off\\\\\"/CaravelHelper/Contents/bin/caravel-helper\"\n";
     EXPECT_TRUE(readFile(autostart).contains(exec)) << readFile(autostart).constData();
 
     items.setStartOnLogin(false);
-    EXPECT_EQ(paths(), (QStringList{QStringLiteral("/Apps/Mail"), QString(),
-                                    QStringLiteral("/Apps/CaravelHelper 2")}));
+    EXPECT_EQ(paths(), (QStringList{u"/Apps/Mail"_s, QString(), u"/Apps/CaravelHelper 2"_s}));
     QVariantMap left = PropertyList::readDictionary(list).valueOr({});
     left.remove(itemsKey);
     EXPECT_EQ(left, others);
@@ -96,14 +93,14 @@ TEST_F(LoginItemsTest, EditsTheListAndNothingElse)
 TEST_F(LoginItemsTest, LeavesAloneWhatItCantRead)
 {
     const QByteArray wrongType =
-        PropertyList::toXml(QVariantMap{{itemsKey, QVariantMap{{QStringLiteral("a"), 1}}}});
+        PropertyList::toXml(QVariantMap{{itemsKey, QVariantMap{{u"a"_s, 1}}}});
     for (const QByteArray &contents :
          {QByteArray("garbage"), QByteArray(), PropertyList::toXml(QVariantList{1}), wrongType}) {
         writeFile(list, contents);
         SystemLogCapture log;
         items.setStartOnLogin(true);
         EXPECT_EQ(readFile(list), contents);
-        EXPECT_TRUE(log.contains(QStringLiteral("loginwindow"))) << contents.constData();
+        EXPECT_TRUE(log.contains(u"loginwindow"_s)) << contents.constData();
         EXPECT_TRUE(QFile::exists(autostart)) << "the user's wish holds all the same";
         items.setStartOnLogin(false);
         EXPECT_FALSE(QFile::exists(autostart));

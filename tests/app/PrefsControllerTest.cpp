@@ -15,7 +15,7 @@ class PrefsControllerTest : public testing::Test
 protected:
     TemporaryFolder folder;
     FakeNotifications notifications;
-    UserDefaults defaults{QStringLiteral("shared"), folder.path()};
+    UserDefaults defaults{u"shared"_s, folder.path()};
 
     void SetUp() override
     {
@@ -30,32 +30,29 @@ protected:
 TEST_F(PrefsControllerTest, InstallsEveryDefaultWithoutWritingIt)
 {
     EXPECT_EQ(Settings::keys().size(), 32U);
-    EXPECT_EQ(defaults.unsignedForKey(QStringLiteral("lastFreeSpace")), 490943283U);
-    EXPECT_EQ(defaults.stringForKey(QStringLiteral("CaravelFolder")),
-              QStringLiteral("~/Documents"));
-    EXPECT_TRUE(defaults.boolForKey(QStringLiteral("startOnLogin")));
-    EXPECT_FALSE(defaults.dateForKey(QStringLiteral("lastSync")));
-    EXPECT_FALSE(defaults.stringArrayForKey(QStringLiteral("enabledMusic")));
+    EXPECT_EQ(defaults.unsignedForKey(u"lastFreeSpace"_s), 490943283U);
+    EXPECT_EQ(defaults.stringForKey(u"CaravelFolder"_s), u"~/Documents"_s);
+    EXPECT_TRUE(defaults.boolForKey(u"startOnLogin"_s));
+    EXPECT_FALSE(defaults.dateForKey(u"lastSync"_s));
+    EXPECT_FALSE(defaults.stringArrayForKey(u"enabledMusic"_s));
     EXPECT_TRUE(defaults.synchronize());
-    EXPECT_EQ(readFile(folder / QStringLiteral("shared.plist")), QByteArray());
-    EXPECT_EQ(Folders::documents(),
-              qEnvironmentVariable("HOME") + QStringLiteral("/Documents/Caravel"));
+    EXPECT_EQ(readFile(folder / u"shared.plist"_s), QByteArray());
+    EXPECT_EQ(Folders::documents(), qEnvironmentVariable("HOME") + u"/Documents/Caravel"_s);
 }
 
 TEST_F(PrefsControllerTest, RelaysChangesBothWays)
 {
-    const QString announcement = QStringLiteral("CVPrefsDidChangeNotification");
-    defaults.setObject(QStringLiteral("organizeMusicBy"), 3);
+    const QString announcement = u"CVPrefsDidChangeNotification"_s;
+    defaults.setObject(u"organizeMusicBy"_s, 3);
     ASSERT_TRUE(waitFor([&] { return notifications.posted.contains(announcement); }));
-    UserDefaults frontEnd(QStringLiteral("shared"), folder.path());
-    EXPECT_EQ(frontEnd.integerForKey(QStringLiteral("organizeMusicBy")), 3)
-        << "written before it was announced";
+    UserDefaults frontEnd(u"shared"_s, folder.path());
+    EXPECT_EQ(frontEnd.integerForKey(u"organizeMusicBy"_s), 3) << "written before it was announced";
 
     PrefsController::beginObserving(notifications);
-    frontEnd.setObject(QStringLiteral("sortMusicBy"), 1);
+    frontEnd.setObject(u"sortMusicBy"_s, 1);
     ASSERT_TRUE(frontEnd.synchronize());
-    EXPECT_EQ(defaults.integerForKey(QStringLiteral("sortMusicBy")), 2);
+    EXPECT_EQ(defaults.integerForKey(u"sortMusicBy"_s), 2);
     notifications.post(announcement);
-    EXPECT_EQ(defaults.integerForKey(QStringLiteral("sortMusicBy")), 1);
-    EXPECT_EQ(defaults.integerForKey(QStringLiteral("organizeMusicBy")), 3);
+    EXPECT_EQ(defaults.integerForKey(u"sortMusicBy"_s), 1);
+    EXPECT_EQ(defaults.integerForKey(u"organizeMusicBy"_s), 3);
 }

@@ -12,7 +12,7 @@ namespace {
 
 QString frame(int number)
 {
-    return QStringLiteral("InactiveSyncingIcon%1/ActiveSyncingIcon%1").arg(number);
+    return u"InactiveSyncingIcon%1/ActiveSyncingIcon%1"_s.arg(number);
 }
 
 QString shown(const Menu &menu)
@@ -43,7 +43,7 @@ TEST(StatusIconTest, SwingsThroughThirteenFrames)
     EXPECT_TRUE(bar.enabled);
     EXPECT_EQ(bar.menu, &menu.menu());
     icon.stopSyncAnimation();
-    EXPECT_EQ(bar.images, QStringList{QStringLiteral("InactiveNoPSPIcon/ActiveIcon")})
+    EXPECT_EQ(bar.images, QStringList{u"InactiveNoPSPIcon/ActiveIcon"_s})
         << "stopping what doesn't run changes nothing";
 
     bar.images.clear();
@@ -62,7 +62,7 @@ TEST(StatusIconTest, SwingsThroughThirteenFrames)
 
     harness.mountStick();
     icon.stopSyncAnimation();
-    EXPECT_EQ(bar.images.last(), QStringLiteral("InactiveIcon/ActiveIcon"));
+    EXPECT_EQ(bar.images.last(), u"InactiveIcon/ActiveIcon"_s);
     icon.startSyncAnimation();
     ASSERT_TRUE(waitFor([&] { return bar.images.last() == frame(3); })) << "by its timer";
     EXPECT_EQ(bar.images.mid(bar.images.size() - 3), (QStringList{frame(1), frame(2), frame(3)}))
@@ -77,18 +77,16 @@ TEST(StatusIconTest, SwingsThroughThirteenFrames)
 TEST(StatusMenuTest, FollowsTheManager)
 {
     TemporaryFolder sources;
-    writeFile(sources / QStringLiteral("one"), "contents");
+    writeFile(sources / u"one"_s, "contents");
     SyncHarness *running = nullptr;
     StatusMenu *following = nullptr;
     QStringList during;
     ListModule::Wishes wishes{[&] {
                                   return std::vector<CVSyncItem>{
-                                      {sources / QStringLiteral("one"),
-                                       running->stick(QStringLiteral("PSP/MUSIC/one")),
-                                       {}}};
+                                      {sources / u"one"_s, running->stick(u"PSP/MUSIC/one"_s), {}}};
                               },
-                              QStringLiteral("/PSP/MUSIC")};
-    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
+                              u"/PSP/MUSIC"_s};
+    SyncHarness harness{{ListModule::kind(u"Music"_s, wishes)}};
     running = &harness;
     QStringList chosen;
     const auto note = [&](const QString &title) {
@@ -96,18 +94,18 @@ TEST(StatusMenuTest, FollowsTheManager)
     };
     StatusMenu menu(harness.manager, {note, {}, {}, note});
     following = &menu;
-    menu.setStatusText(QStringLiteral("Idle"));
+    menu.setStatusText(u"Idle"_s);
     menu.update();
-    EXPECT_EQ(shown(menu.menu()), QStringLiteral("Idle,(Sync Now),(Eject PSP),Open Caravel,Quit"));
+    EXPECT_EQ(shown(menu.menu()), u"Idle,(Sync Now),(Eject PSP),Open Caravel,Quit"_s);
     menu.menu().choose(1); // disabled
     menu.menu().choose(4);
     menu.menu().choose(9);
     ASSERT_TRUE(waitFor([&] { return !chosen.isEmpty(); }));
-    EXPECT_EQ(chosen, QStringList{QStringLiteral("Quit")});
+    EXPECT_EQ(chosen, QStringList{u"Quit"_s});
 
     harness.mountStick();
     menu.menu().setOpen(true); // whoever opens it asks
-    EXPECT_EQ(shown(menu.menu()), QStringLiteral("Idle,Sync Now,Eject PSP,Open Caravel,Quit"));
+    EXPECT_EQ(shown(menu.menu()), u"Idle,Sync Now,Eject PSP,Open Caravel,Quit"_s);
     harness.delegate.onEvent = [&](const QString &event) {
         if (event == u"syncDidStart" || event.startsWith(u"syncWillCancel") ||
             event.startsWith(u"syncDidFinish")) {
@@ -121,9 +119,8 @@ TEST(StatusMenuTest, FollowsTheManager)
     };
     harness.run();
     ASSERT_TRUE(waitFor([&] { return chosen.size() == 2; }));
-    EXPECT_EQ(chosen.last(), QStringLiteral("Cancel Sync")) << "as it was when it was chosen";
-    EXPECT_EQ(during,
-              (QStringList{QStringLiteral("Idle,Cancel Sync,(Eject PSP),Open Caravel,Quit"),
-                           QStringLiteral("Idle,(Cancel Sync),(Eject PSP),Open Caravel,Quit"),
-                           QStringLiteral("Idle,Sync Now,Eject PSP,Open Caravel,Quit")}));
+    EXPECT_EQ(chosen.last(), u"Cancel Sync"_s) << "as it was when it was chosen";
+    EXPECT_EQ(during, (QStringList{u"Idle,Cancel Sync,(Eject PSP),Open Caravel,Quit"_s,
+                                   u"Idle,(Cancel Sync),(Eject PSP),Open Caravel,Quit"_s,
+                                   u"Idle,Sync Now,Eject PSP,Open Caravel,Quit"_s}));
 }

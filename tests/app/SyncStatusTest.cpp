@@ -21,14 +21,13 @@ protected:
     ListModule::Wishes wishes{
         [this] {
             std::vector<CVSyncItem> items;
-            for (const QString &name : {QStringLiteral("one"), QStringLiteral("two")})
-                items.emplace_back(sources / name,
-                                   harness.stick(QStringLiteral("PSP/MUSIC/") + name), name);
+            for (const QString &name : {u"one"_s, u"two"_s})
+                items.emplace_back(sources / name, harness.stick(u"PSP/MUSIC/"_s + name), name);
             return items;
         },
-        QStringLiteral("/PSP/MUSIC")};
+        u"/PSP/MUSIC"_s};
     FailingFileManager files;
-    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
+    SyncHarness harness{{ListModule::kind(u"Music"_s, wishes)}};
     QMLogger logger;
     FrontEnd frontEnd;
     FakeStatusBar statusBar;
@@ -46,7 +45,7 @@ protected:
     {
         FileManager::setDefaultManager(&files);
         harness.manager.setDelegate(&status);
-        for (const QString &name : {QStringLiteral("one"), QStringLiteral("two")})
+        for (const QString &name : {u"one"_s, u"two"_s})
             writeFile(sources / name, "contents");
     }
     void TearDown() override
@@ -84,24 +83,24 @@ TEST_F(SyncStatusTest, FollowsTheDeviceAndTheRun)
 {
     files.freeBytes = 3ULL << 29;
     harness.mountStick();
-    EXPECT_EQ(status.statusText(), QStringLiteral("1.5 GB Available"));
+    EXPECT_EQ(status.statusText(), u"1.5 GB Available"_s);
     EXPECT_EQ(status.statusSubText(), QStringLiteral("Click \"Sync Now\" to perform a sync."));
     run();
-    EXPECT_EQ(status.statusText(), QStringLiteral("Sync Successful"));
-    EXPECT_EQ(status.statusSubText(), QStringLiteral("Last Sync: Today 03:09 PM"));
+    EXPECT_EQ(status.statusText(), u"Sync Successful"_s);
+    EXPECT_EQ(status.statusSubText(), u"Last Sync: Today 03:09 PM"_s);
     EXPECT_EQ(messages(), list({"Sync was completed successfully."}));
     EXPECT_EQ(sounds.played, list({"SyncCompleted"}));
 
     Settings::openOnMount.set(true);
     harness.volumes.unmount(harness.stick());
-    EXPECT_EQ(status.statusText(), QStringLiteral("No PSP Connected"));
-    EXPECT_EQ(status.statusSubText(), QStringLiteral("Connect a PSP to perform a sync."));
+    EXPECT_EQ(status.statusText(), u"No PSP Connected"_s);
+    EXPECT_EQ(status.statusSubText(), u"Connect a PSP to perform a sync."_s);
     harness.volumes.mount(harness.stick());
-    EXPECT_EQ(status.statusSubText(), QStringLiteral("Last Sync: Today 03:09 PM"));
+    EXPECT_EQ(status.statusSubText(), u"Last Sync: Today 03:09 PM"_s);
     EXPECT_EQ(opened, 1);
     harness.volumes.canEject = false;
     harness.manager.eject();
-    EXPECT_EQ(status.statusText(), QStringLiteral("Eject Failed"));
+    EXPECT_EQ(status.statusText(), u"Eject Failed"_s);
 }
 
 TEST_F(SyncStatusTest, LogsEveryTextWhenAskedTo)
@@ -123,26 +122,24 @@ TEST_F(SyncStatusTest, SaysWhyARunEnded)
     files.freeBytes = 10;
     run();
     EXPECT_EQ(alerts.titles, list({"Sync too large!"}));
-    EXPECT_TRUE(
-        alerts.message.contains(QStringLiteral("sync 16 b, however only 10 b of free space")));
+    EXPECT_TRUE(alerts.message.contains(u"sync 16 b, however only 10 b of free space"_s));
     EXPECT_EQ(messages(), list({"Not enough free space to complete sync of size: 16 b",
                                 "Sync was cancelled."}));
-    EXPECT_EQ(status.statusText(), QStringLiteral("Sync Cancelled"));
+    EXPECT_EQ(status.statusText(), u"Sync Cancelled"_s);
     EXPECT_TRUE(sounds.played.isEmpty());
-    EXPECT_EQ(status.statusSubText(),
-              QStringLiteral("You must re-sync to ensure the PSP is up to date."));
+    EXPECT_EQ(status.statusSubText(), u"You must re-sync to ensure the PSP is up to date."_s);
 }
 
 TEST_F(SyncStatusTest, TellsAFullStickFromOtherErrors)
 {
     const SystemLogCapture system;
     harness.mountStick();
-    files.readOnlyBelow = harness.stick(QStringLiteral("PSP"));
+    files.readOnlyBelow = harness.stick(u"PSP"_s);
     run();
     ASSERT_EQ(messages().size(), 3);
-    EXPECT_TRUE(messages()[0].startsWith(QStringLiteral("Unexpected error: Couldn't create: ") +
-                                         harness.stick()));
-    EXPECT_EQ(messages()[2], QStringLiteral("Sync was completed successfully."));
+    EXPECT_TRUE(
+        messages()[0].startsWith(u"Unexpected error: Couldn't create: "_s + harness.stick()));
+    EXPECT_EQ(messages()[2], u"Sync was completed successfully."_s);
     EXPECT_TRUE(alerts.titles.isEmpty());
 
     files.readOnlyBelow.clear();
@@ -156,7 +153,7 @@ TEST_F(SyncStatusTest, TellsAFullStickFromOtherErrors)
               list({"Memory stick filled while syncing!", "Sync was cancelled."}));
     EXPECT_EQ(alerts.titles, list({"Memory stick full!"})) << "once, however many files fail";
 
-    status.syncError({{QStringLiteral("Error"), QStringLiteral("Couldn't remove")}});
+    status.syncError({{u"Error"_s, u"Couldn't remove"_s}});
     EXPECT_EQ(alerts.titles.size(), 1);
 }
 

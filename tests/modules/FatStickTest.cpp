@@ -17,7 +17,7 @@ class FatStickTest : public testing::Test
 {
 protected:
     SyncHarness harness{{CVSyncMusic::kind()}};
-    FatImage image{harness.folder / QStringLiteral("stick.img"), 64 << 20};
+    FatImage image{harness.folder / u"stick.img"_s, 64 << 20};
     MusicLibraryFile library;
     QList<int> ids;
     std::vector<std::string> wanted; // the tracks' contents
@@ -36,7 +36,7 @@ protected:
         const int id = static_cast<int>(wanted.size());
         // All of one size: only the names tell them apart.
         const QByteArray contents = "track " + QByteArray::number(id).rightJustified(4, '0');
-        const QString file = harness.home(QStringLiteral("Music/%1.mp3").arg(id));
+        const QString file = harness.home(u"Music/%1.mp3"_s.arg(id));
         writeFile(file, contents);
         library.addFile(id, file,
                         MusicLibraryFile::string("Name", title) +
@@ -47,27 +47,24 @@ protected:
     void writeLibrary()
     {
         MusicLibraryFile all = library;
-        all.addPlaylist(QStringLiteral("All"), ids);
-        writeFile(harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
-                  all.contents());
-        CVSyncMusic::setSelectedIdentifiers({QStringLiteral("All")}, harness.stick());
+        all.addPlaylist(u"All"_s, ids);
+        writeFile(harness.home(u"Music/iTunes/iTunes Music Library.xml"_s), all.contents());
+        CVSyncMusic::setSelectedIdentifiers({u"All"_s}, harness.stick());
     }
-    QStringList tree() const { return treeOf(harness.stick(QStringLiteral("PSP/MUSIC"))); }
+    QStringList tree() const { return treeOf(harness.stick(u"PSP/MUSIC"_s)); }
     std::vector<std::string> found() const
     {
         std::vector<std::string> contents;
         for (const QString &path : tree()) {
             if (!path.endsWith(u'/'))
-                contents.push_back(
-                    readFile(harness.stick(QStringLiteral("PSP/MUSIC/") + path)).toStdString());
+                contents.push_back(readFile(harness.stick(u"PSP/MUSIC/"_s + path)).toStdString());
         }
         std::sort(contents.begin(), contents.end());
         return contents;
     }
     int copied() const
     {
-        return static_cast<int>(
-            harness.delegate.events.filter(QStringLiteral("syncWillProcessItem")).size());
+        return static_cast<int>(harness.delegate.events.filter(u"syncWillProcessItem"_s).size());
     }
 };
 
@@ -80,12 +77,11 @@ TEST_F(FatStickTest, KeepsEveryFileAndItsNameFromRunToRun)
             addTrack(QString::fromLatin1(album), QString::fromLatin1(title));
     for (const char *album : {"Café", "Cafe\u0301", "CAFÉ", "Live.", "Live. ", "Live", " Live",
                               "...", "Straße", "STRASSE"})
-        addTrack(QString::fromUtf8(album), QStringLiteral("One"));
+        addTrack(QString::fromUtf8(album), u"One"_s);
     for (const QString &title :
          {QString(300, QChar(0xE9)), QString(299, QChar(0xE9)) + u'x', QString(200, QChar(0x65E5)),
-          QString(255, u'x'), QString(251, u'y'), QStringLiteral("ends in a dot."),
-          QStringLiteral("ends in a blank ")})
-        addTrack(QStringLiteral("Long"), title);
+          QString(255, u'x'), QString(251, u'y'), u"ends in a dot."_s, u"ends in a blank "_s})
+        addTrack(u"Long"_s, title);
     writeLibrary();
     ASSERT_TRUE(harness.run());
     EXPECT_EQ(found(), wanted);
@@ -100,11 +96,11 @@ TEST_F(FatStickTest, KeepsEveryFileAndItsNameFromRunToRun)
     // Another computer has spelled a folder in another case.
     for (const char *step : {"Mix Mix_", "Mix_ MIX"}) {
         const QStringList names = QString::fromLatin1(step).split(u' ');
-        const QString music = harness.stick(QStringLiteral("PSP/MUSIC/"));
+        const QString music = harness.stick(u"PSP/MUSIC/"_s);
         ASSERT_TRUE(QDir().rename(music + names[0], music + names[1]));
         ASSERT_TRUE(image.remount());
     }
-    ASSERT_TRUE(tree().contains(QStringLiteral("MIX/")));
+    ASSERT_TRUE(tree().contains(u"MIX/"_s));
     ASSERT_TRUE(harness.run());
     EXPECT_EQ(copied(), 0);
     EXPECT_EQ(found(), wanted);

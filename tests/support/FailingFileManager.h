@@ -105,7 +105,7 @@ public:
     {
         auto space = FileManager::volumeSpace(path);
         if (space && freeBytes)
-            *space = {.size = space->size, .free = *freeBytes};
+            space->free = *freeBytes;
         return space;
     }
 

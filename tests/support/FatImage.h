@@ -17,27 +17,24 @@ public:
     {
         writeFile(m_image, {});
         QFile::resize(m_image, bytes);
-        m_isFormatted =
-            output(QStringLiteral("mkfs.exfat"), options + QStringList{m_image}).has_value();
+        m_isFormatted = output(u"mkfs.exfat"_s, options + QStringList{m_image}).has_value();
     }
     ~FatImage()
     {
         if (!m_folder.isEmpty())
-            output(QStringLiteral("umount"), {QStringLiteral("-l"), m_folder});
+            output(u"umount"_s, {u"-l"_s, m_folder});
         if (m_device)
-            output(QStringLiteral("losetup"), {QStringLiteral("-d"), *m_device});
+            output(u"losetup"_s, {u"-d"_s, *m_device});
     }
-    FatImage(const FatImage &) = delete;
-    FatImage &operator=(const FatImage &) = delete;
+    Q_DISABLE_COPY_MOVE(FatImage)
 
     /// False where this machine doesn't let us.
     bool mount(const QString &folder)
     {
         QDir().mkpath(folder);
         if (m_isFormatted)
-            m_device = output(QStringLiteral("losetup"),
-                              {QStringLiteral("-f"), QStringLiteral("--show"), m_image});
-        if (!m_device || !output(QStringLiteral("mount.exfat-fuse"), {*m_device, folder}))
+            m_device = output(u"losetup"_s, {u"-f"_s, u"--show"_s, m_image});
+        if (!m_device || !output(u"mount.exfat-fuse"_s, {*m_device, folder}))
             return false;
         m_folder = folder;
         return true;
@@ -45,8 +42,8 @@ public:
     /// Unmounts and mounts in the same place, as what another computer has done comes back.
     bool remount()
     {
-        return output(QStringLiteral("umount"), {m_folder}) &&
-               output(QStringLiteral("mount.exfat-fuse"), {*m_device, m_folder});
+        return output(u"umount"_s, {m_folder}) &&
+               output(u"mount.exfat-fuse"_s, {*m_device, m_folder});
     }
 
 private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/SyncHarness.h"
 #include "sync/ModuleKind.h"
 
 #include <functional>
@@ -14,7 +15,7 @@ public:
         std::function<std::vector<CVSyncItem>()> items;
         QString folder; ///< of the module, below the volume
         bool clears = true;
-        QString name = QStringLiteral("Test");
+        QString name = u"Test"_s;
     };
 
     ListModule(const QString &volume, const QString &saveName, const Wishes &wishes)
@@ -37,4 +38,36 @@ public:
 
 private:
     const Wishes &m_wishes;
+};
+
+/// A kind that wants files of a folder of sources, and what lies in its folder on the stick.
+class ListHarness : public SyncHarness
+{
+public:
+    TemporaryFolder sources;
+    QStringList wanted; ///< names below the sources and below the kind's folder
+    ListModule::Wishes wishes{[this] {
+                                  std::vector<CVSyncItem> items;
+                                  for (const QString &name : wanted)
+                                      items.emplace_back(sources / name, place(name), name);
+                                  return items;
+                              },
+                              u"/PSP/MUSIC"_s, true, u"Music"_s};
+
+    ListHarness()
+        : SyncHarness({ListModule::kind(u"Music"_s, wishes)})
+    {
+    }
+    void want(const QString &name, const QByteArray &contents)
+    {
+        writeFile(sources / name, contents);
+        wanted.append(name);
+    }
+    /// On the stick.
+    QString place(const QString &name) const { return stick(u"PSP/MUSIC/"_s + name); }
+    void put(const QString &name, const QByteArray &contents = "x") const
+    {
+        writeFile(place(name), contents);
+    }
+    std::string placed() const { return tree(u"PSP/MUSIC"_s); }
 };

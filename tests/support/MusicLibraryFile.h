@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/TestSupport.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -24,8 +26,8 @@ public:
     /// A track that is a file at the path; `more` is added to its dictionary.
     void addFile(int id, const QString &path, const QByteArray &more)
     {
-        addTrack(id, string("Track Type", QStringLiteral("File")) +
-                         string("Location", QStringLiteral("file://localhost") + path) + more);
+        addTrack(id, string("Track Type", u"File"_s) +
+                         string("Location", u"file://localhost"_s + path) + more);
     }
     void addTrack(int id, const QByteArray &inside)
     {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/lists/PropertyList.h"
+#include "support/TestSupport.h"
 
 #include <QVariantMap>
 
@@ -11,26 +12,25 @@ public:
     /// An image under that key; nothing for `caption` leaves the caption out.
     void addImage(const QString &key, const QString &path, const std::optional<QString> &caption)
     {
-        QVariantMap image{{QStringLiteral("ImagePath"), path},
-                          {QStringLiteral("ThumbPath"), QStringLiteral("/passed/over")}};
+        QVariantMap image{{u"ImagePath"_s, path}, {u"ThumbPath"_s, u"/passed/over"_s}};
         if (caption)
-            image.insert(QStringLiteral("Caption"), *caption);
+            image.insert(u"Caption"_s, *caption);
         m_images.insert(key, image);
     }
     void addRawImage(const QString &key, const QVariant &image) { m_images.insert(key, image); }
     void addAlbum(const QString &name, const QStringList &keys, const QVariantMap &more = {})
     {
         QVariantMap album = more;
-        album.insert(QStringLiteral("AlbumName"), name);
-        album.insert(QStringLiteral("KeyList"), keys);
+        album.insert(u"AlbumName"_s, name);
+        album.insert(u"KeyList"_s, keys);
         m_albums.append(album);
     }
     void addRawAlbum(const QVariant &album) { m_albums.append(album); }
 
     QByteArray contents() const
     {
-        return PropertyList::toXml(QVariantMap{{QStringLiteral("List of Albums"), m_albums},
-                                               {QStringLiteral("Master Image List"), m_images}});
+        return PropertyList::toXml(
+            QVariantMap{{u"List of Albums"_s, m_albums}, {u"Master Image List"_s, m_images}});
     }
 
 private:

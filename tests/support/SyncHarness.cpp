@@ -66,94 +66,60 @@ void FakeClock::sleep(std::chrono::milliseconds)
         onSleep(pauses);
 }
 
-void RecordingDelegate::note(QStringView event, const QString &argument)
+void RecordingDelegate::note(const QString &event)
 {
-    const QString line = argument.isEmpty() ? event.toString() : event.toString() + u' ' + argument;
-    events.append(line);
+    events.append(event);
     if (onEvent)
-        onEvent(line);
+        onEvent(event);
 }
 
 QStringList RecordingDelegate::steps() const
 {
-    QStringList result;
-    for (const QString &event : events) {
-        if (!event.startsWith(u"syncDidCopyBytes") && !event.startsWith(u"newSyncBytesEstimate"))
-            result.append(event);
-    }
+    QStringList result = events;
+    result.removeIf([](const QString &event) {
+        return event.startsWith(u"syncDidCopyBytes") || event.startsWith(u"newSyncBytesEstimate");
+    });
     return result;
-}
-
-int RecordingDelegate::count(const QString &event) const
-{
-    return static_cast<int>(events.count(event));
-}
-
-bool RecordingDelegate::shouldSyncOnMount()
-{
-    note(u"shouldSyncOnMount");
-    return answerSyncOnMount;
 }
 
 bool RecordingDelegate::shouldUnmountPSP()
 {
     // Asked on the run's thread; the list belongs to the main thread.
     performOnMainThread(
-        nullptr, [this] { note(u"shouldUnmountPSP"); }, CallMode::Wait);
+        nullptr, [this] { note(u"shouldUnmountPSP"_s); }, CallMode::Wait);
     return answerUnmount;
-}
-
-void RecordingDelegate::syncNotEnoughFreeSpace(quint64 bytes)
-{
-    note(u"syncNotEnoughFreeSpace", QString::number(bytes));
-}
-
-void RecordingDelegate::syncWillProcessModule(const QString &name)
-{
-    note(u"syncWillProcessModule", name);
-}
-
-void RecordingDelegate::syncWillProcessItem(const CVSyncItem &item)
-{
-    note(u"syncWillProcessItem", item.description);
-}
-
-void RecordingDelegate::syncDidCopyBytes(quint64 count)
-{
-    note(u"syncDidCopyBytes", QString::number(count));
-}
-
-void RecordingDelegate::syncDidProcessItem(const CVSyncItem &item)
-{
-    note(u"syncDidProcessItem", item.description);
 }
 
 void RecordingDelegate::syncError(const ErrorInfo &error)
 {
     errors.push_back(error);
-    note(u"syncError", error.value(QStringLiteral("Error")).toString());
+    note(u"syncError "_s + error.value(u"Error"_s).toString());
 }
 
-void RecordingDelegate::syncDidFinish(bool completed)
-{
-    note(u"syncDidFinish", completed ? QStringLiteral("true") : QStringLiteral("false"));
-}
-
-void RecordingDelegate::newSyncBytesEstimate(quint64 bytes)
-{
-    note(u"newSyncBytesEstimate", QString::number(bytes));
-}
-
-SyncHarness::SyncHarness(ModuleCatalogue catalogue, const QString &place)
+HomeHarness::HomeHarness(const QString &place)
     : folder(place)
-    , defaults(QStringLiteral("org.caravel.Caravel"), folder / QStringLiteral("preferences"))
-    , manager({volumes, notifications, clock, folder / QStringLiteral("resources")},
-              std::move(catalogue))
+    , defaults(u"org.caravel.Caravel"_s, folder / u"preferences"_s)
 {
-    QDir().mkpath(folder / QStringLiteral("home"));
-    qputenv("HOME", (folder / QStringLiteral("home")).toUtf8());
+    QDir().mkpath(home({}));
+    qputenv("HOME", (folder / u"home"_s).toUtf8());
     UserDefaults::setStandard(&defaults);
     defaults.registerDefaults(Settings::registeredDefaults());
+}
+
+QString HomeHarness::stick(const QString &relative) const
+{
+    const QString volume = folder / u"volumes/STICK"_s;
+    return relative.isEmpty() ? volume : volume + u'/' + relative;
+}
+
+void HomeHarness::settle()
+{
+    ASSERT_TRUE(Workers::serveUntilFinished(std::chrono::seconds(60)));
+}
+
+SyncHarness::SyncHarness(ModuleCatalogue catalogue)
+    : manager({volumes, notifications, clock, folder / u"resources"_s}, std::move(catalogue))
+{
     manager.setDelegate(&delegate);
 }
 
@@ -161,21 +127,14 @@ SyncHarness::~SyncHarness()
 {
     delegate.onEvent = nullptr;
     settle();
-    UserDefaults::setStandard(nullptr);
-}
-
-QString SyncHarness::stick(const QString &relative) const
-{
-    const QString volume = folder / QStringLiteral("volumes/STICK");
-    return relative.isEmpty() ? volume : volume + u'/' + relative;
 }
 
 void SyncHarness::mountStick(bool syncedBefore)
 {
-    writeFile(stick(QStringLiteral("MEMSTICK.IND")), {});
-    QDir().mkpath(stick(QStringLiteral("PSP")));
+    writeFile(stick(u"MEMSTICK.IND"_s), {});
+    QDir().mkpath(stick(u"PSP"_s));
     if (syncedBefore)
-        QDir().mkpath(stick(QStringLiteral(".caravel")));
+        QDir().mkpath(stick(u".caravel"_s));
     Settings::syncOnMount.set(false);
     volumes.mount(stick());
 }
@@ -185,31 +144,31 @@ bool SyncHarness::run()
     delegate.events.clear();
     manager.sync();
     finishRun();
-    return delegate.events.contains(QStringLiteral("syncDidFinish true"));
+    return delegate.events.contains(u"syncDidFinish true"_s);
 }
 
 void SyncHarness::finishRun()
 {
-    ASSERT_TRUE(waitFor([this] {
-        return !delegate.events.isEmpty() &&
-               !delegate.events.filter(QStringLiteral("syncDidFinish")).isEmpty();
-    }));
+    ASSERT_TRUE(waitFor([this] { return !delegate.events.filter(u"syncDidFinish"_s).isEmpty(); }));
     settle();
-}
-
-void SyncHarness::settle()
-{
-    ASSERT_TRUE(Workers::serveUntilFinished(std::chrono::seconds(60)));
 }
 
 QStringList SyncHarness::index(const QString &saveName) const
 {
-    return PropertyList::readStringArray(
-               stick(QStringLiteral(".caravel/%1SyncIndex.plist").arg(saveName)))
-        .valueOr({QStringLiteral("no index")});
+    return PropertyList::readStringArray(stick(u".caravel/%1SyncIndex.plist"_s.arg(saveName)))
+        .valueOr({u"no index"_s});
 }
 
 quint64 SyncHarness::lastSyncSizeOnStick() const
 {
-    return NumberArchive::read(stick(QStringLiteral(".caravel/LastSyncSize"))).valueOr(0);
+    return NumberArchive::read(stick(u".caravel/LastSyncSize"_s)).valueOr(0);
+}
+
+std::string SyncHarness::wishes(CVSyncModule &&module)
+{
+    QStringList all;
+    for (const CVSyncItem &item : module.itemsToSync())
+        all.append(item.destination.mid(module.rootSyncFolder().size() + 1) + u" < "_s +
+                   item.source.section(u'/', -1));
+    return joined(all);
 }

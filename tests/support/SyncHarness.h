@@ -68,41 +68,81 @@ public:
 
     /// The events without the chunks' ("syncDidCopyBytes"), which come as often as chunks do.
     QStringList steps() const;
-    int count(const QString &event) const;
+    int count(const QString &event) const { return static_cast<int>(events.count(event)); }
+    /// How many items the last run took up.
+    int processed() const
+    {
+        return static_cast<int>(events.filter(u"syncWillProcessItem"_s).size());
+    }
 
-    void pspDidMount(const QString &) override { note(u"pspDidMount"); }
-    void pspDidUnmount() override { note(u"pspDidUnmount"); }
-    void foundUnformattedMemoryStick() override { note(u"foundUnformattedMemoryStick"); }
-    bool shouldSyncOnMount() override;
-    void syncWillStart() override { note(u"syncWillStart"); }
-    void syncWillCleanUp() override { note(u"syncWillCleanUp"); }
-    void syncNotEnoughFreeSpace(quint64 bytes) override;
-    void syncWillCancel() override { note(u"syncWillCancel"); }
-    void syncDidStart() override { note(u"syncDidStart"); }
-    void syncWillProcessModule(const QString &name) override;
-    void syncWillProcessItem(const CVSyncItem &item) override;
-    void syncDidCopyBytes(quint64 count) override;
-    void syncDidCopyLastBytes() override { note(u"syncDidCopyLastBytes"); }
-    void syncDidProcessItem(const CVSyncItem &item) override;
+    void pspDidMount(const QString &) override { note(u"pspDidMount"_s); }
+    void pspDidUnmount() override { note(u"pspDidUnmount"_s); }
+    void foundUnformattedMemoryStick() override { note(u"foundUnformattedMemoryStick"_s); }
+    bool shouldSyncOnMount() override { return note(u"shouldSyncOnMount"_s), answerSyncOnMount; }
+    void syncWillStart() override { note(u"syncWillStart"_s); }
+    void syncWillCleanUp() override { note(u"syncWillCleanUp"_s); }
+    void syncNotEnoughFreeSpace(quint64 n) override { note(u"syncNotEnoughFreeSpace %1"_s.arg(n)); }
+    void syncWillCancel() override { note(u"syncWillCancel"_s); }
+    void syncDidStart() override { note(u"syncDidStart"_s); }
+    void syncWillProcessModule(const QString &name) override
+    {
+        note(u"syncWillProcessModule "_s + name);
+    }
+    void syncWillProcessItem(const CVSyncItem &item) override
+    {
+        note(u"syncWillProcessItem "_s + item.description);
+    }
+    void syncDidCopyBytes(quint64 n) override { note(u"syncDidCopyBytes %1"_s.arg(n)); }
+    void syncDidCopyLastBytes() override { note(u"syncDidCopyLastBytes"_s); }
+    void syncDidProcessItem(const CVSyncItem &item) override
+    {
+        note(u"syncDidProcessItem "_s + item.description);
+    }
     void syncError(const ErrorInfo &error) override;
-    void finalizeDidStart() override { note(u"finalizeDidStart"); }
+    void finalizeDidStart() override { note(u"finalizeDidStart"_s); }
     bool shouldUnmountPSP() override;
-    void pspWillUnmount() override { note(u"pspWillUnmount"); }
-    void pspUnmountFailed() override { note(u"pspUnmountFailed"); }
-    void syncDidFinish(bool completed) override;
-    void newSyncBytesEstimate(quint64 bytes) override;
+    void pspWillUnmount() override { note(u"pspWillUnmount"_s); }
+    void pspUnmountFailed() override { note(u"pspUnmountFailed"_s); }
+    void syncDidFinish(bool done) override
+    {
+        note(done ? u"syncDidFinish true"_s : u"syncDidFinish false"_s);
+    }
+    void newSyncBytesEstimate(quint64 n) override { note(u"newSyncBytesEstimate %1"_s.arg(n)); }
 
 private:
-    void note(QStringView event, const QString &argument = {});
+    void note(const QString &event);
 };
 
-/// A home, a stick, and a manager between them: make something, run, look. The home is $HOME and
-/// its store is UserDefaults::standard() as long as the harness lives.
-class SyncHarness
+/// A home, a stick, preferences and services. The home is $HOME and the preferences are
+/// UserDefaults::standard() as long as it lives.
+class HomeHarness
 {
 public:
-    /// In a folder of its own, or in `place`, where an earlier harness may have left things.
-    explicit SyncHarness(ModuleCatalogue catalogue = {}, const QString &place = {});
+    /// In a folder of its own, or in `place`, where an earlier one may have left things.
+    explicit HomeHarness(const QString &place = {});
+    ~HomeHarness() { UserDefaults::setStandard(nullptr); }
+    Q_DISABLE_COPY_MOVE(HomeHarness)
+
+    QString home(const QString &relative) const { return folder / (u"home/"_s + relative); }
+    QString stick(const QString &relative = {}) const;
+    /// What lies in a folder of the stick, a line each.
+    std::string tree(const QString &relative) const { return joined(treeOf(stick(relative))); }
+    void set(QStringView key, const QVariant &value) { defaults.setObject(key.toString(), value); }
+    /// Waits until no run or estimate lives any more.
+    static void settle();
+
+    TemporaryFolder folder;
+    UserDefaults defaults;
+    FakeVolumes volumes;
+    FakeNotifications notifications;
+    FakeClock clock;
+};
+
+/// A home, a stick, and a manager between them: make something, run, look.
+class SyncHarness : public HomeHarness
+{
+public:
+    explicit SyncHarness(ModuleCatalogue catalogue = {});
     ~SyncHarness();
 
     /// Mounts the stick (formatted for a PSP, and synced before unless told otherwise) without
@@ -111,23 +151,13 @@ public:
     /// Runs a sync to its end and returns whether it completed.
     bool run();
     void finishRun();
-    /// Waits until no run or estimate lives any more.
-    void settle();
 
-    QString home(const QString &relative) const
-    {
-        return folder / (QStringLiteral("home/") + relative);
-    }
-    QString stick(const QString &relative = {}) const;
     QStringList index(const QString &saveName) const;
     /// The archived number of the stick's "LastSyncSize"; 0 where there is none.
     quint64 lastSyncSizeOnStick() const;
+    /// What a kind wants: "place below its folder < source's name", a line each.
+    static std::string wishes(CVSyncModule &&module);
 
-    TemporaryFolder folder;
-    UserDefaults defaults;
-    FakeVolumes volumes;
-    FakeNotifications notifications;
-    FakeClock clock;
     RecordingDelegate delegate;
     CVSyncManager manager;
 };

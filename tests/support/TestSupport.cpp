@@ -15,14 +15,12 @@
 namespace {
 
 std::mutex logMutex;
-QStringList *logLines = nullptr;
-QtMessageHandler previousHandler = nullptr;
+QStringList logLines;
 
 void collectLine(QtMsgType, const QMessageLogContext &, const QString &message)
 {
     const std::scoped_lock lock(logMutex);
-    if (logLines)
-        logLines->append(message);
+    logLines.append(message);
 }
 
 } // namespace
@@ -65,23 +63,20 @@ bool waitFor(const std::function<bool()> &condition, std::chrono::milliseconds l
 NoThreads::NoThreads()
 {
     ::pthread_getattr_default_np(&m_before);
-    pthread_attr_t none;
-    ::pthread_getattr_default_np(&none);
+    pthread_attr_t none = m_before;
     ::pthread_attr_setstacksize(&none, size_t(1) << 48);
     ::pthread_setattr_default_np(&none);
-    ::pthread_attr_destroy(&none);
 }
 
 NoThreads::~NoThreads()
 {
     ::pthread_setattr_default_np(&m_before);
-    ::pthread_attr_destroy(&m_before);
 }
 
 qint64 residentBytes()
 {
     ::malloc_trim(0);
-    return readFile(QStringLiteral("/proc/self/statm")).split(' ').value(1).toLongLong() * 4096;
+    return readFile(u"/proc/self/statm"_s).split(' ').value(1).toLongLong() * 4096;
 }
 
 QStringList treeOf(const QString &folder)
@@ -92,34 +87,21 @@ QStringList treeOf(const QString &folder)
     while (walk.hasNext()) {
         const QString path = walk.next();
         const bool isFolder = walk.fileInfo().isDir() && !walk.fileInfo().isSymLink();
-        entries.append(path.mid(folder.size() + 1) + (isFolder ? QStringLiteral("/") : QString()));
+        entries.append(path.mid(folder.size() + 1) + (isFolder ? u"/"_s : QString()));
     }
     entries.sort();
     return entries;
 }
 
 SystemLogCapture::SystemLogCapture()
+    : m_before(qInstallMessageHandler(collectLine))
 {
     const std::scoped_lock lock(logMutex);
-    logLines = new QStringList;
-    previousHandler = qInstallMessageHandler(collectLine);
+    logLines.clear();
 }
 
-SystemLogCapture::~SystemLogCapture()
-{
-    qInstallMessageHandler(previousHandler);
-    const std::scoped_lock lock(logMutex);
-    delete logLines;
-    logLines = nullptr;
-}
-
-QStringList SystemLogCapture::lines() const
+QStringList SystemLogCapture::lines()
 {
     const std::scoped_lock lock(logMutex);
-    return *logLines;
-}
-
-bool SystemLogCapture::contains(const QString &text) const
-{
-    return lines().join(u'\n').contains(text);
+    return logLines;
 }

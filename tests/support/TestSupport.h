@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <chrono>
@@ -24,6 +25,19 @@ private:
     std::optional<QTemporaryDir> m_folder;
 };
 
+using namespace Qt::StringLiterals;
+
+/// The parts of a text: its words, or what else lies between separators. Empty ones don't count.
+inline QStringList list(const char *text, char separator = ' ')
+{
+    return QString::fromUtf8(text).split(QLatin1Char(separator), Qt::SkipEmptyParts);
+}
+/// For comparisons that print well.
+inline std::string joined(const QStringList &parts, QStringView separator = u"\n")
+{
+    return parts.join(separator).toStdString();
+}
+
 /// Writes a file, making the folders above it.
 void writeFile(const QString &path, const QByteArray &contents);
 QByteArray readFile(const QString &path);
@@ -39,8 +53,7 @@ class NoThreads
 public:
     NoThreads();
     ~NoThreads();
-    NoThreads(const NoThreads &) = delete;
-    NoThreads &operator=(const NoThreads &) = delete;
+    Q_DISABLE_COPY_MOVE(NoThreads)
 
 private:
     pthread_attr_t m_before;
@@ -58,9 +71,11 @@ class SystemLogCapture
 {
 public:
     SystemLogCapture();
-    ~SystemLogCapture();
-    SystemLogCapture(const SystemLogCapture &) = delete;
-    SystemLogCapture &operator=(const SystemLogCapture &) = delete;
-    QStringList lines() const;
-    bool contains(const QString &text) const;
+    ~SystemLogCapture() { qInstallMessageHandler(m_before); }
+    Q_DISABLE_COPY_MOVE(SystemLogCapture)
+    static QStringList lines();
+    bool contains(const QString &text) const { return lines().join(u'\n').contains(text); }
+
+private:
+    const QtMessageHandler m_before;
 };

@@ -1,10 +1,9 @@
-// Detection, mount state, estimate and the device icon.
+// Detection, mount state, estimate, the device icon, and the selection that counts.
 
 #include "platform/lists/NumberArchive.h"
 #include "platform/lists/PropertyList.h"
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
-#include "support/SyncHarness.h"
 #include "sync/ModuleSelection.h"
 #include "sync/StickEditor.h"
 #include "util/Settings.h"
@@ -12,79 +11,53 @@
 #include <QDir>
 #include <QScopeGuard>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <sys/xattr.h>
 
-using testing::ElementsAre;
-
-namespace {
-
-QString lastSyncSizePath(const SyncHarness &harness)
-{
-    return harness.stick(QStringLiteral(".caravel/LastSyncSize"));
-}
-
-} // namespace
-
 TEST(Detection, TellsSticksFromOtherVolumes)
 {
-    struct Case
+    const struct
     {
-        const char *what;
-        QStringList files;
-        bool mounted;
-        int unformatted;
+        const char *what, *files, *events;
+    } cases[] = {
+        {"a PSP's stick", "MEMSTICK.IND PSP/x", "pspDidMount"},
+        {"the marker in another place", "PSP/MEMSTICK.IND", ""},
+        {"a stick that no PSP formatted", "MEMSTICK.IND", "foundUnformattedMemoryStick"},
+        {"a PSP entry that is a file", "MEMSTICK.IND PSP", "pspDidMount"},
+        {"any other volume", "PSP/MUSIC/x", ""},
     };
-    const Case cases[] = {
-        {"a PSP's stick", {QStringLiteral("MEMSTICK.IND"), QStringLiteral("PSP/x")}, true, 0},
-        {"the marker in another place", {QStringLiteral("PSP/MEMSTICK.IND")}, false, 0},
-        {"a stick that no PSP formatted", {QStringLiteral("MEMSTICK.IND")}, false, 1},
-        {"a PSP entry that is a file",
-         {QStringLiteral("MEMSTICK.IND"), QStringLiteral("PSP")},
-         true,
-         0},
-        {"any other volume", {QStringLiteral("PSP/MUSIC/x")}, false, 0},
-    };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         SyncHarness harness;
-        for (const QString &file : c.files)
+        for (const QString &file : list(c.files))
             writeFile(harness.stick(file), {});
         harness.volumes.mount(harness.stick());
-        EXPECT_EQ(harness.manager.pspIsMounted(), c.mounted) << c.what;
-        EXPECT_EQ(harness.delegate.count(QStringLiteral("foundUnformattedMemoryStick")),
-                  c.unformatted)
-            << c.what;
+        EXPECT_EQ(joined(harness.delegate.events), c.events) << c.what;
+        EXPECT_EQ(harness.manager.pspIsMounted(), QByteArray(c.events) == "pspDidMount") << c.what;
     }
 }
 
 TEST(Detection, TakesTheFirstStickAndReportsEachMountOnce)
 {
     SyncHarness harness;
+    const auto volume = [&](const char *name) {
+        return harness.folder / (u"volumes/"_s + QLatin1String(name));
+    };
     for (const char *name : {"A", "B", "C"})
-        writeFile(harness.folder /
-                      QStringLiteral("volumes/%1/MEMSTICK.IND").arg(QLatin1String(name)),
-                  {});
-    const QString unformatted = harness.folder / QStringLiteral("volumes/A");
-    const QString first = harness.folder / QStringLiteral("volumes/B");
-    const QString second = harness.folder / QStringLiteral("volumes/C");
-    QDir().mkpath(first + QStringLiteral("/PSP"));
-    QDir().mkpath(second + QStringLiteral("/PSP"));
-
-    harness.volumes.mount(unformatted);
-    harness.volumes.mount(first);
-    harness.volumes.mount(second);
-    EXPECT_EQ(harness.manager.pspVolume(), first);
+        writeFile(volume(name) + u"/MEMSTICK.IND"_s, {});
+    QDir().mkpath(volume("B") + u"/PSP"_s);
+    QDir().mkpath(volume("C") + u"/PSP"_s);
+    for (const char *name : {"A", "B", "C"})
+        harness.volumes.mount(volume(name));
+    EXPECT_EQ(harness.manager.pspVolume(), volume("B"));
     harness.manager.detectPSP();
     // With its first stick gone the scan goes on to the other; the state never leaves "mounted".
-    harness.volumes.unmount(first);
-    EXPECT_EQ(harness.manager.pspVolume(), second);
-    harness.volumes.unmount(second);
-    EXPECT_THAT(harness.delegate.events,
-                ElementsAre(QStringLiteral("foundUnformattedMemoryStick"),
-                            QStringLiteral("pspDidMount"), QStringLiteral("pspDidUnmount"),
-                            QStringLiteral("foundUnformattedMemoryStick")));
-    EXPECT_EQ(harness.manager.pspVolume(), second) << "the last path is kept";
+    harness.volumes.unmount(volume("B"));
+    EXPECT_EQ(harness.manager.pspVolume(), volume("C"));
+    harness.volumes.unmount(volume("C"));
+    EXPECT_EQ(joined(harness.delegate.events), "foundUnformattedMemoryStick\npspDidMount\n"
+                                               "pspDidUnmount\nfoundUnformattedMemoryStick");
+    EXPECT_EQ(harness.manager.pspVolume(), volume("C")) << "the last path is kept";
 }
 
 TEST(Detection, NoticesAStickThatWentWithoutAnEvent)
@@ -97,35 +70,27 @@ TEST(Detection, NoticesAStickThatWentWithoutAnEvent)
     // An empty mount point at the same path is not the stick.
     QDir().mkpath(harness.stick());
     EXPECT_FALSE(harness.manager.pspIsMounted());
-    EXPECT_EQ(harness.delegate.count(QStringLiteral("pspDidUnmount")), 1);
+    EXPECT_EQ(harness.delegate.count(u"pspDidUnmount"_s), 1);
     EXPECT_FALSE(harness.manager.isFirstSync());
 }
 
 TEST(Detection, ReadsTheStickItsSizes)
 {
-    struct Case
-    {
-        const char *what;
-        std::optional<QByteArray> archive;
-        quint64 expected;
-    };
-    const Case cases[] = {
-        {"its own", NumberArchive::encode(123456789012), 123456789012},
-        {"garbage", QByteArray("\x04\x0bnonsense"), 0},
-        {"too long", QByteArray(100000, 'x'), 0},
-        {"none", std::nullopt, 0},
-    };
     FailingFileManager files; // what the real disk has free changes under the test
     files.freeBytes = 12345;
     FileManager::setDefaultManager(&files);
     const auto restore = qScopeGuard([] { FileManager::setDefaultManager(nullptr); });
-    for (const Case &c : cases) {
+    const std::pair<std::optional<QByteArray>, quint64> cases[] = {
+        {NumberArchive::encode(123456789012), 123456789012},
+        {"\x04\x0bnonsense", 0},
+        {std::nullopt, 0}};
+    for (const auto &[archive, expected] : cases) {
         SyncHarness harness;
         Settings::lastSyncSize.set(7);
-        if (c.archive)
-            writeFile(lastSyncSizePath(harness), *c.archive);
+        if (archive)
+            writeFile(harness.stick(u".caravel/LastSyncSize"_s), *archive);
         harness.mountStick();
-        EXPECT_EQ(Settings::lastSyncSize(), c.expected) << c.what;
+        EXPECT_EQ(Settings::lastSyncSize(), expected);
         EXPECT_EQ(Settings::lastFreeSpace(), 12345U);
     }
     SyncHarness fresh;
@@ -137,36 +102,55 @@ TEST(Detection, ReadsTheStickItsSizes)
 
 TEST(SyncOnMount, AsksOnlyForSticksThatWereSyncedBefore)
 {
-    for (const bool syncedBefore : {true, false}) {
-        for (const bool wanted : {true, false}) {
-            SyncHarness harness;
-            harness.mountStick(syncedBefore);
-            harness.volumes.unmount(harness.stick());
-            harness.delegate.events.clear();
-            harness.delegate.answerSyncOnMount = wanted;
-            Settings::syncOnMount.set(true);
-            harness.volumes.mount(harness.stick());
-            const bool asked =
-                harness.delegate.events.contains(QStringLiteral("shouldSyncOnMount"));
-            EXPECT_EQ(asked, syncedBefore);
-            EXPECT_EQ(harness.manager.isSyncing(), syncedBefore && wanted);
-            harness.settle();
-        }
+    for (const auto &[syncedBefore, wanted] :
+         {std::pair(true, true), {true, false}, {false, true}, {false, false}}) {
+        SyncHarness harness;
+        harness.mountStick(syncedBefore);
+        harness.volumes.unmount(harness.stick());
+        harness.delegate.events.clear();
+        harness.delegate.answerSyncOnMount = wanted;
+        Settings::syncOnMount.set(true);
+        harness.volumes.mount(harness.stick());
+        EXPECT_EQ(harness.delegate.events.contains(u"shouldSyncOnMount"), syncedBefore);
+        EXPECT_EQ(harness.manager.isSyncing(), syncedBefore && wanted);
+        SyncHarness::settle();
     }
+}
+
+TEST(SyncOnMount, WaitsWhileThePreferencesCannotBeRead)
+{
+    SyncHarness harness;
+    const QString preferences = harness.folder / u"preferences/org.caravel.Caravel.plist"_s;
+    harness.mountStick();
+    Settings::syncOnMount.set(true);
+    harness.defaults.synchronize();
+    harness.volumes.unmount(harness.stick());
+    QFile::remove(preferences);
+    writeFile(preferences + u"/no file"_s, {});
+    const SystemLogCapture log;
+    harness.defaults.synchronize();
+    harness.volumes.mount(harness.stick());
+    EXPECT_EQ(harness.delegate.count(u"syncWillStart"_s), 0);
+
+    harness.volumes.unmount(harness.stick());
+    QDir(preferences).removeRecursively();
+    harness.defaults.synchronize();
+    harness.volumes.mount(harness.stick());
+    harness.finishRun();
+    EXPECT_EQ(harness.delegate.count(u"syncWillStart"_s), 1);
 }
 
 TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
 {
-    TemporaryFolder sources;
-    writeFile(sources / QStringLiteral("a"), QByteArray(400, 'a'));
-    const ListModule::Wishes wishes{
-        [&] {
-            return std::vector<CVSyncItem>{
-                {sources / QStringLiteral("a"), QStringLiteral("/x/a"), {}},
-                {sources / QStringLiteral("gone"), QStringLiteral("/x/b"), {}}};
-        },
-        QStringLiteral("/x")};
-    const ModuleKind always = ListModule::kind(QStringLiteral("Music"), wishes);
+    const TemporaryFolder sources;
+    writeFile(sources / u"a"_s, QByteArray(400, 'a'));
+    const ListModule::Wishes wishes{[&] {
+                                        return std::vector<CVSyncItem>{
+                                            {sources / u"a"_s, u"/x/a"_s, {}},
+                                            {sources / u"gone"_s, u"/x/b"_s, {}}};
+                                    },
+                                    u"/x"_s};
+    const ModuleKind always = ListModule::kind(u"Music"_s, wishes);
     ModuleKind notOnTheStick = always;
     notOnTheStick.countsInEstimate = false;
     ModuleKind sometimes = always;
@@ -174,26 +158,27 @@ TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
         return Settings::firmwareVersion() > 0;
     };
     SyncHarness harness({always, notOnTheStick, sometimes});
-    Settings::lastFreeSpace.set(600);
-    Settings::lastSyncSize.set(1000);
-
-    const auto estimate = [&] {
-        harness.manager.refreshSyncBytesEstimate();
-        harness.settle();
-        return harness.delegate.events.last();
+    const struct
+    {
+        bool syncMusic;
+        int firmware;
+        quint64 free, lastSync, bytes, percent;
+    } cases[] = {
+        {true, 1, 600, 1000, 800, 50}, {true, 0, 600, 1000, 400, 25},
+        {true, 0, 401, 0, 400, 99},                             // cut, not rounded
+        {true, 0, 200, 0, 400, 200},   {true, 0, 0, 0, 400, 0}, // nothing is known of the stick
+        {false, 1, 600, 1000, 0, 0},
     };
-    EXPECT_EQ(estimate(), QStringLiteral("newSyncBytesEstimate 800")) << "saves don't count";
-    EXPECT_EQ(harness.manager.syncPercentEstimate(), 50U);
-    Settings::firmwareVersion.set(0);
-    EXPECT_EQ(estimate(), QStringLiteral("newSyncBytesEstimate 400"));
-    EXPECT_EQ(harness.manager.syncPercentEstimate(), 25U);
-    Settings::lastSyncSize.set(0);
-    Settings::lastFreeSpace.set(401);
-    EXPECT_EQ(harness.manager.syncPercentEstimate(), 99U) << "cut, not rounded";
-    Settings::lastFreeSpace.set(0);
-    EXPECT_EQ(harness.manager.syncPercentEstimate(), 0U) << "nothing is known of the stick";
-    Settings::syncMusic.set(false);
-    EXPECT_EQ(estimate(), QStringLiteral("newSyncBytesEstimate 0"));
+    for (const auto &c : cases) {
+        Settings::syncMusic.set(c.syncMusic);
+        Settings::firmwareVersion.set(c.firmware);
+        Settings::lastFreeSpace.set(c.free);
+        Settings::lastSyncSize.set(c.lastSync);
+        harness.manager.refreshSyncBytesEstimate();
+        SyncHarness::settle();
+        EXPECT_EQ(harness.delegate.events.last(), u"newSyncBytesEstimate %1"_s.arg(c.bytes));
+        EXPECT_EQ(harness.manager.syncPercentEstimate(), c.percent);
+    }
 }
 
 TEST(Threads, ThatCannotStartEndARunAndAnEstimateAtOnce)
@@ -206,21 +191,20 @@ TEST(Threads, ThatCannotStartEndARunAndAnEstimateAtOnce)
         harness.manager.sync();
         harness.manager.refreshSyncBytesEstimate();
     }
-    EXPECT_THAT(harness.delegate.events, ElementsAre(QStringLiteral("syncDidFinish false"),
-                                                     QStringLiteral("newSyncBytesEstimate 0")));
+    EXPECT_EQ(joined(harness.delegate.events), "syncDidFinish false\nnewSyncBytesEstimate 0");
     EXPECT_TRUE(harness.run());
 }
 
 TEST(Icon, IsTheMonthsAndMarksTheVolume)
 {
-    TemporaryFolder folder;
-    writeFile(folder / QStringLiteral("resources/PSP3.icns"), "march");
-    writeFile(folder / QStringLiteral("volume/.VolumeIcon.icns"), "february");
-    const QString volume = folder / QStringLiteral("volume");
-    StickEditor(volume).setIcon(folder / QStringLiteral("resources/PSP3.icns"));
-    EXPECT_EQ(readFile(volume + QStringLiteral("/.VolumeIcon.icns")), "march");
+    ListHarness harness;
+    writeFile(harness.folder / u"resources/PSP3.icns"_s, "march");
+    writeFile(harness.stick(u".VolumeIcon.icns"_s), "february");
+    harness.mountStick();
+    EXPECT_TRUE(harness.run());
+    EXPECT_EQ(readFile(harness.stick(u".VolumeIcon.icns"_s)), "march");
     unsigned char info[32] = {};
-    if (::getxattr(volume.toUtf8().constData(), "user.com.apple.FinderInfo", info, sizeof info) < 0)
+    if (::getxattr(qPrintable(harness.stick()), "user.com.apple.FinderInfo", info, sizeof info) < 0)
         GTEST_SKIP() << "skipped: this file system takes no extended attributes";
     EXPECT_EQ(info[8], 0x04);
 }
@@ -229,42 +213,19 @@ TEST(Selection, LiesInThePreferencesAndOnSyncedSticks)
 {
     SyncHarness harness;
     harness.mountStick();
-    const QString saveName = QStringLiteral("Music");
-    const QString profile = harness.stick(QStringLiteral(".caravel/Music.plist"));
-    ModuleSelection::store({QStringLiteral("One")}, saveName, harness.stick());
-    EXPECT_EQ(*PropertyList::readStringArray(profile), QStringList{QStringLiteral("One")});
-    ModuleSelection::store({QStringLiteral("Two")}, saveName, {});
-
+    const QString profile = harness.stick(u".caravel/Music.plist"_s);
+    ModuleSelection::store({u"One"_s}, u"Music"_s, harness.stick());
+    EXPECT_EQ(*PropertyList::readStringArray(profile), list("One"));
+    ModuleSelection::store({u"Two"_s}, u"Music"_s, {});
     const auto read = [&] {
-        return ModuleSelection::read(saveName, harness.stick()).value_or(QStringList());
+        return ModuleSelection::read(u"Music"_s, harness.stick()).value_or(QStringList());
     };
-    EXPECT_THAT(read(), ElementsAre(QStringLiteral("Two")));
+    EXPECT_EQ(read(), list("Two"));
     Settings::useSyncProfiles.set(true);
-    EXPECT_THAT(read(), ElementsAre(QStringLiteral("One")));
+    EXPECT_EQ(read(), list("One"));
     writeFile(profile, "garbage");
-    EXPECT_THAT(read(), ElementsAre(QStringLiteral("Two"))) << "garbage must not clear the stick";
-}
-
-TEST(SyncOnMount, WaitsWhileThePreferencesCannotBeRead)
-{
-    SyncHarness harness;
-    const QString preferences =
-        harness.folder / QStringLiteral("preferences/org.caravel.Caravel.plist");
-    harness.mountStick();
-    Settings::syncOnMount.set(true);
-    harness.defaults.synchronize();
-    harness.volumes.unmount(harness.stick());
-    QFile::remove(preferences);
-    writeFile(preferences + QStringLiteral("/no file"), {});
-    const SystemLogCapture log;
-    harness.defaults.synchronize();
-    harness.volumes.mount(harness.stick());
-    EXPECT_EQ(harness.delegate.count(QStringLiteral("syncWillStart")), 0);
-
-    harness.volumes.unmount(harness.stick());
-    QDir(preferences).removeRecursively();
-    harness.defaults.synchronize();
-    harness.volumes.mount(harness.stick());
-    harness.finishRun();
-    EXPECT_EQ(harness.delegate.count(QStringLiteral("syncWillStart")), 1);
+    EXPECT_EQ(read(), list("Two")) << "garbage must not clear the stick";
+    QDir(harness.stick(u".caravel"_s)).removeRecursively();
+    ModuleSelection::store({u"Three"_s}, u"Music"_s, harness.stick());
+    EXPECT_FALSE(QFile::exists(profile)) << "no stick is synced by being there";
 }

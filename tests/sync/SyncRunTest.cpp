@@ -2,64 +2,53 @@
 
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
-#include "support/SyncHarness.h"
 #include "util/Settings.h"
 
 #include <QDir>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace {
 
 constexpr qint64 chunk = 1 << 20;
 
-QStringList lines(const char *text)
-{
-    return QString::fromLatin1(text).split(u'\n');
-}
-
-/// A run of one module with two items: one of three chunks, one of a few bytes.
+/// Two items are wanted: one of three chunks, one of a few bytes.
 class SyncRunTest : public testing::Test
 {
 protected:
-    TemporaryFolder sources;
-    ListModule::Wishes wishes{[this] { return items(); }, QStringLiteral("/PSP/MUSIC"), true,
-                              QStringLiteral("Music")};
     FailingFileManager files;
-    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
+    ListHarness harness;
 
     void SetUp() override
     {
         FileManager::setDefaultManager(&files);
-        writeFile(sources / QStringLiteral("big"), QByteArray(2 * chunk + 100, 'b'));
-        writeFile(sources / QStringLiteral("small"), "small");
-        writeFile(harness.stick(QStringLiteral("PSP/MUSIC/stale")), "stale");
+        harness.want(u"big"_s, QByteArray(2 * chunk + 100, 'b'));
+        harness.want(u"small"_s, "small");
+        harness.put(u"stale"_s);
         harness.mountStick();
     }
     void TearDown() override
     {
         harness.delegate.onEvent = nullptr;
-        harness.settle();
+        SyncHarness::settle();
         FileManager::setDefaultManager(nullptr);
     }
 
-    std::vector<CVSyncItem> items() const
+    std::string events() const { return joined(harness.delegate.events); }
+    /// From that step on.
+    std::string stepsFrom(const char *step) const
     {
-        std::vector<CVSyncItem> wanted;
-        for (const QString &name : {QStringLiteral("big"), QStringLiteral("small")})
-            wanted.emplace_back(sources / name, harness.stick(QStringLiteral("PSP/MUSIC/") + name),
-                                name);
-        return wanted;
+        QStringList steps = harness.delegate.steps();
+        while (!steps.isEmpty() && !steps.first().startsWith(QLatin1String(step)))
+            steps.removeFirst();
+        return joined(steps);
     }
-
-    QStringList onStick() const { return treeOf(harness.stick(QStringLiteral("PSP/MUSIC"))); }
-
     /// Does something at the first event of that name.
-    void when(const QString &event, std::function<void()> act)
+    void when(const char *event, std::function<void()> act)
     {
         harness.delegate.onEvent = [event, act = std::move(act),
                                     done = false](const QString &now) mutable {
-            if (now.startsWith(event) && !std::exchange(done, true))
+            if (now.startsWith(QLatin1String(event)) && !std::exchange(done, true))
                 act();
         };
     }
@@ -70,39 +59,28 @@ protected:
 TEST_F(SyncRunTest, TellsEveryStepInOrder)
 {
     EXPECT_TRUE(harness.run());
-    harness.settle();
-    EXPECT_EQ(harness.delegate.events, lines("syncWillStart\n"
-                                             "syncWillCleanUp\n"
-                                             "syncDidStart\n"
-                                             "syncWillProcessModule Music\n"
-                                             "syncWillProcessItem big\n"
-                                             "syncDidCopyBytes 1048576\n"
-                                             "syncDidCopyBytes 1048576\n"
-                                             "syncDidCopyBytes 100\n"
-                                             "syncDidProcessItem big\n"
-                                             "syncWillProcessItem small\n"
-                                             "syncDidCopyBytes 5\n"
-                                             "syncDidCopyLastBytes\n"
-                                             "syncDidProcessItem small\n"
-                                             "finalizeDidStart\n"
-                                             "syncDidFinish true"));
+    EXPECT_EQ(events(), "syncWillStart\nsyncWillCleanUp\nsyncDidStart\n"
+                        "syncWillProcessModule Music\n"
+                        "syncWillProcessItem big\n"
+                        "syncDidCopyBytes 1048576\nsyncDidCopyBytes 1048576\nsyncDidCopyBytes 100\n"
+                        "syncDidProcessItem big\n"
+                        "syncWillProcessItem small\n"
+                        "syncDidCopyBytes 5\nsyncDidCopyLastBytes\n"
+                        "syncDidProcessItem small\n"
+                        "finalizeDidStart\nsyncDidFinish true");
     EXPECT_EQ(harness.clock.pauses, 5);
-    EXPECT_EQ(onStick(), lines("big\nsmall"));
-    EXPECT_EQ(harness.index(QStringLiteral("Music")), lines("/PSP/MUSIC/big\n/PSP/MUSIC/small"));
+    EXPECT_EQ(harness.placed(), "big\nsmall");
+    EXPECT_EQ(Settings::lastSync(), harness.clock.current);
+    EXPECT_TRUE(harness.run()) << "with everything in place";
+    EXPECT_EQ(events(), "syncWillStart\nsyncWillCleanUp\nsyncDidStart\n"
+                        "syncWillProcessModule Music\nfinalizeDidStart\nsyncDidFinish true");
+    EXPECT_EQ(harness.index(u"Music"_s), list("/PSP/MUSIC/big /PSP/MUSIC/small"));
     EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(2 * chunk + 105));
     EXPECT_EQ(Settings::lastSyncSize(), quint64(2 * chunk + 105));
-    EXPECT_EQ(Settings::lastSync(), harness.clock.current);
-    EXPECT_EQ(harness.manager.syncBytesTotal(), 1U);
-    EXPECT_EQ(harness.manager.syncBytes(), 0U);
-    EXPECT_FALSE(harness.manager.isIndeterminate());
-
-    // Again, with everything in place.
+    Settings::syncMusic.set(false);
     EXPECT_TRUE(harness.run());
-    EXPECT_EQ(harness.delegate.events, lines("syncWillStart\nsyncWillCleanUp\nsyncDidStart\n"
-                                             "syncWillProcessModule Music\nfinalizeDidStart\n"
-                                             "syncDidFinish true"));
-    EXPECT_EQ(harness.index(QStringLiteral("Music")), lines("/PSP/MUSIC/big\n/PSP/MUSIC/small"));
-    EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(2 * chunk + 105));
+    EXPECT_EQ(harness.tree(u"PSP"_s), "MUSIC/") << "the kind's own folder stays";
+    EXPECT_TRUE(harness.index(u"Music"_s).isEmpty());
 }
 
 TEST_F(SyncRunTest, StopsWhereTheStickHasNoRoom)
@@ -110,42 +88,42 @@ TEST_F(SyncRunTest, StopsWhereTheStickHasNoRoom)
     // As many bytes free as are needed count as too few.
     files.freeBytes = 2 * chunk + 105;
     EXPECT_FALSE(harness.run());
-    EXPECT_EQ(harness.delegate.events,
-              lines("syncWillStart\nsyncWillCleanUp\n"
-                    "syncNotEnoughFreeSpace 2097257\nsyncWillCancel\n"
-                    "syncDidStart\nfinalizeDidStart\nsyncDidFinish false"));
-    EXPECT_TRUE(onStick().isEmpty()) << "the clean-up has happened, nothing was copied";
+    EXPECT_EQ(events(), "syncWillStart\nsyncWillCleanUp\n"
+                        "syncNotEnoughFreeSpace 2097257\nsyncWillCancel\n"
+                        "syncDidStart\nfinalizeDidStart\nsyncDidFinish false");
+    EXPECT_EQ(harness.placed(), "") << "the clean-up has happened, nothing was copied";
     EXPECT_EQ(harness.lastSyncSizeOnStick(), 0U);
     EXPECT_FALSE(Settings::lastSync());
-    files.freeBytes = 2 * chunk + 106;
+    // Nor do the bytes alone count.
+    const quint64 cluster = files.volumeSpace(harness.stick())->clusterSize;
+    const quint64 clusters = (2 * chunk / cluster + 2) * cluster;
+    ASSERT_GT(clusters, quint64(2 * chunk + 106));
+    files.freeBytes = clusters - 1;
+    EXPECT_FALSE(harness.run());
+    EXPECT_EQ(harness.delegate.count(u"syncNotEnoughFreeSpace %1"_s.arg(clusters)), 1);
+    files.freeBytes = clusters;
     EXPECT_TRUE(harness.run());
 }
 
 TEST_F(SyncRunTest, EndsOnceAfterACancelAnywhere)
 {
-    struct Case
+    const struct
     {
-        const char *at;
-        const char *steps; // from the cancel to the end
-        QStringList onStick;
+        const char *at, *steps, *placed; // steps from the cancel to the end
+    } cases[] = {
+        {"syncWillStart", "syncWillCleanUp\nsyncDidStart\nfinalizeDidStart\n", "stale"},
+        {"syncWillCleanUp", "syncDidStart\nfinalizeDidStart\n", "stale"},
+        {"syncDidStart", "finalizeDidStart\n", ""},
+        {"syncWillProcessModule", "finalizeDidStart\n", ""},
+        {"syncDidCopyBytes", "syncDidProcessItem big\nfinalizeDidStart\n", "big"},
+        {"syncDidProcessItem", "finalizeDidStart\n", "big"},
+        {"syncDidCopyLastBytes", "syncDidProcessItem small\nfinalizeDidStart\n", "big\nsmall"},
+        {"finalizeDidStart", "", "big\nsmall"},
     };
-    const QStringList stale{QStringLiteral("stale")};
-    const QStringList big{QStringLiteral("big")};
-    const QStringList both{QStringLiteral("big"), QStringLiteral("small")};
-    const Case cases[] = {
-        {"syncWillStart", "syncWillCleanUp\nsyncDidStart\nfinalizeDidStart", stale},
-        {"syncWillCleanUp", "syncDidStart\nfinalizeDidStart", stale},
-        {"syncDidStart", "finalizeDidStart", {}},
-        {"syncWillProcessModule", "finalizeDidStart", {}},
-        {"syncDidCopyBytes", "syncDidProcessItem big\nfinalizeDidStart", big},
-        {"syncDidProcessItem", "finalizeDidStart", big},
-        {"syncDidCopyLastBytes", "syncDidProcessItem small\nfinalizeDidStart", both},
-        {"finalizeDidStart", "", both},
-    };
-    for (const Case &c : cases) {
-        QDir(harness.stick(QStringLiteral("PSP"))).removeRecursively();
-        writeFile(harness.stick(QStringLiteral("PSP/MUSIC/stale")), "stale");
-        when(QLatin1String(c.at), [this] {
+    for (const auto &c : cases) {
+        QDir(harness.place({})).removeRecursively();
+        harness.put(u"stale"_s);
+        when(c.at, [this] {
             EXPECT_TRUE(harness.manager.canCancelSync());
             harness.manager.cancelSync();
             harness.manager.cancelSync(); // ignored
@@ -153,48 +131,39 @@ TEST_F(SyncRunTest, EndsOnceAfterACancelAnywhere)
             harness.manager.sync(); // so is a second run
         });
         EXPECT_FALSE(harness.run()) << c.at;
-        const QStringList steps = harness.delegate.steps();
-        QStringList expected = *c.steps ? lines(c.steps) : QStringList();
-        expected.append(QStringLiteral("syncDidFinish false"));
-        EXPECT_EQ(steps.mid(steps.indexOf(QStringLiteral("syncWillCancel")) + 1), expected) << c.at;
-        EXPECT_EQ(harness.delegate.count(QStringLiteral("syncWillCancel")), 1) << c.at;
-        EXPECT_EQ(onStick(), c.onStick) << c.at;
+        EXPECT_EQ(stepsFrom("syncWillCancel"),
+                  std::string("syncWillCancel\n") + c.steps + "syncDidFinish false")
+            << c.at;
+        EXPECT_EQ(harness.placed(), c.placed) << c.at;
         EXPECT_FALSE(Settings::lastSync()) << c.at;
-        EXPECT_FALSE(harness.manager.shouldCancelSync()) << c.at;
         EXPECT_EQ(harness.manager.syncBytesTotal(), 1U) << c.at;
-        if (QLatin1String(c.at) == QLatin1String("syncDidCopyBytes")) {
+        EXPECT_FALSE(harness.manager.isIndeterminate()) << c.at;
+        if (QByteArrayView(c.at) == "syncDidCopyBytes") {
             EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(chunk))
                 << "what was not copied is left out";
         }
         harness.delegate.onEvent = nullptr;
         EXPECT_TRUE(harness.run()) << "the run after a cancel at " << c.at;
-        EXPECT_EQ(onStick(), both) << c.at;
+        EXPECT_EQ(harness.placed(), "big\nsmall") << c.at;
         Settings::lastSync.set({});
     }
-}
-
-TEST_F(SyncRunTest, CutsItsPausesShortWhenCancelled)
-{
+    harness.clock.pauses = 0;
     harness.clock.onSleep = [this](int pause) {
         if (pause == 2)
             harness.manager.cancelSync();
     };
     EXPECT_FALSE(harness.run());
-    EXPECT_EQ(harness.clock.pauses, 2);
-    EXPECT_EQ(onStick(), lines("stale"));
+    EXPECT_EQ(harness.clock.pauses, 2) << "the rest is cut short";
 }
 
 TEST_F(SyncRunTest, IsCancelledByNotificationAndByAnnouncedUnmount)
 {
-    when(QStringLiteral("syncDidCopyBytes"),
-         [this] { harness.notifications.post(QStringLiteral("CVCancelSyncNotification")); });
+    when("syncDidCopyBytes", [this] { harness.notifications.post(u"CVCancelSyncNotification"_s); });
     EXPECT_FALSE(harness.run());
-    when(QStringLiteral("syncDidStart"),
-         [this] { Q_EMIT harness.volumes.willUnmount(harness.folder / QStringLiteral("other")); });
+    when("syncDidStart", [this] { Q_EMIT harness.volumes.willUnmount(harness.folder / u"x"_s); });
     EXPECT_TRUE(harness.run());
-    writeFile(sources / QStringLiteral("small"), "changed");
-    when(QStringLiteral("syncDidStart"),
-         [this] { Q_EMIT harness.volumes.willUnmount(harness.stick()); });
+    harness.want(u"more"_s, "more");
+    when("syncDidStart", [this] { Q_EMIT harness.volumes.willUnmount(harness.stick()); });
     EXPECT_FALSE(harness.run());
 }
 
@@ -203,52 +172,53 @@ TEST_F(SyncRunTest, EjectsAfterwardsWhereItMay)
     Settings::unmountAfterSync.set(true);
     harness.delegate.answerUnmount = false;
     EXPECT_TRUE(harness.run());
-    EXPECT_EQ(harness.delegate.steps().mid(9),
-              lines("finalizeDidStart\nshouldUnmountPSP\nsyncDidFinish true"));
+    EXPECT_EQ(stepsFrom("finalizeDidStart"),
+              "finalizeDidStart\nshouldUnmountPSP\nsyncDidFinish true");
     harness.delegate.answerUnmount = true;
     harness.volumes.canEject = false;
     EXPECT_TRUE(harness.run());
-    EXPECT_EQ(harness.delegate.steps().mid(4),
-              lines("finalizeDidStart\nshouldUnmountPSP\npspWillUnmount\n"
-                    "pspUnmountFailed\nsyncDidFinish true"));
+    EXPECT_EQ(stepsFrom("shouldUnmountPSP"),
+              "shouldUnmountPSP\npspWillUnmount\npspUnmountFailed\nsyncDidFinish true");
     harness.volumes.canEject = true;
     EXPECT_TRUE(harness.run()) << "the announcement of its own eject cancels nothing";
-    EXPECT_EQ(harness.delegate.steps().mid(4),
-              lines("finalizeDidStart\nshouldUnmountPSP\npspWillUnmount\n"
-                    "pspDidUnmount\nsyncDidFinish true"));
+    EXPECT_EQ(stepsFrom("shouldUnmountPSP"),
+              "shouldUnmountPSP\npspWillUnmount\npspDidUnmount\nsyncDidFinish true");
     EXPECT_FALSE(harness.manager.canSync());
 }
 
 TEST_F(SyncRunTest, WritesNothingWhereTheStickWas)
 {
     const SystemLogCapture log;
-    struct Case
+    const struct
     {
         const char *at;
-        bool mountPointStays;
-        bool announced;
+        bool mountPointStays, isAnnounced, isReplaced; // by somebody else's stick
+    } cases[] = {
+        {"syncWillStart", true, false, false},     {"syncWillCleanUp", true, false, false},
+        {"syncWillCleanUp", true, false, true},    {"syncDidStart", false, false, false},
+        {"syncDidCopyBytes", false, false, false}, {"syncDidCopyBytes", true, true, false},
+        {"syncDidProcessItem", true, false, true}, {"finalizeDidStart", true, false, false},
     };
-    const Case cases[] = {
-        {"syncWillStart", true, false},      {"syncWillCleanUp", true, false},
-        {"syncDidStart", false, false},      {"syncDidCopyBytes", false, false},
-        {"syncDidCopyBytes", true, false},   {"syncDidCopyBytes", true, true},
-        {"syncDidProcessItem", true, false}, {"finalizeDidStart", true, false},
-    };
-    for (const Case &c : cases) {
-        const QString pulled = harness.folder / QStringLiteral("pulled");
-        when(QLatin1String(c.at), [&] {
+    for (const auto &c : cases) {
+        const QString pulled = harness.folder / u"pulled"_s;
+        const char *const other = "MEMSTICK.IND\nPSP/\nPSP/MUSIC/\nPSP/MUSIC/theirs";
+        when(c.at, [&] {
             ASSERT_TRUE(QDir().rename(harness.stick(), pulled));
             if (c.mountPointStays)
                 QDir().mkpath(harness.stick());
-            if (c.announced)
+            if (c.isAnnounced)
                 harness.volumes.unmount(harness.stick());
+            if (c.isReplaced) {
+                writeFile(harness.stick(u"MEMSTICK.IND"_s), {});
+                harness.put(u"theirs"_s);
+                Q_EMIT harness.volumes.didUnmount(harness.stick());
+            }
         });
         EXPECT_FALSE(harness.run()) << c.at;
-        EXPECT_EQ(harness.delegate.events.filter(QStringLiteral("syncDidFinish")).size(), 1)
-            << c.at;
-        EXPECT_TRUE(treeOf(harness.stick()).isEmpty())
-            << c.at << qPrintable(treeOf(harness.stick()).join(u' '));
-        EXPECT_TRUE(log.contains(QStringLiteral("is gone"))) << c.at;
+        EXPECT_EQ(harness.delegate.events.filter(u"syncDidFinish"_s).size(), 1) << c.at;
+        EXPECT_EQ(harness.tree({}), c.isReplaced ? other : "") << c.at;
+        EXPECT_EQ(harness.manager.pspIsMounted(), c.isReplaced) << "the new stick can be synced";
+        EXPECT_TRUE(log.contains(u"is gone"_s)) << c.at;
         harness.delegate.onEvent = nullptr;
         QDir(harness.stick()).removeRecursively();
         ASSERT_TRUE(QDir().rename(pulled, harness.stick()));
@@ -256,51 +226,82 @@ TEST_F(SyncRunTest, WritesNothingWhereTheStickWas)
         harness.manager.detectPSP();
         harness.volumes.mount(harness.stick());
         EXPECT_TRUE(harness.run()) << "the next run after " << c.at;
-        EXPECT_EQ(onStick(), lines("big\nsmall")) << c.at;
-        QDir(harness.stick(QStringLiteral("PSP/MUSIC"))).removeRecursively();
-        writeFile(harness.stick(QStringLiteral("PSP/MUSIC/stale")), "stale");
+        EXPECT_EQ(harness.placed(), "big\nsmall") << c.at;
+        QDir(harness.place({})).removeRecursively();
+        harness.put(u"stale"_s);
     }
 }
 
-TEST_F(SyncRunTest, LeavesAStickAloneThatTookThePlaceOfItsOwn)
+TEST_F(SyncRunTest, NeverFollowsALinkOnTheStick)
 {
-    const QString own = harness.folder / QStringLiteral("own");
-    when(QStringLiteral("syncWillCleanUp"), [&] {
-        ASSERT_TRUE(QDir().rename(harness.stick(), own));
-        writeFile(harness.stick(QStringLiteral("MEMSTICK.IND")), {});
-        writeFile(harness.stick(QStringLiteral("PSP/MUSIC/somebody else's")), "music");
-        Q_EMIT harness.volumes.didUnmount(harness.stick());
-    });
-    EXPECT_FALSE(harness.run());
-    EXPECT_EQ(treeOf(harness.stick()),
-              lines("MEMSTICK.IND\nPSP/\nPSP/MUSIC/\nPSP/MUSIC/somebody else's"));
-    EXPECT_TRUE(harness.manager.pspIsMounted()) << "the new stick is there to be synced";
+    const QString mine = harness.home(u"Music"_s);
+    harness.want(u"album/mine"_s, "other");
+    harness.want(u"source"_s, "123456789");
+    ASSERT_TRUE(QFile::link(harness.sources / u"source"_s, harness.sources / u"linked"_s));
+    harness.wanted.append(u"linked"_s);
+    // The kind's whole folder, one album in it, a file.
+    for (const QString &link : {u""_s, u"album"_s, u"small"_s}) {
+        writeFile(mine + u"/album/mine"_s, "mine");
+        writeFile(mine + u"/small"_s, "mine");
+        QDir(harness.place({})).removeRecursively();
+        if (!link.isEmpty())
+            QDir().mkpath(harness.place({}));
+        const QString onStick =
+            harness.stick(u"PSP/MUSIC"_s + (link.isEmpty() ? link : u'/' + link));
+        ASSERT_TRUE(QFile::link(link.isEmpty() ? mine : mine + u'/' + link, onStick));
+        harness.delegate.errors.clear();
+        EXPECT_TRUE(harness.run());
+        EXPECT_EQ(joined(treeOf(mine)), "album/\nalbum/mine\nsmall") << qPrintable(link);
+        EXPECT_EQ(readFile(mine + u"/album/mine"_s) + readFile(mine + u"/small"_s), "minemine");
+        const bool isFile = link == u"small";
+        EXPECT_EQ(harness.delegate.errors.size(), isFile ? 0U : 1U);
+        EXPECT_EQ(harness.placed(), isFile ? "album/\nalbum/mine\nbig\nlinked\nsmall\nsource"
+                                    : link.isEmpty() ? joined(treeOf(mine))
+                                                     : "big\nlinked\nsmall\nsource");
+        if (isFile) {
+            EXPECT_EQ(readFile(harness.place(u"linked"_s)), "123456789");
+            EXPECT_TRUE(harness.run());
+            EXPECT_EQ(harness.delegate.processed(), 0) << "a link is measured through";
+        }
+        QFile::remove(onStick);
+    }
 }
 
-TEST_F(SyncRunTest, ReportsAReadOnlyStickAndGoesOn)
+TEST_F(SyncRunTest, ReportsAStickThatFailsAndPutsItRightNextTime)
 {
     files.readOnlyBelow = harness.stick();
     EXPECT_TRUE(harness.run()) << "a run ends by itself whatever fails";
-    EXPECT_EQ(harness.delegate.errors.size(), 3U) << "one removal, two files that can't be made";
+    EXPECT_EQ(stepsFrom("syncError"),
+              "syncError Couldn't remove\nsyncDidStart\nsyncWillProcessModule Music\n"
+              "syncWillProcessItem big\nsyncError Couldn't create\nsyncDidProcessItem big\n"
+              "syncWillProcessItem small\nsyncError Couldn't create\nsyncDidProcessItem small\n"
+              "finalizeDidStart\nsyncDidFinish true");
     for (const ErrorInfo &error : harness.delegate.errors) {
-        EXPECT_TRUE(error.value(QStringLiteral("Path")).toString().startsWith(harness.stick()));
-        EXPECT_FALSE(error.value(QStringLiteral("Reason")).toString().isEmpty());
+        EXPECT_TRUE(error.value(u"Path"_s).toString().startsWith(harness.stick()));
+        EXPECT_FALSE(error.value(u"Reason"_s).toString().isEmpty());
     }
-    EXPECT_EQ(harness.delegate.errors.back().value(QStringLiteral("Error")),
-              QStringLiteral("Couldn't create"));
-    EXPECT_EQ(onStick(), lines("stale"));
-}
-
-TEST_F(SyncRunTest, ReportsAStickThatFillsAndPutsTheFileRightNextTime)
-{
+    files.readOnlyBelow.clear();
     files.writableBytes = chunk + 10;
-    when(QStringLiteral("syncError"), [this] { harness.manager.cancelSync(); });
+    when("syncError", [this] { harness.manager.cancelSync(); });
     EXPECT_FALSE(harness.run());
-    ASSERT_EQ(harness.delegate.errors.size(), 1U);
-    EXPECT_EQ(harness.delegate.errors[0].value(QStringLiteral("Error")),
-              QStringLiteral("Couldn't write"));
+    EXPECT_EQ(stepsFrom("syncError"), "syncError Couldn't write\nsyncWillCancel\n"
+                                      "syncDidProcessItem big\nfinalizeDidStart\n"
+                                      "syncDidFinish false");
     harness.delegate.onEvent = nullptr;
     files.writableBytes.reset();
     EXPECT_TRUE(harness.run());
-    EXPECT_EQ(readFile(harness.stick(QStringLiteral("PSP/MUSIC/big"))).size(), 2 * chunk + 100);
+    EXPECT_EQ(readFile(harness.place(u"big"_s)).size(), 2 * chunk + 100);
+}
+
+TEST_F(SyncRunTest, AsksTheDiskLittleWhenEverythingIsInPlace)
+{
+    constexpr int count = 1000;
+    for (int i = 0; i < count; ++i)
+        harness.want(u"%1/%2"_s.arg(i % 20).arg(i), "contents");
+    EXPECT_TRUE(harness.run());
+    files.statusCalls = 0;
+    files.listings = 0;
+    EXPECT_TRUE(harness.run());
+    EXPECT_LE(files.statusCalls, 2 * count + 50);
+    EXPECT_EQ(files.listings, 1);
 }

@@ -22,52 +22,48 @@ QVariantMap leaf(const char *title, const char *address)
 {
     QVariantMap names;
     if (*title)
-        names.insert(QStringLiteral("title"), QString::fromUtf8(title));
-    return {{QStringLiteral("WebBookmarkType"), QStringLiteral("WebBookmarkTypeLeaf")},
-            {QStringLiteral("URLString"), QString::fromUtf8(address)},
-            {QStringLiteral("URIDictionary"), names}};
+        names.insert(u"title"_s, QString::fromUtf8(title));
+    return {{u"WebBookmarkType"_s, u"WebBookmarkTypeLeaf"_s},
+            {u"URLString"_s, QString::fromUtf8(address)},
+            {u"URIDictionary"_s, names}};
 }
 
 QVariantMap folder(const char *title, const QVariant &children)
 {
-    return {{QStringLiteral("WebBookmarkType"), QStringLiteral("WebBookmarkTypeList")},
-            {QStringLiteral("Title"), QString::fromUtf8(title)},
-            {QStringLiteral("Children"), children}};
+    return {{u"WebBookmarkType"_s, u"WebBookmarkTypeList"_s},
+            {u"Title"_s, QString::fromUtf8(title)},
+            {u"Children"_s, children}};
 }
 
 QByteArray listOf(const QVariantList &children)
 {
-    return PropertyList::toXml(QVariantMap{{QStringLiteral("Children"), children}});
+    return PropertyList::toXml(QVariantMap{{u"Children"_s, children}});
 }
 
 class CVSyncBookmarksTest : public testing::Test
 {
 protected:
     SyncHarness harness{{CVSyncBookmarks::kind()}};
-    const QString library = harness.home(QStringLiteral("Library/"));
-    const QString support = library + QStringLiteral("Application Support/");
-    const QString profiles = support + QStringLiteral("Firefox/profiles.ini");
-    const QString sources[4] = {library + QStringLiteral("Safari/Bookmarks.plist"),
-                                support + QStringLiteral("Firefox/Profiles/a b/bookmarks.html"),
-                                support + QStringLiteral("OmniWeb 5/Bookmarks.html"),
-                                support + QStringLiteral("Camino/bookmarks.plist")};
-    const QString placed = QStringLiteral("PSP/SYSTEM/BROWSER/bookmarks.html");
+    const QString library = harness.home(u"Library/"_s);
+    const QString support = library + u"Application Support/"_s;
+    const QString profiles = support + u"Firefox/profiles.ini"_s;
+    const QString sources[4] = {
+        library + u"Safari/Bookmarks.plist"_s, support + u"Firefox/Profiles/a b/bookmarks.html"_s,
+        support + u"OmniWeb 5/Bookmarks.html"_s, support + u"Camino/bookmarks.plist"_s};
+    const QString placed = u"PSP/SYSTEM/BROWSER/bookmarks.html"_s;
 
     void SetUp() override
     {
         harness.mountStick();
         writeFile(profiles, "[Profile0]\nPath=Profiles/a b\n");
-        writeFile(support + QStringLiteral("Caravel/log"), {});
+        writeFile(support + u"Caravel/log"_s, {});
     }
 
     void set(const char *key, const QVariant &value)
     {
         harness.defaults.setObject(QString::fromLatin1(key), value);
     }
-    QByteArray staged() const
-    {
-        return readFile(support + QStringLiteral("Caravel/bookmarks.html"));
-    }
+    QByteArray staged() const { return readFile(support + u"Caravel/bookmarks.html"_s); }
 
     std::vector<CVSyncItem> items() { return CVSyncBookmarks(harness.stick()).itemsToSync(); }
 
@@ -82,10 +78,9 @@ protected:
     {
         QString lines;
         for (const BookmarkFolder &found : CVSyncBookmarks::availableIdentifiers()) {
-            lines += found.title.value_or(QStringLiteral("?")) + u' ' +
-                     QString::number(found.size) + u'\n';
+            lines += found.title.value_or(u"?"_s) + u' ' + QString::number(found.size) + u'\n';
             for (const Bookmark &bookmark : found.bookmarks)
-                lines += QStringLiteral("  ") + bookmark.title + u'=' + bookmark.address + u'\n';
+                lines += u"  "_s + bookmark.title + u'=' + bookmark.address + u'\n';
         }
         return lines;
     }
@@ -103,15 +98,14 @@ TEST_F(CVSyncBookmarksTest, PlacesTheChosenFolders)
     writeFile(sources[Safari],
               listOf({leaf("Top", "http://top/"), folder("Work", work),
                       folder("Private", QVariantList{leaf("Mine", "http://mine/")})}));
-    writeFile(harness.stick(QStringLiteral("PSP/SYSTEM/BROWSER/history.dat")), "kept");
-    CVSyncBookmarks::setSelectedIdentifiers(
-        {QStringLiteral("Gone"), QStringLiteral("Work"), QStringLiteral("Sub")}, harness.stick());
+    writeFile(harness.stick(u"PSP/SYSTEM/BROWSER/history.dat"_s), "kept");
+    CVSyncBookmarks::setSelectedIdentifiers({u"Gone"_s, u"Work"_s, u"Sub"_s}, harness.stick());
     ASSERT_TRUE(harness.run());
     EXPECT_EQ(readFile(harness.stick(placed)), golden("bookmarks-work.html"));
     EXPECT_EQ(harness.delegate.count(QStringLiteral("syncWillProcessItem Syncing Safari "
                                                     "Bookmarks...")),
               1);
-    EXPECT_EQ(readFile(harness.stick(QStringLiteral("PSP/SYSTEM/BROWSER/history.dat"))), "kept");
+    EXPECT_EQ(readFile(harness.stick(u"PSP/SYSTEM/BROWSER/history.dat"_s)), "kept");
 
     CVSyncBookmarks::setSelectedIdentifiers({}, harness.stick());
     ASSERT_TRUE(harness.run());
@@ -125,7 +119,7 @@ TEST_F(CVSyncBookmarksTest, LeavesTheBrowserItsBookmarksWhereThereIsNothingToPla
     for (const QByteArray &contents :
          {listOf({folder("Empty", QVariantList()), folder("Other", QVariantList{leaf("x", "y")})}),
           listOf({leaf("x", "y")}), QByteArray("garbage")}) {
-        CVSyncBookmarks::setSelectedIdentifiers({QStringLiteral("Empty")}, harness.stick());
+        CVSyncBookmarks::setSelectedIdentifiers({u"Empty"_s}, harness.stick());
         writeFile(sources[Safari], contents);
         ASSERT_TRUE(harness.run());
         EXPECT_EQ(readFile(harness.stick(placed)), "the PSP's own");
@@ -153,8 +147,8 @@ TEST_F(CVSyncBookmarksTest, DescribesTheSource)
 
 TEST_F(CVSyncBookmarksTest, SaysWhenItCannotWriteTheFile)
 {
-    const QString path = support + QStringLiteral("Caravel/bookmarks.html");
-    writeFile(path + QStringLiteral("/in the way"), {});
+    const QString path = support + u"Caravel/bookmarks.html"_s;
+    writeFile(path + u"/in the way"_s, {});
     const SystemLogCapture log;
     items();
     EXPECT_TRUE(log.contains(path));
@@ -164,7 +158,7 @@ TEST_F(CVSyncBookmarksTest, ReadsFirefox)
 {
     const QByteArray heading = "    <DT><H3 ADD_DATE=\"1\">News</H3>\n";
     const QByteArray bookmark = "        <DT><A HREF=\"http://a/?b&amp;c\" ID=\"1\">A</A>\n";
-    const QString plain = QStringLiteral("News 1\n  A=http://a/?b&amp;c\n");
+    const QString plain = u"News 1\n  A=http://a/?b&amp;c\n"_s;
     const struct
     {
         QByteArray text;
@@ -175,15 +169,15 @@ TEST_F(CVSyncBookmarksTest, ReadsFirefox)
         {"\xEF\xBB\xBF" + heading + bookmark, plain},
         {bookmark + "        <DT><H3 X=\"\">Inner</H3>\n" + bookmark, QString()},
         {heading + "        <DT><H3 X=\"\">Inner</H3>\n<DT><A HREF=\"b\" X=\"\">B &amp; C</A>\n",
-         QStringLiteral("News 1\n  B &amp; C=b\n")},
+         u"News 1\n  B &amp; C=b\n"_s},
         {"    <DT><H3 X=\"\">Fish &amp; Chips &#233;</H3>\n" + bookmark +
              "    <DT><H3 X=\"\">Empty</H3>\n",
-         QStringLiteral("Fish & Chips é 1\n  A=http://a/?b&amp;c\nEmpty 0\n")},
+         u"Fish & Chips é 1\n  A=http://a/?b&amp;c\nEmpty 0\n"_s},
         {heading + bookmark + "    <DT><H3 X=\"\">Between</H3>\n" + heading +
              "<DT><A HREF=\"b\" X=\"\">B</A>\n",
-         QStringLiteral("Between 0\nNews 1\n  B=b\n")},
-        {"    <DT><H3 X=\"\">Caf\xE9</H3>\n", QStringLiteral("Café 0\n")},
-        {"    <DT><H3 X=\"\">a/\xC3\xA9..</H3>\n", QStringLiteral("a/é.. 0\n")},
+         u"Between 0\nNews 1\n  B=b\n"_s},
+        {"    <DT><H3 X=\"\">Caf\xE9</H3>\n", u"Café 0\n"_s},
+        {"    <DT><H3 X=\"\">a/\xC3\xA9..</H3>\n", u"a/é.. 0\n"_s},
         // Lines that can't be cut leave the folder before them the current one.
         {heading + "    <DT><H3>No marker</H3>\n    <DT><H3</H3> X=\"\"></H3>\n" +
              "<DT><A HREF=\"b\">B</A>\n<DT><A X=\"\" >B</A>\n<DT><A</A>\n<DT><A HREF=\"b\" >B</A>\n"
@@ -200,20 +194,19 @@ TEST_F(CVSyncBookmarksTest, ReadsFirefox)
     EXPECT_EQ(offered(Firefox, heading + "<DT><A HREF=\"" + endless + "\n" +
                                    QByteArray("<DT><A</A").repeated(1 << 20) + "\n<DT><A HREF=\"" +
                                    endless + "\" >\">B</A>\n" + bookmark),
-              QStringLiteral("News 2\n  B=") + QString::fromLatin1(endless) +
-                  QStringLiteral("\n  A=http://a/?b&amp;c\n"));
+              u"News 2\n  B="_s + QString::fromLatin1(endless) + u"\n  A=http://a/?b&amp;c\n"_s);
 }
 
 TEST_F(CVSyncBookmarksTest, FindsTheFirstFirefoxProfile)
 {
-    const QString firefox = support + QStringLiteral("Firefox");
+    const QString firefox = support + u"Firefox"_s;
     const struct
     {
         QByteArray ini;
         std::optional<QString> profile;
     } cases[] = {
-        {"[Profile1]\nPath=b\n[Profile0]\nPath=a\n", firefox + QStringLiteral("/a")},
-        {"[Profile0]\nIsRelative=0\nPath=/etc\n", firefox + QStringLiteral("/etc")},
+        {"[Profile1]\nPath=b\n[Profile0]\nPath=a\n", firefox + u"/a"_s},
+        {"[Profile0]\nIsRelative=0\nPath=/etc\n", firefox + u"/etc"_s},
         {"[Profile1]\nPath=b\n", std::nullopt},
         {"[Profile0]\r\nPath=a\r\n", std::nullopt},
         {"", std::nullopt},
@@ -230,7 +223,7 @@ TEST_F(CVSyncBookmarksTest, ReadsOmniWeb)
 {
     const QByteArray heading = "<dt><h3><a bookmarkid=7>News</a></h3>\n";
     const QByteArray bookmark = "<dt><a href=\"http://a/?b&amp;c\" bookmarkid=8>A &lt;</a>\n";
-    const QString plain = QStringLiteral("News 1\n  A <=http://a/?b&amp;c\n");
+    const QString plain = u"News 1\n  A <=http://a/?b&amp;c\n"_s;
     const struct
     {
         QByteArray text;
@@ -241,15 +234,14 @@ TEST_F(CVSyncBookmarksTest, ReadsOmniWeb)
         {"\xEF\xBB\xBF" + heading + bookmark, plain},
         {"<dt><h3><a bookmarkid=12345>Five &amp; more</a></h3>\n" + bookmark +
              "<dt><h3><a bookmarkid=99>Two</a></h3>\n",
-         QStringLiteral("Five & more 1\n  A <=http://a/?b&amp;c\nTwo 0\n")},
-        {"<dt><h3><a bookmarkid=123456>Six</a></h3>\n", QStringLiteral("3456>Six 0\n")},
-        {"<dt><h3><a bookmarkid=1>a>b>c</a></h3>\n", QStringLiteral("a>b>c 0\n")},
-        {"<dt><h3><a bookmarkid=1></a></h3>\n" + bookmark, QStringLiteral(" 0\n")},
+         u"Five & more 1\n  A <=http://a/?b&amp;c\nTwo 0\n"_s},
+        {"<dt><h3><a bookmarkid=123456>Six</a></h3>\n", u"3456>Six 0\n"_s},
+        {"<dt><h3><a bookmarkid=1>a>b>c</a></h3>\n", u"a>b>c 0\n"_s},
+        {"<dt><h3><a bookmarkid=1></a></h3>\n" + bookmark, u" 0\n"_s},
         {heading + bookmark + "<dt><h3><a bookmarkid=9>Between</a></h3>\n" + heading,
-         QStringLiteral("Between 0\nNews 0\n")},
-        {"<dt><h3><a bookmarkid=1>Caf\xE9</a></h3>\n", QStringLiteral("Café 0\n")},
-        {heading + " " + bookmark + "\t<dt><h3><a bookmarkid=9>Indented</a></h3>\n",
-         QStringLiteral("News 0\n")},
+         u"Between 0\nNews 0\n"_s},
+        {"<dt><h3><a bookmarkid=1>Caf\xE9</a></h3>\n", u"Café 0\n"_s},
+        {heading + " " + bookmark + "\t<dt><h3><a bookmarkid=9>Indented</a></h3>\n", u"News 0\n"_s},
         // Lines that can't be cut.
         {heading + "<dt><h3><a bookmarkid=></a></h3>\n" +
              "<dt><a href=\"</a>\" bookmarkid=1>B</a>\n" + bookmark,
@@ -267,22 +259,19 @@ TEST_F(CVSyncBookmarksTest, ReadsOmniWeb)
 TEST_F(CVSyncBookmarksTest, ReadsCamino)
 {
     const auto entry = [](const char *title, const char *key, const QVariant &value) {
-        return QVariantMap{{QStringLiteral("Title"), QString::fromUtf8(title)},
+        return QVariantMap{{u"Title"_s, QString::fromUtf8(title)},
                            {QString::fromLatin1(key), value}};
     };
-    const QVariantMap page = entry("Page", "URL", QStringLiteral("http://p/"));
+    const QVariantMap page = entry("Page", "URL", u"http://p/"_s);
     QVariantMap group = entry("Group", "FolderType", 2);
-    group.insert(QStringLiteral("Children"), QVariantList{page, group, 5, page});
+    group.insert(u"Children"_s, QVariantList{page, group, 5, page});
     const QVariantMap noFolder = entry("No folder", "Children", QVariantList{page});
-    const QVariantMap untitled{{QStringLiteral("Children"), QVariantList{page}},
-                               {QStringLiteral("Title"), 5}};
+    const QVariantMap untitled{{u"Children"_s, QVariantList{page}}, {u"Title"_s, 5}};
     const QVariantList children{
-        page,     group,
-        noFolder, entry("Wrong", "URL", 5),
-        u'x',     QVariantMap{{QStringLiteral("URL"), QStringLiteral("u:")}}};
+        page, group, noFolder, entry("Wrong", "URL", 5), u'x', QVariantMap{{u"URL"_s, u"u:"_s}}};
     EXPECT_EQ(offered(Camino, listOf({entry("Z", "Children", children), page, untitled, true,
                                       entry("A", "Children", QVariantList{page}),
-                                      entry("W", "Children", QStringLiteral("no list")),
+                                      entry("W", "Children", u"no list"_s),
                                       entry("A", "Children", QVariantList{group})})),
               QStringLiteral("Z 4\n  Page=http://p/\n  Page=http://p/\n  Page=http://p/\n  u:=u:\n"
                              "Page 0\nW 0\nA 2\n  Page=http://p/\n  Page=http://p/\n"));
@@ -291,23 +280,23 @@ TEST_F(CVSyncBookmarksTest, ReadsCamino)
 TEST_F(CVSyncBookmarksTest, TakesNothingFromWrongPropertyLists)
 {
     QVariantMap oddLeaf = leaf("x", "http://odd/");
-    oddLeaf.insert(QStringLiteral("URIDictionary"), QStringLiteral("no dictionary"));
+    oddLeaf.insert(u"URIDictionary"_s, u"no dictionary"_s);
     QVariantMap noAddress = leaf("x", "");
-    noAddress.insert(QStringLiteral("URLString"), QVariantList{1});
+    noAddress.insert(u"URLString"_s, QVariantList{1});
     QVariantMap untitled = folder("", 5);
-    untitled.remove(QStringLiteral("Title"));
+    untitled.remove(u"Title"_s);
     EXPECT_EQ(offered(Safari,
                       listOf({5, QVariantList{}, folder("Odd", QVariantList{oddLeaf, 5, noAddress}),
-                              untitled, folder("Twice", QStringLiteral("x")),
+                              untitled, folder("Twice", u"x"_s),
                               folder("Twice", QVariantList{leaf("b", "c")})})),
-              QStringLiteral("Odd 3\n  http://odd/=http://odd/\n? 0\nTwice 0\nTwice 1\n  b=c\n"));
+              u"Odd 3\n  http://odd/=http://odd/\n? 0\nTwice 0\nTwice 1\n  b=c\n"_s);
     EXPECT_EQ(items().size(), 1U);
 
     const QByteArray good = listOf({folder("Work", QVariantList{leaf("a", "b")})});
     const QByteArray opened = "<plist><dict><key>Children</key>";
     for (const QByteArray &bad :
          {QByteArray(), QByteArray("bplist00garbage"), good.chopped(30),
-          PropertyList::toXml(QVariantList{1}), PropertyList::toXml(QStringLiteral("text")),
+          PropertyList::toXml(QVariantList{1}), PropertyList::toXml(u"text"_s),
           opened + QByteArray("<array>").repeated(1000000),
           opened + QByteArray("<array><dict><key>Children</key>").repeated(100000)}) {
         for (const Source source : {Safari, Camino}) {
@@ -317,5 +306,5 @@ TEST_F(CVSyncBookmarksTest, TakesNothingFromWrongPropertyLists)
         }
     }
     EXPECT_EQ(offered(Safari, "\xEF\xBB\xBF" + QByteArray(good).replace("\n", "\r\n").trimmed()),
-              QStringLiteral("Work 1\n  a=b\n"));
+              u"Work 1\n  a=b\n"_s);
 }

@@ -74,7 +74,7 @@ Person withEverything()
     all.addresses = {
         {Home, {town("1 High St"), town("Town"), town("Shire"), town("AB1"), town("UK")}},
         {Work, {{}, town("Only town"), {}, {}, {}}}};
-    all.note = QStringLiteral("one\ntwo\r\nthree");
+    all.note = u"one\ntwo\r\nthree"_s;
     all.image.bytes = pngOf(Qt::red);
     return all;
 }
@@ -84,9 +84,8 @@ class CVSyncContactsTest : public testing::Test
 protected:
     SyncHarness harness{{CVSyncContacts::kind()}};
     FixedAddressBook book;
-    const QString support = harness.home(QStringLiteral("Library/Application Support/Caravel/"));
-    const QString picture =
-        QMMD5Hasher::hashFromString(QStringLiteral("everything")) + QStringLiteral(".JPG");
+    const QString support = harness.home(u"Library/Application Support/Caravel/"_s);
+    const QString picture = QMMD5Hasher::hashFromString(u"everything"_s) + u".JPG"_s;
 
     CVSyncContactsTest()
     {
@@ -98,7 +97,7 @@ protected:
 
     QByteArray placed(const QString &name) const
     {
-        return readFile(harness.stick(QStringLiteral("Caravel/Contacts/") + name));
+        return readFile(harness.stick(u"Caravel/Contacts/"_s + name));
     }
     std::vector<CVSyncItem> items() { return CVSyncContacts(harness.stick()).itemsToSync(); }
 };
@@ -119,22 +118,18 @@ TEST_F(CVSyncContactsTest, PlacesThePageAndThePictures)
                       person("null", "(null)", "(null)", "Null Ltd"),
                       company,
                       person("last-only", "", "Solo")};
-    writeFile(harness.stick(QStringLiteral("Caravel/Contacts/gone.JPG")), "gone");
+    writeFile(harness.stick(u"Caravel/Contacts/gone.JPG"_s), "gone");
     ASSERT_TRUE(harness.run());
-    EXPECT_EQ(placed(QStringLiteral("index.html")).toStdString(),
-              golden("contacts.html").toStdString());
-    EXPECT_EQ(treeOf(harness.stick(QStringLiteral("Caravel/Contacts"))),
-              QStringList({picture, QStringLiteral("index.html")}));
+    EXPECT_EQ(placed(u"index.html"_s).toStdString(), golden("contacts.html").toStdString());
+    EXPECT_EQ(treeOf(harness.stick(u"Caravel/Contacts"_s)),
+              QStringList({picture, u"index.html"_s}));
     EXPECT_GT(qRed(QImage::fromData(placed(picture), "JPG").pixel(32, 32)), 200);
-    EXPECT_EQ(
-        harness.delegate.count(QStringLiteral("syncWillProcessItem Syncing Contact Icons...")), 1);
-    EXPECT_EQ(
-        harness.delegate.count(QStringLiteral("syncWillProcessItem Syncing Contact Index...")), 1);
+    EXPECT_EQ(harness.delegate.count(u"syncWillProcessItem Syncing Contact Icons..."_s), 1);
+    EXPECT_EQ(harness.delegate.count(u"syncWillProcessItem Syncing Contact Index..."_s), 1);
 
     book.everybody.clear();
     ASSERT_TRUE(harness.run());
-    EXPECT_EQ(placed(QStringLiteral("index.html")).toStdString(),
-              golden("contacts-none.html").toStdString());
+    EXPECT_EQ(placed(u"index.html"_s).toStdString(), golden("contacts-none.html").toStdString());
     EXPECT_TRUE(placed(picture).isEmpty());
 }
 
@@ -156,7 +151,7 @@ TEST_F(CVSyncContactsTest, RendersAPictureOnlyWhenItHasChanged)
     items();
     EXPECT_EQ(readFile(support + picture), red) << "a cut-off one is made again";
 
-    book.everybody[0].image = {{}, harness.home(QStringLiteral("blue.png"))};
+    book.everybody[0].image = {{}, harness.home(u"blue.png"_s)};
     writeFile(book.everybody[0].image.file, pngOf(Qt::blue));
     EXPECT_EQ(items().size(), 2U);
     EXPECT_GT(qBlue(QImage::fromData(readFile(support + picture)).pixel(32, 32)), 200);
@@ -166,20 +161,20 @@ TEST_F(CVSyncContactsTest, SaysWhichPictureItCannotShowOrWrite)
 {
     book.everybody = {withEverything(), person("gone", "Gone", "Picture")};
     book.everybody[0].image.bytes = "no image";
-    book.everybody[1].image.file = harness.home(QStringLiteral("missing.png"));
+    book.everybody[1].image.file = harness.home(u"missing.png"_s);
     {
         const SystemLogCapture log;
         EXPECT_EQ(items().size(), 2U);
-        EXPECT_TRUE(log.contains(QStringLiteral("Zoë %@")));
-        EXPECT_TRUE(log.contains(QStringLiteral("missing.png")));
+        EXPECT_TRUE(log.contains(u"Zoë %@"_s));
+        EXPECT_TRUE(log.contains(u"missing.png"_s));
         EXPECT_EQ(QImage::fromData(readFile(support + picture)).size(), QSize(64, 64));
     }
-    for (const QString &name : {picture, QStringLiteral("contacts_index.html")}) {
+    for (const QString &name : {picture, u"contacts_index.html"_s}) {
         QDir().remove(support + name);
-        writeFile(support + name + QStringLiteral("/in the way"), {});
+        writeFile(support + name + u"/in the way"_s, {});
     }
     const SystemLogCapture log;
     EXPECT_EQ(items().size(), 2U);
     EXPECT_TRUE(log.contains(support + picture));
-    EXPECT_TRUE(log.contains(QStringLiteral("contacts_index.html")));
+    EXPECT_TRUE(log.contains(u"contacts_index.html"_s));
 }

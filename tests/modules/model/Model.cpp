@@ -78,8 +78,7 @@ void cleanUp(const Kind &kind, World &world, const std::vector<Wish> &wishes)
     const bool ownOnly = world.setting("ownOnly") == 0 && world.index;
     std::erase_if(world.stick, [&](const auto &file) {
         const QString &path = file.first;
-        if (!path.startsWith(kind.folder + u'/') ||
-            path == kind.folder + QStringLiteral("/.caravel"))
+        if (!path.startsWith(kind.folder + u'/') || path == kind.folder + u"/.caravel"_s)
             return false;
         if (path.endsWith(u'/') || path.section(u'/', -1) == u".DS_Store")
             return true;
@@ -93,7 +92,7 @@ World afterRun(const Kind &kind, World world, std::vector<Wish> wishes)
     world.processed = 0;
     if (world.setting("firmwareVersion") < kind.leastFirmware)
         return world;
-    const bool isOff = world.settings[QStringLiteral("sync") + kind.name] == 0;
+    const bool isOff = world.settings[u"sync"_s + kind.name] == 0;
     if (isOff)
         wishes.clear();
     for (const auto &[path, contents] : world.made) {
@@ -110,7 +109,7 @@ World afterRun(const Kind &kind, World world, std::vector<Wish> wishes)
         index.insert(u'/' + wish.place);
         put(world.stick, wish.place, world.home[wish.source]);
         const QString name = wish.place.section(u'/', -1);
-        world.stick.erase(wish.place.chopped(name.size()) + QStringLiteral("._") + name);
+        world.stick.erase(wish.place.chopped(name.size()) + u"._"_s + name);
     }
     world.index = index;
     return world;
@@ -143,9 +142,9 @@ void litter(World &world, Dice &dice, const Kind &kind, const std::vector<Wish> 
         if (dice.once(5))
             put(world.stick, path, dice.once(3) ? same : dice.bytes());
         if (dice.once(9))
-            put(world.stick, path.chopped(name.size()) + QStringLiteral("._") + name, "fork");
+            put(world.stick, path.chopped(name.size()) + u"._"_s + name, "fork");
         if (dice.once(25))
-            put(world.stick, path + QStringLiteral("/inside"), dice.bytes());
+            put(world.stick, path + u"/inside"_s, dice.bytes());
         if (dice.once(25))
             put(world.stick, path.section(u'/', 0, -2), dice.bytes());
     }
@@ -155,12 +154,12 @@ void litter(World &world, Dice &dice, const Kind &kind, const std::vector<Wish> 
         if (dice.once(2))
             put(world.stick, kind.folder + QString::fromLatin1(stray), dice.bytes());
     }
-    put(world.stick, QStringLiteral("PSP/GAME/EBOOT.PBP"), dice.bytes());
+    put(world.stick, u"PSP/GAME/EBOOT.PBP"_s, dice.bytes());
     if (dice.once(2))
-        put(world.stick, kind.folder + QStringLiteral("/Empty/Inner/"), {});
+        put(world.stick, kind.folder + u"/Empty/Inner/"_s, {});
     if (dice.once(3))
         return;
-    world.index = {u'/' + kind.folder + QStringLiteral("/vanished.mp3")};
+    world.index = {u'/' + kind.folder + u"/vanished.mp3"_s};
     for (const auto &[path, contents] : world.stick) {
         if (dice.once(2))
             world.index->insert(u'/' + path);
@@ -186,7 +185,7 @@ void build(const World &world, const Kind &kind, SyncHarness &harness)
     writeList(".caravel/%1.plist", world.profile);
     for (const auto &[name, value] : world.settings)
         harness.defaults.setObject(name, value);
-    harness.defaults.setObject(QStringLiteral("enabled") + kind.name,
+    harness.defaults.setObject(u"enabled"_s + kind.name,
                                QVariantList(world.preferred.begin(), world.preferred.end()));
 }
 
@@ -207,11 +206,10 @@ void runAndCompare(const Kind &kind, SyncHarness &harness, const World &after)
     ASSERT_EQ(describe(stick), describe(after.stick));
     const QString home = harness.home({});
     ASSERT_EQ(describe(treeBelow(home.chopped(1), home)), describe(after.home));
-    ASSERT_EQ(harness.delegate.events.filter(QStringLiteral("syncWillProcessItem")).size(),
-              after.processed);
+    ASSERT_EQ(harness.delegate.events.filter(u"syncWillProcessItem"_s).size(), after.processed);
     const QStringList listed = harness.index(kind.name);
     ASSERT_EQ(std::set<QString>(listed.begin(), listed.end()),
-              after.index.value_or(std::set<QString>{QStringLiteral("no index")}));
+              after.index.value_or(std::set<QString>{u"no index"_s}));
 }
 
 void playRound(const Kind &kind, unsigned round)
@@ -221,10 +219,9 @@ void playRound(const Kind &kind, unsigned round)
     Dice dice(round);
     World world;
     rollSettings(world, dice, kind);
-    const QString documents =
-        dice.once(2) ? QStringLiteral("Documents") : QStringLiteral("My Things");
-    world.documents = harness.home(documents + QStringLiteral("/Caravel"));
-    harness.defaults.setObject(QStringLiteral("CaravelFolder"), QStringLiteral("~/") + documents);
+    const QString documents = dice.once(2) ? u"Documents"_s : u"My Things"_s;
+    world.documents = harness.home(documents + u"/Caravel"_s);
+    harness.defaults.setObject(u"CaravelFolder"_s, u"~/"_s + documents);
     std::vector<Wish> wishes = kind.roll(world, dice, harness);
     setPlacesApart(wishes, kind.folder);
     litter(world, dice, kind, wishes);
@@ -252,7 +249,7 @@ std::set<QString> World::selected() const
 
 void holdAgainstTheRules(const Kind &kind)
 {
-    if (QFileInfo(QStringLiteral("/dev/shm")).isWritable())
+    if (QFileInfo(u"/dev/shm"_s).isWritable())
         qputenv("TMPDIR", "/dev/shm");
     bool isSet = false;
     const int given = qEnvironmentVariableIntValue("CARAVEL_MODEL_ROUNDS", &isSet);
@@ -278,8 +275,8 @@ std::map<int, QString> rollFiles(World &world, Dice &dice, const QString &folder
 {
     std::map<int, QString> files;
     for (int number = 1; number <= 2 + dice.below(10); ++number) {
-        files[number] = folder + QStringLiteral("/%1.%2").arg(number).arg(
-                                     QString::fromLatin1(dice.of(extensions)));
+        files[number] =
+            folder + u"/%1.%2"_s.arg(number).arg(QString::fromLatin1(dice.of(extensions)));
         if (!dice.once(8))
             put(world.home, files[number], dice.bytes());
     }
@@ -320,8 +317,7 @@ std::vector<Wish> drop(World &world, Dice &dice, const QString &dropbox,
         if (dice.once(2))
             continue;
         const QString place = QString::fromUtf8(name);
-        const QString source =
-            world.documents + QStringLiteral("/Dropboxes/%1/").arg(dropbox) + place;
+        const QString source = world.documents + u"/Dropboxes/%1/"_s.arg(dropbox) + place;
         put(world.home, source, dice.bytes());
         if (world.setting("syncDropboxes") != 0)
             dropped.push_back({source, place});
@@ -341,7 +337,7 @@ QString cleanName(QString text)
 
 QString asComponent(const QString &name)
 {
-    return name.isEmpty() || name == u"." || name == u".." ? QStringLiteral("_") : name;
+    return name.isEmpty() || name == u"." || name == u".." ? u"_"_s : name;
 }
 
 QString extensionOf(const QString &path)

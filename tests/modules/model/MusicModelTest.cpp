@@ -28,26 +28,26 @@ bool isPlayed(const QString &path, int firmware)
 QString stickExtension(const QString &extension)
 {
     const QString upper = extension.toUpper();
-    return upper == u"M4A" || upper == u"AAC" ? QStringLiteral("MP4") : extension;
+    return upper == u"M4A" || upper == u"AAC" ? u"MP4"_s : extension;
 }
 
 QString placeOf(const World &world, const QString &playlist, const Track &track, int position)
 {
     const int sort = world.setting("sortMusicBy");
     const int organize = world.setting("organizeMusicBy");
-    const QString a = cleanName(track.artist.value_or(QStringLiteral("Unsorted")));
-    const QString l = cleanName(track.album.value_or(QStringLiteral("Unsorted")));
-    const QString t = cleanName(track.name.value_or(QStringLiteral("Untitled")));
+    const QString a = cleanName(track.artist.value_or(u"Unsorted"_s));
+    const QString l = cleanName(track.album.value_or(u"Unsorted"_s));
+    const QString t = cleanName(track.name.value_or(u"Untitled"_s));
     QString prefix;
     if (sort == 0)
-        prefix = QStringLiteral("%1. ").arg(position, 3, 10, QChar(u'0'));
+        prefix = u"%1. "_s.arg(position, 3, 10, QChar(u'0'));
     else if (sort != 1)
-        prefix = QStringLiteral("%1%2. ").arg(track.disc).arg(track.number, 2, 10, QChar(u'0'));
+        prefix = u"%1%2. "_s.arg(track.disc).arg(track.number, 2, 10, QChar(u'0'));
     const QString folder = organize == 0   ? cleanName(playlist)
                            : organize == 1 ? a
-                           : organize == 3 ? a + QStringLiteral(" - ") + l
+                           : organize == 3 ? a + u" - "_s + l
                                            : l;
-    const QString name = organize == 0 ? prefix + a + QStringLiteral(" - ") + t : prefix + t;
+    const QString name = organize == 0 ? prefix + a + u" - "_s + t : prefix + t;
     return asComponent(folder) + u'/' + asComponent(name) + u'.' +
            stickExtension(extensionOf(track.path));
 }
@@ -91,28 +91,26 @@ QByteArray insideOf(const Track &track)
         return value > 0 ? MusicLibraryFile::integer(key, value) : QByteArray();
     };
     return text("Artist", track.artist) + text("Album", track.album) + text("Name", track.name) +
-           text("Kind", track.isLossy ? QStringLiteral("MPEG audio file")
-                                      : QStringLiteral("Apple Lossless audio file")) +
-           text("Track Type", track.isFile ? QStringLiteral("File") : QStringLiteral("URL")) +
+           text("Kind", track.isLossy ? u"MPEG audio file"_s : u"Apple Lossless audio file"_s) +
+           text("Track Type", track.isFile ? u"File"_s : u"URL"_s) +
            text("Location", QString::fromLatin1(QUrl::fromLocalFile(track.path).toEncoded())) +
            number("Disc Number", track.disc) + number("Track Number", track.number);
 }
 
 std::vector<Wish> roll(World &world, Dice &dice, SyncHarness &harness)
 {
-    const auto tracks = rollTracks(world, dice, harness.home(QStringLiteral("files/Music")));
+    const auto tracks = rollTracks(world, dice, harness.home(u"files/Music"_s));
     const auto playlists = rollCollections(world, dice);
     MusicLibraryFile library;
     for (const auto &[id, track] : tracks)
         library.addTrack(id, insideOf(track));
     for (const Collection &playlist : playlists)
         library.addPlaylist(playlist.name, playlist.members);
-    put(world.home, harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
-        library.contents());
+    put(world.home, harness.home(u"Music/iTunes/iTunes Music Library.xml"_s), library.contents());
 
     std::vector<Wish> wishes = wishesOf(world, tracks, playlists);
     for (const auto &[source, place] :
-         drop(world, dice, QStringLiteral("Music"),
+         drop(world, dice, u"Music"_s,
               {"._0.mp3", "0.MP4", "0.aac", "0.m4a", "0.mp3", "0.ogg", "Band/1.wav",
                "Own.mp3/in.Mp3", "x/x.1.mp3", "x/x.mp3"})) {
         const QString extension = extensionOf(place);
@@ -127,8 +125,8 @@ std::vector<Wish> roll(World &world, Dice &dice, SyncHarness &harness)
 TEST(Model, AgreesOnMusic)
 {
     holdAgainstTheRules(
-        {.name = QStringLiteral("Music"),
-         .folder = QStringLiteral("PSP/MUSIC"),
+        {.name = u"Music"_s,
+         .folder = u"PSP/MUSIC"_s,
          .catalogue = {CVSyncMusic::kind()},
          .settings = {{"sortMusicBy", {0, 1, 2, 7}}, {"organizeMusicBy", {0, 1, 2, 3}}},
          .roll = roll});

@@ -13,8 +13,8 @@
 
 namespace {
 
-const QString mp4 = QStringLiteral(".MP4");
-const QString thm = QStringLiteral(".THM");
+const QString mp4 = u".MP4"_s;
+const QString thm = u".THM"_s;
 
 QStringList list(std::initializer_list<const char *> texts)
 {
@@ -33,7 +33,7 @@ protected:
 
     QString library(const QString &relative = {}) const
     {
-        return harness.home(QStringLiteral("Documents/Caravel/Movies/") + relative);
+        return harness.home(u"Documents/Caravel/Movies/"_s + relative);
     }
     static void putConverted()
     {
@@ -49,9 +49,8 @@ protected:
     {
         QStringList lines;
         for (const CVSyncItem &item : CVSyncMovies(harness.stick()).itemsToSync())
-            lines.append(item.destination.mid(harness.stick(QStringLiteral("MP_ROOT/")).size()) +
-                         QStringLiteral(" < ") + item.source.section(u'/', -1) +
-                         QStringLiteral(" : ") + item.description);
+            lines.append(item.destination.mid(harness.stick(u"MP_ROOT/"_s).size()) + u" < "_s +
+                         item.source.section(u'/', -1) + u" : "_s + item.description);
         return lines;
     }
 };
@@ -64,15 +63,15 @@ public:
     bool noMoves = false;
     FileStatus linkStatus(const QString &path) const override
     {
-        const bool isId = path.contains(QStringLiteral("/Movies/M4V")) && path.endsWith(u"9");
-        return noIds && (isId || path.contains(QStringLiteral("/Movies/M4V")))
+        const bool isId = path.contains(u"/Movies/M4V"_s) && path.endsWith(u"9");
+        return noIds && (isId || path.contains(u"/Movies/M4V"_s))
                    ? FileStatus{FileStatus::Kind::Folder, 0}
                    : FileManager::linkStatus(path);
     }
     bool move(const QString &source, const QString &destination,
               FileOperationHandler *handler) override
     {
-        if (noMoves && destination.contains(QStringLiteral("/Movies/")))
+        if (noMoves && destination.contains(u"/Movies/"_s))
             return false;
         return FileManager::move(source, destination, handler);
     }
@@ -83,21 +82,21 @@ public:
 TEST_F(CVSyncMoviesTest, KeepsTheLibrary)
 {
     EXPECT_TRUE(CVSyncMovies::availableIdentifiers().isEmpty());
-    EXPECT_EQ(add("Clip"), QStringLiteral("M4V00001/Clip"));
-    EXPECT_EQ(add("Clip"), QStringLiteral("M4V00002/Clip"));
-    EXPECT_EQ(add(".."), QStringLiteral("M4V00003/_")) << "no title leads out of the library";
-    EXPECT_EQ(readFile(library(QStringLiteral("M4V00002/Clip/M4V00002.MP4"))), "movie");
-    EXPECT_EQ(readFile(library(QStringLiteral("M4V00002/Clip/M4V00002.THM"))), "thumbnail");
+    EXPECT_EQ(add("Clip"), u"M4V00001/Clip"_s);
+    EXPECT_EQ(add("Clip"), u"M4V00002/Clip"_s);
+    EXPECT_EQ(add(".."), u"M4V00003/_"_s) << "no title leads out of the library";
+    EXPECT_EQ(readFile(library(u"M4V00002/Clip/M4V00002.MP4"_s)), "movie");
+    EXPECT_EQ(readFile(library(u"M4V00002/Clip/M4V00002.THM"_s)), "thumbnail");
     EXPECT_FALSE(QFile::exists(CVSyncMovies::convertedFile(mp4)));
 
-    EXPECT_TRUE(CVSyncMovies::deleteMovieWithIdentifier(QStringLiteral("M4V00002/Clip")));
-    EXPECT_TRUE(QFile::exists(
-        harness.home(QStringLiteral(".local/share/Trash/files/M4V00002/Clip/M4V00002.MP4"))));
-    writeFile(library(QStringLiteral("a file")), "no movie");
-    writeFile(library(QStringLiteral(".DS_Store")), "");
-    QDir().mkpath(library(QStringLiteral("M4V00009")));
+    EXPECT_TRUE(CVSyncMovies::deleteMovieWithIdentifier(u"M4V00002/Clip"_s));
+    EXPECT_TRUE(
+        QFile::exists(harness.home(u".local/share/Trash/files/M4V00002/Clip/M4V00002.MP4"_s)));
+    writeFile(library(u"a file"_s), "no movie");
+    writeFile(library(u".DS_Store"_s), "");
+    QDir().mkpath(library(u"M4V00009"_s));
     EXPECT_EQ(CVSyncMovies::availableIdentifiers(), list({"M4V00001/Clip", "M4V00003/_"}));
-    EXPECT_EQ(CVSyncMovies::nextAvailableMovieId(), QStringLiteral("M4V00002"));
+    EXPECT_EQ(CVSyncMovies::nextAvailableMovieId(), u"M4V00002"_s);
 
     const QStringList before = treeOf(library());
     const SystemLogCapture log;
@@ -111,7 +110,7 @@ TEST_F(CVSyncMoviesTest, LosesNothingThatItCantStore)
     FullFileManager files;
     FileManager::setDefaultManager(&files);
     const SystemLogCapture log;
-    const QString support = harness.home(QStringLiteral("Library/Application Support/Caravel"));
+    const QString support = harness.home(u"Library/Application Support/Caravel"_s);
     files.noIds = true;
     EXPECT_FALSE(add("Holiday"));
     files.noIds = false;
@@ -125,30 +124,28 @@ TEST_F(CVSyncMoviesTest, LosesNothingThatItCantStore)
 
 TEST_F(CVSyncMoviesTest, MovesToALibraryOnAnotherFileSystem)
 {
-    const QTemporaryDir other(QStringLiteral("/dev/shm/caravel-XXXXXX"));
+    const QTemporaryDir other(u"/dev/shm/caravel-XXXXXX"_s);
     if (!other.isValid() || QStorageInfo(other.path()) == QStorageInfo(harness.folder.path()))
         GTEST_SKIP() << "there is no second file system in /dev/shm";
-    harness.defaults.setObject(QStringLiteral("CaravelFolder"), other.path());
-    EXPECT_EQ(add("Clip"), QStringLiteral("M4V00001/Clip"));
-    EXPECT_EQ(readFile(other.filePath(QStringLiteral("Caravel/Movies/M4V00001/Clip/M4V00001.MP4"))),
-              "movie");
+    harness.defaults.setObject(u"CaravelFolder"_s, other.path());
+    EXPECT_EQ(add("Clip"), u"M4V00001/Clip"_s);
+    EXPECT_EQ(readFile(other.filePath(u"Caravel/Movies/M4V00001/Clip/M4V00001.MP4"_s)), "movie");
     EXPECT_FALSE(QFile::exists(CVSyncMovies::convertedFile(mp4)));
 }
 
 TEST_F(CVSyncMoviesTest, RenamesWithTheSelections)
 {
     add("Old");
-    const QString identifier = QStringLiteral("M4V00001/Old");
-    CVSyncMovies::setSelectedIdentifiers({QStringLiteral("other"), identifier}, harness.stick());
+    const QString identifier = u"M4V00001/Old"_s;
+    CVSyncMovies::setSelectedIdentifiers({u"other"_s, identifier}, harness.stick());
     const SystemLogCapture log;
     const QString tooLong(300, u'x');
-    for (const QString &bad : {QString(), QStringLiteral("a/b"), QStringLiteral(".."), tooLong})
+    for (const QString &bad : {QString(), u"a/b"_s, u".."_s, tooLong})
         EXPECT_FALSE(CVSyncMovies::renameMovieWithIdentifier(identifier, bad, harness.stick()));
-    EXPECT_FALSE(CVSyncMovies::renameMovieWithIdentifier(QStringLiteral("M4V00001/None"),
-                                                         QStringLiteral("New"), harness.stick()));
+    EXPECT_FALSE(
+        CVSyncMovies::renameMovieWithIdentifier(u"M4V00001/None"_s, u"New"_s, harness.stick()));
     EXPECT_EQ(log.lines().size(), 5);
-    EXPECT_TRUE(CVSyncMovies::renameMovieWithIdentifier(identifier, QStringLiteral("New"),
-                                                        harness.stick()));
+    EXPECT_TRUE(CVSyncMovies::renameMovieWithIdentifier(identifier, u"New"_s, harness.stick()));
     EXPECT_EQ(CVSyncMovies::availableIdentifiers(), list({"M4V00001/New"}));
     const QStringList renamed = list({"other", "M4V00001/New"});
     EXPECT_EQ(CVSyncMovies::selectedIdentifiersForPSP({}), renamed);
@@ -163,8 +160,7 @@ TEST_F(CVSyncMoviesTest, TakesTheSelectedMoviesAndTheDropbox)
     CVSyncMovies::setSelectedIdentifiers(list({"M4V00001/Clip", "M4V00044/Gone"}), harness.stick());
     for (const char *name : {"maq00005.mp4", "MAQ00005.mp4", "MAQ00005.Thm", "clip.avi", "mp4",
                              "inner/x.mp4", "dir.mp4/y.mp4"})
-        writeFile(harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Movies/") +
-                               QString::fromUtf8(name)),
+        writeFile(harness.home(u"Documents/Caravel/Dropboxes/Movies/"_s + QString::fromUtf8(name)),
                   "dropped");
     EXPECT_EQ(items(), list({"100MNV01/M4V00001.MP4 < M4V00001.MP4 : Clip",
                              "100MNV01/M4V00001.THM < M4V00001.THM : Clip",

@@ -1,4 +1,5 @@
 #include "modules/movies/ConversionProgress.h"
+#include "support/TestSupport.h"
 
 #include <QList>
 
@@ -6,11 +7,11 @@
 
 namespace {
 
-const QString unknown = QStringLiteral("Conversion in progress...");
+const QString unknown = u"Conversion in progress..."_s;
 
 QString percent(int number)
 {
-    return QStringLiteral("Conversion in progress, %1% completed...").arg(number);
+    return u"Conversion in progress, %1% completed..."_s.arg(number);
 }
 
 } // namespace

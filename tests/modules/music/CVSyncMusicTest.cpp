@@ -28,13 +28,10 @@ protected:
     void SetUp() override
     {
         harness.mountStick();
-        select({QStringLiteral("Road Trip")});
+        select({u"Road Trip"_s});
     }
 
-    QString libraryPath() const
-    {
-        return harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml"));
-    }
+    QString libraryPath() const { return harness.home(u"Music/iTunes/iTunes Music Library.xml"_s); }
     void select(const QStringList &names)
     {
         CVSyncMusic::setSelectedIdentifiers(names, harness.stick());
@@ -54,7 +51,7 @@ protected:
     {
         QStringList places;
         for (const CVSyncItem &item : itemsOf(file))
-            places.append(item.destination.mid(harness.stick(QStringLiteral("PSP/MUSIC/")).size()));
+            places.append(item.destination.mid(harness.stick(u"PSP/MUSIC/"_s).size()));
         return places;
     }
     QStringList places() { return placesOf(library.contents()); }
@@ -64,10 +61,9 @@ protected:
 
 TEST_F(CVSyncMusicTest, NamesFilesByThePreferences)
 {
-    library.addFile(7, QStringLiteral("/music/x%20y.Mp3"),
-                    tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record")));
-    library.addFile(8, QStringLiteral("/music/b.m4a"), QByteArray());
-    library.addPlaylist(QStringLiteral("Road Trip"), {7, 8});
+    library.addFile(7, u"/music/x%20y.Mp3"_s, tags(u"Song"_s, u"Band"_s, u"Record"_s));
+    library.addFile(8, u"/music/b.m4a"_s, QByteArray());
+    library.addPlaylist(u"Road Trip"_s, {7, 8});
     struct Case
     {
         int organize;
@@ -89,47 +85,44 @@ TEST_F(CVSyncMusicTest, NamesFilesByThePreferences)
                   (QStringList{QString::fromLatin1(c.first), QString::fromLatin1(c.second)}));
     }
     const auto items = itemsOf(library.contents());
-    EXPECT_EQ(items[0].source, QStringLiteral("/music/x y.Mp3"));
-    EXPECT_EQ(items[0].description, QStringLiteral("Record/105. Song"));
+    EXPECT_EQ(items[0].source, u"/music/x y.Mp3"_s);
+    EXPECT_EQ(items[0].description, u"Record/105. Song"_s);
 }
 
 TEST_F(CVSyncMusicTest, NumbersWhatIsPlayableInEachSelectedPlaylist)
 {
     const auto file = [](const char *path) {
-        return Library::string("Location",
-                               QStringLiteral("file://localhost/m/") + QString::fromLatin1(path));
+        return Library::string("Location", u"file://localhost/m/"_s + QString::fromLatin1(path));
     };
-    const QByteArray isFile = Library::string("Track Type", QStringLiteral("File"));
+    const QByteArray isFile = Library::string("Track Type", u"File"_s);
     library.addTrack(1, isFile + file("1.mp3"));
     library.addTrack(2, isFile + file("2.m4a") +
-                            Library::string("Kind", QStringLiteral("Apple Lossless audio file")));
-    library.addTrack(3, Library::string("Track Type", QStringLiteral("URL")) + file("3.mp3"));
+                            Library::string("Kind", u"Apple Lossless audio file"_s));
+    library.addTrack(3, Library::string("Track Type", u"URL"_s) + file("3.mp3"));
     library.addTrack(4, file("4.mp3"));
     library.addTrack(5, isFile);
     library.addTrack(6, isFile + file("6.ogg"));
-    library.addTrack(7, isFile + Library::string("Location", QStringLiteral("https://host/7.mp3")));
+    library.addTrack(7, isFile + Library::string("Location", u"https://host/7.mp3"_s));
     library.addTrack(8, isFile + file("8.AAC"));
     library.addTrack(9, isFile + file("9.wav"));
     library.addTrack(10, isFile + file("%00.mp3"));
-    library.addPlaylist(QStringLiteral("Other"), {1});
-    library.addPlaylist(QStringLiteral("Road Trip"), {99, 1, 2, 3, 4, 5, 6, 7, 8, 10, 9});
-    library.addPlaylist(QStringLiteral("Road Trip"), {9});
+    library.addPlaylist(u"Other"_s, {1});
+    library.addPlaylist(u"Road Trip"_s, {99, 1, 2, 3, 4, 5, 6, 7, 8, 10, 9});
+    library.addPlaylist(u"Road Trip"_s, {9});
     set("organizeMusicBy", 0);
     set("sortMusicBy", 0);
-    const QString name = QStringLiteral("Road Trip/%1. Unsorted - Untitled.%2");
-    EXPECT_EQ(places(), (QStringList{name.arg(QStringLiteral("000"), QStringLiteral("mp3")),
-                                     name.arg(QStringLiteral("002"), QStringLiteral("MP4")),
-                                     name.arg(QStringLiteral("004"), QStringLiteral("wav")),
-                                     name.arg(QStringLiteral("000"), QStringLiteral("wav"))}));
+    const QString name = u"Road Trip/%1. Unsorted - Untitled.%2"_s;
+    EXPECT_EQ(places(), (QStringList{name.arg(u"000"_s, u"mp3"_s), name.arg(u"002"_s, u"MP4"_s),
+                                     name.arg(u"004"_s, u"wav"_s), name.arg(u"000"_s, u"wav"_s)}));
     set("firmwareVersion", 0);
-    EXPECT_EQ(places(), QStringList{name.arg(QStringLiteral("000"), QStringLiteral("mp3"))});
+    EXPECT_EQ(places(), QStringList{name.arg(u"000"_s, u"mp3"_s)});
     select({});
     EXPECT_TRUE(places().isEmpty());
 }
 
 TEST_F(CVSyncMusicTest, KeepsEveryNameInItsPlace)
 {
-    const QString accent = QStringLiteral("Cafe\u0301");
+    const QString accent = u"Cafe\u0301"_s;
     const QString emoji = QString::fromUtf8("\xF0\x9F\x8E\xB5");
     struct Case
     {
@@ -137,32 +130,32 @@ TEST_F(CVSyncMusicTest, KeepsEveryNameInItsPlace)
         QString place;
     };
     const Case cases[] = {
-        {QStringLiteral("AC/DC: Live?"), QStringLiteral("AC_DC_ Live_")},
-        {QString(), QStringLiteral("_")},
-        {QStringLiteral("."), QStringLiteral("_")},
-        {QStringLiteral(".."), QStringLiteral("._")},
-        {QStringLiteral(".. "), QStringLiteral("_")},
-        {QStringLiteral("../../x"), QStringLiteral(".._.._x")},
-        {QStringLiteral("a\tb"), QStringLiteral("a\tb")},
-        {QStringLiteral("Caf\u00e9"), accent},
+        {u"AC/DC: Live?"_s, u"AC_DC_ Live_"_s},
+        {QString(), u"_"_s},
+        {u"."_s, u"_"_s},
+        {u".."_s, u"._"_s},
+        {u".. "_s, u"_"_s},
+        {u"../../x"_s, u".._.._x"_s},
+        {u"a\tb"_s, u"a\tb"_s},
+        {u"Caf\u00e9"_s, accent},
         {QString(300, u'n'), QString(251, u'n')},
         {emoji.repeated(100), emoji.repeated(62)},
-        {accent.repeated(60), accent.repeated(41) + QStringLiteral("Cafe\u0301").left(3)},
+        {accent.repeated(60), accent.repeated(41) + u"Cafe\u0301"_s.left(3)},
     };
     set("organizeMusicBy", 1);
     set("sortMusicBy", 1);
     for (const Case &c : cases) {
         Library one;
-        one.addFile(1, QStringLiteral("/m/1.mp3"), tags(c.title, c.title, QString()));
-        one.addPlaylist(QStringLiteral("Road Trip"), {1});
+        one.addFile(1, u"/m/1.mp3"_s, tags(c.title, c.title, QString()));
+        one.addPlaylist(u"Road Trip"_s, {1});
         const QStringList found = placesOf(one.contents());
         ASSERT_EQ(found.size(), 1) << qPrintable(c.title);
         const QStringList components = found[0].split(u'/');
         ASSERT_EQ(components.size(), 2) << qPrintable(found[0]);
-        EXPECT_EQ(components[1], c.place + QStringLiteral(".mp3")) << qPrintable(c.title);
+        EXPECT_EQ(components[1], c.place + u".mp3"_s) << qPrintable(c.title);
         for (const QString &component : components) {
             EXPECT_LE(component.toUtf8().size(), PathComponents::maximumBytes);
-            EXPECT_NE(component, QStringLiteral(".."));
+            EXPECT_NE(component, u".."_s);
             EXPECT_FALSE(component.isEmpty());
         }
     }
@@ -170,28 +163,27 @@ TEST_F(CVSyncMusicTest, KeepsEveryNameInItsPlace)
 
 TEST_F(CVSyncMusicTest, AddsTheDropbox)
 {
-    const QString dropbox = harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Music/"));
-    writeFile(dropbox + QStringLiteral("Live/Set.M4A"), "set");
-    writeFile(dropbox + QStringLiteral("folder.mp3/inside.txt"), "not for the stick");
-    writeFile(dropbox + QStringLiteral("a.Mp3"), "a");
+    const QString dropbox = harness.home(u"Documents/Caravel/Dropboxes/Music/"_s);
+    writeFile(dropbox + u"Live/Set.M4A"_s, "set");
+    writeFile(dropbox + u"folder.mp3/inside.txt"_s, "not for the stick");
+    writeFile(dropbox + u"a.Mp3"_s, "a");
     const auto items = itemsOf(library.contents());
     ASSERT_EQ(items.size(), 2U);
-    EXPECT_EQ(items[0].source, dropbox + QStringLiteral("Live/Set.M4A"));
-    EXPECT_EQ(items[0].destination, harness.stick(QStringLiteral("PSP/MUSIC/Live/Set.MP4")));
-    EXPECT_EQ(items[0].description, QStringLiteral("Live/Set.M4A"));
-    EXPECT_EQ(items[1].destination, harness.stick(QStringLiteral("PSP/MUSIC/a.Mp3")));
+    EXPECT_EQ(items[0].source, dropbox + u"Live/Set.M4A"_s);
+    EXPECT_EQ(items[0].destination, harness.stick(u"PSP/MUSIC/Live/Set.MP4"_s));
+    EXPECT_EQ(items[0].description, u"Live/Set.M4A"_s);
+    EXPECT_EQ(items[1].destination, harness.stick(u"PSP/MUSIC/a.Mp3"_s));
     set("syncDropboxes", false);
     EXPECT_TRUE(places().isEmpty());
 }
 
 TEST_F(CVSyncMusicTest, SurvivesLibrariesThatAreBroken)
 {
-    library.addFile(1, QStringLiteral("/m/1.mp3"),
-                    tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record")));
-    library.addPlaylist(QStringLiteral("Road Trip"), {1});
+    library.addFile(1, u"/m/1.mp3"_s, tags(u"Song"_s, u"Band"_s, u"Record"_s));
+    library.addPlaylist(u"Road Trip"_s, {1});
     const QByteArray good = library.contents();
-    writeFile(harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Music/drop.mp3")), "drop");
-    const QStringList dropboxOnly{QStringLiteral("drop.mp3")};
+    writeFile(harness.home(u"Documents/Caravel/Dropboxes/Music/drop.mp3"_s), "drop");
+    const QStringList dropboxOnly{u"drop.mp3"_s};
 
     struct Case
     {
@@ -223,22 +215,20 @@ TEST_F(CVSyncMusicTest, SurvivesLibrariesThatAreBroken)
 
 TEST_F(CVSyncMusicTest, PassesOverValuesOfAWrongType)
 {
-    library.addFile(1, QStringLiteral("/m/1.mp3"),
-                    tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record")));
-    library.addFile(2, QStringLiteral("/m/2.mp3"),
+    library.addFile(1, u"/m/1.mp3"_s, tags(u"Song"_s, u"Band"_s, u"Record"_s));
+    library.addFile(2, u"/m/2.mp3"_s,
                     "<key>Name</key><dict><key>x</key><string>y</string></dict><key>Artist</"
                     "key><integer>5</integer>"
                     "<key>Album</key><array><string>z</string></array><key>Track "
                     "Number</key><string>7</string>");
     library.addTrack(3, "<key>Track Type</key><true/><key>Location</key><data>AAAA</data>");
     library.addRawPlaylist("<key>Name</key><array/><key>Playlist Items</key><dict/>");
-    library.addRawPlaylist(Library::string("Name", QStringLiteral("Road Trip")) +
+    library.addRawPlaylist(Library::string("Name", u"Road Trip"_s) +
                            "<key>Playlist Items</key><array><string>1</string><dict><key>Track "
                            "ID</key><string>1</string></dict>"
                            "<dict><key>Track ID</key><integer>2</integer></dict><array/><dict/>"
                            "<dict><key>Track ID</key><integer>1</integer></dict></array>");
-    const QStringList expected{QStringLiteral("Unsorted/000. Untitled.mp3"),
-                               QStringLiteral("Record/105. Song.mp3")};
+    const QStringList expected{u"Unsorted/000. Untitled.mp3"_s, u"Record/105. Song.mp3"_s};
     EXPECT_EQ(places(), expected);
     for (const char *root :
          {"<key>Tracks</key><array><dict/></array>", "<key>Playlists</key><string>none</string>"})
@@ -249,25 +239,19 @@ TEST_F(CVSyncMusicTest, SyncsThroughAPretendedRun)
 {
     SyncHarness run{{CVSyncMusic::kind()}};
     run.mountStick();
-    writeFile(run.folder / QStringLiteral("m/1.mp3"), "one");
-    QDir().mkpath(run.folder / QStringLiteral("m/2.mp3"));
+    writeFile(run.folder / u"m/1.mp3"_s, "one");
+    QDir().mkpath(run.folder / u"m/2.mp3"_s);
     Library mixed;
-    const QByteArray names =
-        tags(QStringLiteral("Song"), QStringLiteral("Band"), QStringLiteral("Record"));
-    mixed.addFile(1, run.folder / QStringLiteral("m/1.mp3"), names);
-    mixed.addFile(2, run.folder / QStringLiteral("m/2.mp3"),
-                  tags(QStringLiteral("A folder"), QString(), QString()));
-    mixed.addFile(3, run.folder / QStringLiteral("m/missing.mp3"),
-                  tags(QStringLiteral("Missing"), QString(), QString()));
-    mixed.addPlaylist(QStringLiteral("Road Trip"), {1, 2, 3, 1});
-    writeFile(run.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")), mixed.contents());
-    CVSyncMusic::setSelectedIdentifiers({QStringLiteral("Road Trip")}, run.stick());
+    const QByteArray names = tags(u"Song"_s, u"Band"_s, u"Record"_s);
+    mixed.addFile(1, run.folder / u"m/1.mp3"_s, names);
+    mixed.addFile(2, run.folder / u"m/2.mp3"_s, tags(u"A folder"_s, QString(), QString()));
+    mixed.addFile(3, run.folder / u"m/missing.mp3"_s, tags(u"Missing"_s, QString(), QString()));
+    mixed.addPlaylist(u"Road Trip"_s, {1, 2, 3, 1});
+    writeFile(run.home(u"Music/iTunes/iTunes Music Library.xml"_s), mixed.contents());
+    CVSyncMusic::setSelectedIdentifiers({u"Road Trip"_s}, run.stick());
     ASSERT_TRUE(run.run());
-    EXPECT_TRUE(treeOf(run.stick(QStringLiteral("PSP/MUSIC")))
-                    .contains(QStringLiteral("Record/105. Song.mp3")));
-    EXPECT_TRUE(treeOf(run.stick(QStringLiteral("PSP/MUSIC")))
-                    .contains(QStringLiteral("Record/105. Song.1.mp3")));
+    EXPECT_TRUE(treeOf(run.stick(u"PSP/MUSIC"_s)).contains(u"Record/105. Song.mp3"_s));
+    EXPECT_TRUE(treeOf(run.stick(u"PSP/MUSIC"_s)).contains(u"Record/105. Song.1.mp3"_s));
     EXPECT_TRUE(run.run());
-    EXPECT_EQ(run.delegate.events.filter(QStringLiteral("syncWillProcessItem")).size(), 0)
-        << "all is in place";
+    EXPECT_EQ(run.delegate.events.filter(u"syncWillProcessItem"_s).size(), 0) << "all is in place";
 }

@@ -22,8 +22,7 @@ class CVSyncPhotosTest : public testing::Test
 protected:
     SyncHarness harness{{CVSyncPhotos::kind()}};
     PhotoLibraryFile library;
-    const QString defaultPlace =
-        harness.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml"));
+    const QString defaultPlace = harness.home(u"Pictures/iPhoto Library/AlbumData.xml"_s);
 
     void SetUp() override
     {
@@ -48,8 +47,8 @@ protected:
     {
         QStringList lines;
         for (const CVSyncItem &item : CVSyncPhotos(harness.stick()).itemsToSync())
-            lines.append(item.destination.mid(harness.stick(QStringLiteral("PSP/PHOTO/")).size()) +
-                         QStringLiteral(" < ") + item.source.section(u'/', -1));
+            lines.append(item.destination.mid(harness.stick(u"PSP/PHOTO/"_s).size()) + u" < "_s +
+                         item.source.section(u'/', -1));
         return lines;
     }
 };
@@ -58,20 +57,19 @@ protected:
 
 TEST_F(CVSyncPhotosTest, NamesPicturesByTheirCaptions)
 {
-    addImage("1", "/pics/a.jpeg", QStringLiteral("Beach"));
-    addImage("2", "/pics/b.JPG", QStringLiteral("IMG_0001"));
-    addImage("3", "/pics/film.mov", QStringLiteral("Film"));
+    addImage("1", "/pics/a.jpeg", u"Beach"_s);
+    addImage("2", "/pics/b.JPG", u"IMG_0001"_s);
+    addImage("3", "/pics/film.mov", u"Film"_s);
     addImage("4", "/pics/c.Png", QStringLiteral("a/b: \"c\"?"));
     addImage("5", "/pics/no caption.gif", std::nullopt);
-    addImage("6", "relative.jpg", QStringLiteral("Relative"));
-    library.addRawImage(QStringLiteral("7"),
-                        QVariantMap{{QStringLiteral("Caption"), QStringLiteral("No path")}});
-    library.addRawImage(QStringLiteral("8"), QStringLiteral("no image"));
-    library.addAlbum(QStringLiteral("Holiday"), list({"1", "3", "99", "4", "5", "6", "7", "8"}));
-    library.addAlbum(QStringLiteral("Unwanted"), list({"1"}));
-    library.addAlbum(QStringLiteral("Trip / 2006"), list({"2", "1"}));
-    library.addRawAlbum(QStringLiteral("no album"));
-    library.addRawAlbum(QVariantMap{{QStringLiteral("AlbumName"), 5}});
+    addImage("6", "relative.jpg", u"Relative"_s);
+    library.addRawImage(u"7"_s, QVariantMap{{u"Caption"_s, u"No path"_s}});
+    library.addRawImage(u"8"_s, u"no image"_s);
+    library.addAlbum(u"Holiday"_s, list({"1", "3", "99", "4", "5", "6", "7", "8"}));
+    library.addAlbum(u"Unwanted"_s, list({"1"}));
+    library.addAlbum(u"Trip / 2006"_s, list({"2", "1"}));
+    library.addRawAlbum(u"no album"_s);
+    library.addRawAlbum(QVariantMap{{u"AlbumName"_s, 5}});
     writeFile(defaultPlace, library.contents());
     EXPECT_EQ(items(),
               list({"Holiday/Beach.jpeg < a.jpeg", "Holiday/a_b_ 'c'_.Png < c.Png",
@@ -98,26 +96,23 @@ TEST_F(CVSyncPhotosTest, NamesPicturesByTheirCaptions)
 TEST_F(CVSyncPhotosTest, FindsTheLibraryAndTheDropbox)
 {
     EXPECT_FALSE(CVSyncPhotos::availableIdentifiers());
-    addImage("1", "/pics/a.jpg", QStringLiteral("default"));
-    library.addAlbum(QStringLiteral("Holiday"), list({"1"}));
+    addImage("1", "/pics/a.jpg", u"default"_s);
+    library.addAlbum(u"Holiday"_s, list({"1"}));
     writeFile(defaultPlace, library.contents());
-    const QString own = harness.home(QStringLiteral("Own Place"));
-    harness.defaults.editPersistentDomain(QStringLiteral("com.apple.iPhoto"),
-                                          [&own](QVariantMap &domain) {
-                                              domain.insert(QStringLiteral("RootDirectory"), own);
-                                              return true;
-                                          });
+    const QString own = harness.home(u"Own Place"_s);
+    harness.defaults.editPersistentDomain(u"com.apple.iPhoto"_s, [&own](QVariantMap &domain) {
+        domain.insert(u"RootDirectory"_s, own);
+        return true;
+    });
     EXPECT_EQ(items(), list({"Holiday/default.jpg < a.jpg"})) << "nothing lies in the own place";
-    addImage("1", "/pics/b.jpg", QStringLiteral("own"));
-    writeFile(harness.home(QStringLiteral("elsewhere.xml")), library.contents());
-    writeFile(own + QStringLiteral("/x"), {});
-    ASSERT_TRUE(QFile::link(harness.home(QStringLiteral("elsewhere.xml")),
-                            own + QStringLiteral("/AlbumData.xml")));
+    addImage("1", "/pics/b.jpg", u"own"_s);
+    writeFile(harness.home(u"elsewhere.xml"_s), library.contents());
+    writeFile(own + u"/x"_s, {});
+    ASSERT_TRUE(QFile::link(harness.home(u"elsewhere.xml"_s), own + u"/AlbumData.xml"_s));
     EXPECT_EQ(items(), list({"Holiday/own.jpg < b.jpg"}));
 
     for (const char *name : {"Cards/front.png", "back.JPEG", "notes.txt", "x.jpg/y.bmp"})
-        writeFile(harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Photos/") +
-                               QString::fromUtf8(name)),
+        writeFile(harness.home(u"Documents/Caravel/Dropboxes/Photos/"_s + QString::fromUtf8(name)),
                   "dropped");
     select({});
     EXPECT_EQ(items(), list({"Cards/front.png < front.png", "back.JPEG < back.JPEG",
@@ -132,17 +127,16 @@ TEST_F(CVSyncPhotosTest, SyncsEqualCaptionsApartAndSurvivesABrokenLibrary)
 {
     for (const char *name : {"one.jpg", "two.jpg"}) {
         writeFile(harness.home(QString::fromUtf8(name)), name);
-        library.addImage(QString::fromUtf8(name), harness.home(QString::fromUtf8(name)),
-                         QStringLiteral("Same"));
+        library.addImage(QString::fromUtf8(name), harness.home(QString::fromUtf8(name)), u"Same"_s);
     }
-    library.addAlbum(QStringLiteral("Holiday"), list({"one.jpg", "two.jpg"}));
+    library.addAlbum(u"Holiday"_s, list({"one.jpg", "two.jpg"}));
     writeFile(defaultPlace, library.contents());
-    writeFile(harness.home(QStringLiteral("Documents/Caravel/Dropboxes/Photos/d.jpg")), "d");
+    writeFile(harness.home(u"Documents/Caravel/Dropboxes/Photos/d.jpg"_s), "d");
     ASSERT_TRUE(harness.run());
-    const QString photos = harness.stick(QStringLiteral("PSP/PHOTO"));
+    const QString photos = harness.stick(u"PSP/PHOTO"_s);
     EXPECT_EQ(treeOf(photos),
               list({"Holiday/", "Holiday/Same.1.jpg", "Holiday/Same.jpg", "d.jpg"}));
-    EXPECT_EQ(readFile(photos + QStringLiteral("/Holiday/Same.1.jpg")), "two.jpg");
+    EXPECT_EQ(readFile(photos + u"/Holiday/Same.1.jpg"_s), "two.jpg");
 
     const QByteArray good = library.contents();
     for (const QByteArray &bad :

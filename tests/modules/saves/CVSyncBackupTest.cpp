@@ -34,30 +34,25 @@ protected:
 
     QString root(const QString &relative = {}) const
     {
-        return harness.home(QStringLiteral("Documents/Caravel/Backup/Game Saves/") + relative);
+        return harness.home(u"Documents/Caravel/Backup/Game Saves/"_s + relative);
     }
     QString save(const QString &relative = {}) const
     {
-        return harness.stick(QStringLiteral("PSP/SAVEDATA/GAME/") + relative);
+        return harness.stick(u"PSP/SAVEDATA/GAME/"_s + relative);
     }
-    void putSave(const QByteArray &contents) const
-    {
-        writeFile(save(QStringLiteral("DATA.BIN")), contents);
-    }
+    void putSave(const QByteArray &contents) const { writeFile(save(u"DATA.BIN"_s), contents); }
     void pass(int seconds) { harness.clock.current = harness.clock.current.addSecs(seconds); }
     /// The backups of the save as "seconds since the beginning: contents".
     QStringList history() const
     {
         QStringList result;
-        for (const QString &name :
-             CVSyncBackup::availableSubIdentifiersForIdentifier(QStringLiteral("GAME")))
-            result.append(QStringLiteral("%1: %2")
-                              .arg(name.toLongLong() - begin)
-                              .arg(QString::fromUtf8(readFile(
-                                  root(QStringLiteral("GAME/%1/GAME/DATA.BIN").arg(name))))));
+        for (const QString &name : CVSyncBackup::availableSubIdentifiersForIdentifier(u"GAME"_s))
+            result.append(
+                u"%1: %2"_s.arg(name.toLongLong() - begin)
+                    .arg(QString::fromUtf8(readFile(root(u"GAME/%1/GAME/DATA.BIN"_s.arg(name))))));
         return result;
     }
-    QString identifier(int seconds) const { return QStringLiteral("GAME/%1").arg(begin + seconds); }
+    QString identifier(int seconds) const { return u"GAME/%1"_s.arg(begin + seconds); }
     CVSyncBackup::Restored restore(const QString &backup)
     {
         return CVSyncBackup::restoreBackupWithIdentifier(backup, harness.stick(), harness.clock);
@@ -80,55 +75,53 @@ TEST_F(CVSyncBackupTest, KeepsWhatChanged)
     putSave("fourth");
     EXPECT_TRUE(harness.run());
     EXPECT_EQ(history(), list({"0: first", "60: firsT", "61: third", "62: fourth"}));
-    QFile::remove(save(QStringLiteral("DATA.BIN")));
+    QFile::remove(save(u"DATA.BIN"_s));
     EXPECT_TRUE(harness.run());
     EXPECT_EQ(history().size(), 4) << "a save that is gone takes no backup along";
     EXPECT_EQ(CVSyncBackup::availableIdentifiers(), list({"GAME"}));
-    EXPECT_FALSE(QFile::exists(harness.home(QStringLiteral("Documents/Caravel/Backup/.partial"))));
+    EXPECT_FALSE(QFile::exists(harness.home(u"Documents/Caravel/Backup/.partial"_s)));
 }
 
 TEST_F(CVSyncBackupTest, ShowsNoCopyThatIsNotWhole)
 {
-    ASSERT_EQ(::mkfifo(save(QStringLiteral("pipe")).toUtf8().constData(), 0600), 0);
-    writeFile(harness.home(QStringLiteral("Documents/Caravel/Backup/.partial/GAME/half")), "half");
+    ASSERT_EQ(::mkfifo(save(u"pipe"_s).toUtf8().constData(), 0600), 0);
+    writeFile(harness.home(u"Documents/Caravel/Backup/.partial/GAME/half"_s), "half");
     EXPECT_TRUE(harness.run());
     EXPECT_FALSE(harness.delegate.errors.empty());
     EXPECT_TRUE(history().isEmpty());
-    QFile::remove(save(QStringLiteral("pipe")));
-    ASSERT_TRUE(QFile::link(QStringLiteral("nowhere"), save(QStringLiteral("dangling"))));
+    QFile::remove(save(u"pipe"_s));
+    ASSERT_TRUE(QFile::link(u"nowhere"_s, save(u"dangling"_s)));
     EXPECT_TRUE(harness.run());
-    EXPECT_EQ(QFile::symLinkTarget(root(QStringLiteral("GAME/%1/GAME/dangling").arg(begin)))
-                  .section(u'/', -1),
-              QStringLiteral("nowhere"));
+    EXPECT_EQ(QFile::symLinkTarget(root(u"GAME/%1/GAME/dangling"_s.arg(begin))).section(u'/', -1),
+              u"nowhere"_s);
     harness.delegate.errors.clear();
     pass(60);
     EXPECT_TRUE(harness.run());
-    EXPECT_EQ(treeOf(root()).filter(QStringLiteral("half")), QStringList());
+    EXPECT_EQ(treeOf(root()).filter(u"half"_s), QStringList());
     EXPECT_EQ(history(), list({"0: first"}));
 }
 
 TEST_F(CVSyncBackupTest, KeepsASaveOfTenThousandFiles)
 {
     for (int i = 0; i < 10000; ++i)
-        writeFile(save(QStringLiteral("many/%1").arg(i)), QByteArray::number(i));
+        writeFile(save(u"many/%1"_s.arg(i)), QByteArray::number(i));
     EXPECT_TRUE(harness.run());
     pass(60);
     EXPECT_TRUE(harness.run());
     ASSERT_EQ(history().size(), 1);
-    EXPECT_EQ(treeOf(root(QStringLiteral("GAME/%1/GAME").arg(begin))).size(), 10002);
+    EXPECT_EQ(treeOf(root(u"GAME/%1/GAME"_s.arg(begin))).size(), 10002);
 }
 
 TEST_F(CVSyncBackupTest, PrunesByThePreference)
 {
     for (const auto &[choice, left] : {std::pair(0, 60), {5, 60}, {3, 49}, {2, 24}, {1, 9}}) {
         for (int i = 1; i <= 60; ++i)
-            writeFile(root(QStringLiteral("OLD/%1/OLD/x").arg(1000000000 + i)), "x");
+            writeFile(root(u"OLD/%1/OLD/x"_s.arg(1000000000 + i)), "x");
         Settings::backupsToKeep.set(choice);
         EXPECT_TRUE(harness.run());
-        const QStringList kept =
-            CVSyncBackup::availableSubIdentifiersForIdentifier(QStringLiteral("OLD"));
+        const QStringList kept = CVSyncBackup::availableSubIdentifiersForIdentifier(u"OLD"_s);
         EXPECT_EQ(kept.size(), left) << choice;
-        EXPECT_EQ(kept.last(), QStringLiteral("1000000060"));
+        EXPECT_EQ(kept.last(), u"1000000060"_s);
     }
 }
 
@@ -150,18 +143,18 @@ TEST_F(CVSyncBackupTest, LosesNothingWhenItCannotRestore)
         return restored;
     };
     EXPECT_EQ(restoreWithRoomFor(4), Restored::NotKept) << "no room on the computer";
-    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "other");
+    EXPECT_EQ(readFile(save(u"DATA.BIN"_s)), "other");
     EXPECT_EQ(history(), list({"0: first"}));
 
     EXPECT_EQ(restoreWithRoomFor(5), Restored::Failed) << "no room on the stick";
     EXPECT_FALSE(QFile::exists(save()));
     EXPECT_EQ(history(), list({"0: first", "60: other"}));
     EXPECT_EQ(restore(identifier(60)), Restored::Done);
-    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "other");
+    EXPECT_EQ(readFile(save(u"DATA.BIN"_s)), "other");
 
-    QFile::remove(harness.stick(QStringLiteral("MEMSTICK.IND")));
+    QFile::remove(harness.stick(u"MEMSTICK.IND"_s));
     EXPECT_EQ(restore(identifier(0)), Restored::NoStick) << "a mount point that was left";
-    EXPECT_EQ(readFile(save(QStringLiteral("DATA.BIN"))), "other");
+    EXPECT_EQ(readFile(save(u"DATA.BIN"_s)), "other");
     EXPECT_EQ(history().size(), 2);
 }
 
@@ -177,7 +170,7 @@ TEST_F(CVSyncBackupTest, MovesBackupsToTheTrash)
     EXPECT_EQ(history().size(), 2);
     EXPECT_TRUE(CVSyncBackup::deleteBackupWithIdentifier(identifier(0)));
     EXPECT_EQ(history(), list({"60: second"}));
-    EXPECT_TRUE(CVSyncBackup::deleteBackupWithIdentifier(QStringLiteral("GAME")));
+    EXPECT_TRUE(CVSyncBackup::deleteBackupWithIdentifier(u"GAME"_s));
     EXPECT_TRUE(CVSyncBackup::availableIdentifiers().isEmpty());
-    EXPECT_FALSE(treeOf(harness.home(QStringLiteral(".local/share/Trash/files"))).isEmpty());
+    EXPECT_FALSE(treeOf(harness.home(u".local/share/Trash/files"_s)).isEmpty());
 }
