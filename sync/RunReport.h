@@ -20,6 +20,6 @@ struct RunReport
     unsigned replaced = 0;
     unsigned removed = 0; ///< files; emptied folders don't count
     quint64 copiedBytes = 0;
-    std::vector<LeftOut> leftOut; ///< what exists on the computer and isn't on the stick
+    std::vector<LeftOut> leftOut; ///< of what was wanted; what a cancel left out isn't among it
     bool isComplete = false;      ///< the run was not cancelled
 };

@@ -67,10 +67,17 @@ public:
         return isListed(path) ? FileStatus() : files().linkStatus(path);
     }
 
-    /// The first folder on the way to the path that is a link; empty: none.
-    QString linkOnTheWayTo(const QString &path)
+    /// The folder, or the first one on the way to it, that is a link; empty: none.
+    QString linkAtOrAbove(const QString &folder)
     {
-        return linkAtOrAbove(PathComponents::folderOf(path));
+        if (!StickFiles::isOnVolume(folder, m_volume) || folder.size() == m_volume.size())
+            return {};
+        if (const auto known = m_links.constFind(folder); known != m_links.cend())
+            return *known;
+        const bool isLink = statusOf(folder).kind == FileStatus::Kind::Link;
+        const QString link = isLink ? folder : linkAtOrAbove(PathComponents::folderOf(folder));
+        m_links.insert(folder, link);
+        return link;
     }
 
 private:
@@ -88,18 +95,6 @@ private:
                 return true;
         }
         return false;
-    }
-
-    QString linkAtOrAbove(const QString &folder)
-    {
-        if (!StickFiles::isOnVolume(folder, m_volume) || folder.size() == m_volume.size())
-            return {};
-        if (const auto known = m_links.constFind(folder); known != m_links.cend())
-            return *known;
-        const bool isLink = statusOf(folder).kind == FileStatus::Kind::Link;
-        const QString link = isLink ? folder : linkAtOrAbove(PathComponents::folderOf(folder));
-        m_links.insert(folder, link);
-        return link;
     }
 
     const std::vector<StickFolder> &m_folders;
@@ -170,7 +165,7 @@ std::vector<StickFolder> SyncPlanner::listFolders(const CVSyncModule &module)
         StickFolder folder{wanted.path, wanted.ownOnly, {}, {}};
         // Nothing behind a link is looked at, and only the stick is cleaned up.
         if (StickFiles::isOnVolume(folder.path, m_volume)) {
-            folder.link = unlisted.linkOnTheWayTo(folder.path + QStringLiteral("/x"));
+            folder.link = unlisted.linkAtOrAbove(folder.path);
             if (folder.link.isEmpty())
                 folder.entries = files().subpathsWithSizes(folder.path);
             folders.push_back(std::move(folder));
@@ -193,7 +188,7 @@ std::vector<MeasuredItem> SyncPlanner::measureItems(CVSyncModule &module,
         if (m_shouldStop())
             break;
         MeasuredItem &last = items.emplace_back(measured(std::move(item)));
-        last.link = listing.linkOnTheWayTo(last.item.destination);
+        last.link = listing.linkAtOrAbove(PathComponents::folderOf(last.item.destination));
         if (!last.exists || !last.link.isEmpty())
             continue;
         last.destination = listing.statusOf(last.item.destination);
