@@ -13,8 +13,8 @@ Builds the tests and runs those that are named, or all:
   load    syncs 100,000 tracks (10,000 selected), 20,000 photos and 10,000 movies while front-ends ask
           500 times a second (CARAVEL_LOAD per cent of it; 100), then days of mounting and unmounting.
           A minute, and 400 MB in memory
-  model   holds what the sync places against a second working out of it, over random homes and sticks
-          (CARAVEL_MODEL_ROUNDS homes of each kind of media; 20,000). An hour
+  model   holds the plan and the sync against a second working out of it, over random homes and sticks
+          (CARAVEL_MODEL_ROUNDS homes; 200,000). Five minutes
 EOF
 }
 
@@ -29,8 +29,8 @@ run_load() {
 }
 
 run_model() {
-    CARAVEL_MODEL_ROUNDS=${CARAVEL_MODEL_ROUNDS:-20000} \
-        build/debug/tests/modules/modules_tests --gtest_filter='Model.*'
+    CARAVEL_MODEL_ROUNDS=${CARAVEL_MODEL_ROUNDS:-200000} \
+        build/debug/tests/sync/sync_tests --gtest_filter='PlanModel.*'
 }
 
 for kind; do

@@ -1,7 +1,5 @@
 #include "modules/contacts/CVSyncContacts.h"
 
-#include "modules/contacts/own/ContactsPage.h"
-#include "platform/people/ContactPicture.h"
 #include "support/SyncHarness.h"
 #include "util/QMMD5Hasher.h"
 
@@ -13,11 +11,6 @@
 
 namespace {
 
-QByteArray golden(const char *name)
-{
-    return readFile(QStringLiteral(CARAVEL_GOLDEN_FOLDER "/") + QString::fromUtf8(name));
-}
-
 class FixedAddressBook : public AddressBook
 {
 public:
@@ -25,13 +18,11 @@ public:
     std::vector<Person> everybody;
 };
 
-std::optional<QString> text(const char *value)
-{
-    return *value ? std::optional(QString::fromUtf8(value)) : std::nullopt;
-}
-
 Person person(const char *uid, const char *first, const char *last, const char *organization = "")
 {
+    const auto text = [](const char *value) {
+        return *value ? std::optional(QString::fromUtf8(value)) : std::nullopt;
+    };
     Person person;
     person.uid = QString::fromUtf8(uid);
     person.firstName = text(first);
@@ -40,40 +31,29 @@ Person person(const char *uid, const char *first, const char *last, const char *
     return person;
 }
 
-Labelled<QString> entry(ContactLabel label, const char *value)
-{
-    return {label, QString::fromUtf8(value)};
-}
-
 QByteArray pngOf(Qt::GlobalColor color)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
+    QBuffer buffer;
     QImage image(20, 30, QImage::Format_RGB32);
     image.fill(color);
     image.save(&buffer, "PNG");
-    return bytes;
+    return buffer.data();
 }
 
 Person withEverything()
 {
     using enum ContactLabel;
     Person all = person("everything", "Zoë", "%@");
-    all.phones = {entry(Other, "0"), entry(Work, "1"),    entry(Home, "2"),    entry(Mobile, "3"),
-                  entry(Main, "4"),  entry(HomeFax, "5"), entry(WorkFax, "6"), entry(Pager, "7")};
-    all.emails = {entry(Home, "z@example.org")};
-    all.instantMessaging = {{{entry(Work, "aim name")},
-                             {entry(Other, "1")},
-                             {entry(Home, "j")},
-                             {entry(Home, "m")},
-                             {entry(Work, "y1"), entry(Home, "y2")}}};
-    const auto town = [](const char *name) {
-        return QString::fromUtf8(name);
-    };
-    all.addresses = {
-        {Home, {town("1 High St"), town("Town"), town("Shire"), town("AB1"), town("UK")}},
-        {Work, {{}, town("Only town"), {}, {}, {}}}};
+    all.phones = {{Other, u"0"_s}, {Work, u"1"_s},    {Home, u"2"_s},    {Mobile, u"3"_s},
+                  {Main, u"4"_s},  {HomeFax, u"5"_s}, {WorkFax, u"6"_s}, {Pager, u"7"_s}};
+    all.emails = {{Home, u"z@example.org"_s}};
+    all.instantMessaging = {{{{Work, u"aim name"_s}},
+                             {{Other, u"1"_s}},
+                             {{Home, u"j"_s}},
+                             {{Home, u"m"_s}},
+                             {{Work, u"y1"_s}, {Home, u"y2"_s}}}};
+    all.addresses = {{Home, {u"1 High St"_s, u"Town"_s, u"Shire"_s, u"AB1"_s, u"UK"_s}},
+                     {Work, {{}, u"Only town"_s, {}, {}, {}}}};
     all.note = u"one\ntwo\r\nthree"_s;
     all.image.bytes = pngOf(Qt::red);
     return all;
@@ -82,34 +62,30 @@ Person withEverything()
 class CVSyncContactsTest : public testing::Test
 {
 protected:
-    SyncHarness harness{{CVSyncContacts::kind()}};
+    SyncHarness harness;
     FixedAddressBook book;
     const QString support = harness.home(u"Library/Application Support/Caravel/"_s);
     const QString picture = QMMD5Hasher::hashFromString(u"everything"_s) + u".JPG"_s;
 
-    CVSyncContactsTest()
+    void SetUp() override
     {
         AddressBook::setSharedAddressBook(&book);
         QDir().mkpath(support);
-        harness.mountStick();
     }
-    ~CVSyncContactsTest() override { AddressBook::setSharedAddressBook(nullptr); }
+    void TearDown() override { AddressBook::setSharedAddressBook(nullptr); }
 
-    QByteArray placed(const QString &name) const
-    {
-        return readFile(harness.stick(u"Caravel/Contacts/"_s + name));
-    }
-    std::vector<CVSyncItem> items() { return CVSyncContacts(harness.stick()).itemsToSync(); }
+    std::string wishes() const { return SyncHarness::wishes(CVSyncContacts(harness.stick())); }
+    QColor shown() const { return QImage::fromData(readFile(support + picture)).pixel(32, 32); }
 };
 
 } // namespace
 
-TEST_F(CVSyncContactsTest, PlacesThePageAndThePictures)
+TEST_F(CVSyncContactsTest, StagesThePageAndThePictures)
 {
     Person company = person("company", "", "", "Acme & <b>Sons</b>");
-    company.phones = {entry(ContactLabel::Work, "1")};
+    company.phones = {{ContactLabel::Work, u"1"_s}};
     Person second = person("anna-2", "Anna", "A", "Zoo");
-    second.phones = {entry(ContactLabel::Other, "4"), entry(ContactLabel::Other, "5")};
+    second.phones = {{ContactLabel::Other, u"4"_s}, {ContactLabel::Other, u"5"_s}};
     second.primaryPhone = 1;
     book.everybody = {withEverything(),
                       second,
@@ -118,63 +94,55 @@ TEST_F(CVSyncContactsTest, PlacesThePageAndThePictures)
                       person("null", "(null)", "(null)", "Null Ltd"),
                       company,
                       person("last-only", "", "Solo")};
-    writeFile(harness.stick(u"Caravel/Contacts/gone.JPG"_s), "gone");
-    ASSERT_TRUE(harness.run());
-    EXPECT_EQ(placed(u"index.html"_s).toStdString(), golden("contacts.html").toStdString());
-    EXPECT_EQ(treeOf(harness.stick(u"Caravel/Contacts"_s)),
-              QStringList({picture, u"index.html"_s}));
-    EXPECT_GT(qRed(QImage::fromData(placed(picture), "JPG").pixel(32, 32)), 200);
-    EXPECT_EQ(harness.delegate.count(u"syncWillProcessItem Syncing Contact Icons..."_s), 1);
-    EXPECT_EQ(harness.delegate.count(u"syncWillProcessItem Syncing Contact Index..."_s), 1);
-
+    const std::string index = "index.html < contacts_index.html";
+    EXPECT_EQ(wishes(), (picture + u" < "_s + picture).toStdString() + '\n' + index);
+    const auto expectPage = [this](const char *golden) {
+        EXPECT_EQ(readFile(support + u"contacts_index.html"_s).toStdString(),
+                  readFile(QStringLiteral(CARAVEL_GOLDEN_FOLDER "/") + QLatin1String(golden))
+                      .toStdString());
+    };
+    expectPage("contacts.html");
+    EXPECT_GT(shown().red(), 200);
+    const auto items = CVSyncContacts(harness.stick()).itemsToSync();
+    EXPECT_EQ(items[0].description, u"Syncing Contact Icons..."_s);
+    EXPECT_EQ(items[1].destination, harness.stick(u"Caravel/Contacts/index.html"_s));
+    EXPECT_EQ(items[1].description, u"Syncing Contact Index..."_s);
     book.everybody.clear();
-    ASSERT_TRUE(harness.run());
-    EXPECT_EQ(placed(u"index.html"_s).toStdString(), golden("contacts-none.html").toStdString());
-    EXPECT_TRUE(placed(picture).isEmpty());
+    EXPECT_EQ(wishes(), index);
+    expectPage("contacts-none.html");
 }
 
 TEST_F(CVSyncContactsTest, RendersAPictureOnlyWhenItHasChanged)
 {
     book.everybody = {withEverything()};
-    items();
+    wishes();
     const QByteArray red = readFile(support + picture);
-    ASSERT_FALSE(red.isEmpty());
-
     // A picture that was rendered again would lose what is changed in its middle here.
     QByteArray touched = red;
     touched[touched.size() / 2] ^= 1;
     writeFile(support + picture, touched);
-    items();
+    wishes();
     EXPECT_EQ(readFile(support + picture), touched);
-
     writeFile(support + picture, red.chopped(10));
-    items();
+    wishes();
     EXPECT_EQ(readFile(support + picture), red) << "a cut-off one is made again";
-
     book.everybody[0].image = {{}, harness.home(u"blue.png"_s)};
     writeFile(book.everybody[0].image.file, pngOf(Qt::blue));
-    EXPECT_EQ(items().size(), 2U);
-    EXPECT_GT(qBlue(QImage::fromData(readFile(support + picture)).pixel(32, 32)), 200);
-}
+    wishes();
+    EXPECT_GT(shown().blue(), 200);
 
-TEST_F(CVSyncContactsTest, SaysWhichPictureItCannotShowOrWrite)
-{
-    book.everybody = {withEverything(), person("gone", "Gone", "Picture")};
-    book.everybody[0].image.bytes = "no image";
+    book.everybody.push_back(person("gone", "Gone", "Picture"));
+    book.everybody[0].image = {"no image", {}};
     book.everybody[1].image.file = harness.home(u"missing.png"_s);
-    {
-        const SystemLogCapture log;
-        EXPECT_EQ(items().size(), 2U);
-        EXPECT_TRUE(log.contains(u"Zoë %@"_s));
-        EXPECT_TRUE(log.contains(u"missing.png"_s));
-        EXPECT_EQ(QImage::fromData(readFile(support + picture)).size(), QSize(64, 64));
-    }
+    const SystemLogCapture log;
+    wishes();
+    EXPECT_EQ(QImage::fromData(readFile(support + picture)).size(), QSize(64, 64));
     for (const QString &name : {picture, u"contacts_index.html"_s}) {
-        QDir().remove(support + name);
+        QFile::remove(support + name);
         writeFile(support + name + u"/in the way"_s, {});
     }
-    const SystemLogCapture log;
-    EXPECT_EQ(items().size(), 2U);
-    EXPECT_TRUE(log.contains(support + picture));
-    EXPECT_TRUE(log.contains(u"contacts_index.html"_s));
+    wishes();
+    for (const QString &said :
+         {u"Zoë %@"_s, u"missing.png"_s, support + picture, support + u"contacts_index.html"_s})
+        EXPECT_TRUE(log.contains(said)) << qPrintable(said);
 }
