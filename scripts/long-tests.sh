@@ -14,7 +14,7 @@ Builds the tests and runs those that are named, or all:
           500 times a second (CARAVEL_LOAD per cent of it; 100), then days of mounting and unmounting.
           A minute, and 400 MB in memory
   model   holds the plan and the sync against a second working out of it, over random homes and sticks
-          (CARAVEL_MODEL_ROUNDS homes; 200,000). Five minutes
+          (CARAVEL_MODEL_ROUNDS homes; 20,000). Three minutes
 EOF
 }
 
@@ -29,7 +29,7 @@ run_load() {
 }
 
 run_model() {
-    CARAVEL_MODEL_ROUNDS=${CARAVEL_MODEL_ROUNDS:-200000} \
+    CARAVEL_MODEL_ROUNDS=${CARAVEL_MODEL_ROUNDS:-20000} \
         build/debug/tests/sync/sync_tests --gtest_filter='PlanModel.*'
 }
 

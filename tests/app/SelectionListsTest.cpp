@@ -1,196 +1,154 @@
 #include "app/SelectionLists.h"
-#include "app/Catalogue.h"
 
+#include "app/Catalogue.h"
 #include "support/MusicLibraryFile.h"
 #include "support/PSFFile.h"
 #include "support/PhotoLibraryFile.h"
 #include "support/SyncHarness.h"
 
-#include <QFile>
+#include <QDir>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// "identifier icon order size", the name in parentheses where it is another.
-std::string described(const QVariantList &rows)
+class SelectionListsTest : public testing::Test
 {
-    QStringList lines;
-    for (const QVariant &item : rows) {
-        const QVariantMap row = item.toMap();
-        QString line = row.value(QStringLiteral("identifier")).toString();
-        if (row.value(QStringLiteral("name")).toString() != line)
-            line += QStringLiteral(" (%1)").arg(row.value(QStringLiteral("name")).toString());
-        for (const char *key : {"icon", "order", "size"})
-            line += u' ' + row.value(QString::fromLatin1(key)).toString();
-        if (row.value(QStringLiteral("enabled")).toBool())
-            line += QStringLiteral(" enabled");
-        EXPECT_EQ(row.size(), row.contains(QStringLiteral("enabled")) ? 6 : 5);
-        lines.append(line);
+protected:
+    SyncHarness harness;
+    const ModuleCatalogue kinds = catalogue(harness.clock);
+    const SelectionLists lists{kinds, harness.manager, harness.clock};
+
+    void SetUp() override { harness.mountStick(); }
+
+    /// The values of each row.
+    static std::string shown(const QVariantList &rows, const char *keys)
+    {
+        QStringList lines;
+        for (const QVariant &row : rows) {
+            QStringList values;
+            for (const QString &key : list(keys))
+                values.append(row.toMap().value(key).toString());
+            lines.append(values.join(u'|'));
+        }
+        return joined(lines);
     }
-    return lines.join(QStringLiteral(", ")).toStdString();
-}
+    std::string items(const char *kind) const
+    {
+        return shown(lists.items(QLatin1String(kind)), "identifier name icon order size enabled");
+    }
+};
 
 } // namespace
 
-TEST(MusicItems, OffersPlaylistsByKindAndMarksTheSelection)
+TEST_F(SelectionListsTest, OfferTheLibrariesByKindAndMarkTheSelection)
 {
-    using Library = MusicLibraryFile;
-    SyncHarness harness;
-    harness.mountStick();
-    const ModuleCatalogue kinds = catalogue(harness.clock);
-    const SelectionLists lists(kinds, harness.manager, harness.clock);
-    EXPECT_TRUE(lists.musicItems().isEmpty()) << "no library";
+    for (const char *kind : {"Music", "Photos", "Bookmarks", "Backup"})
+        EXPECT_EQ(items(kind), "") << "no library";
+    MusicLibraryFile music;
+    music.addPlaylist(u"Library"_s, {1, 2, 3}, MusicLibraryFile::flag("Master"));
+    for (const char *hidden : {"Party Shuffle", "Purchased Music", "Videos"})
+        music.addPlaylist(QLatin1String(hidden), {1}, MusicLibraryFile::flag(hidden));
+    music.addPlaylist(u"Talk"_s, {}, MusicLibraryFile::flag("Podcasts"));
+    music.addPlaylist(u"Smart"_s, {1, 99}, "<key>Smart Info</key><data>AAAA</data>");
+    music.addPlaylist(u"AC/DC: Live?"_s, {1});
+    music.addRawPlaylist("<key>Playlist Items</key><array/>");
+    writeFile(harness.home(u"Music/iTunes/iTunes Music Library.xml"_s), music.contents());
+    lists.setSelected(u"Music"_s, {u"Smart"_s, u"AC/DC: Live?"_s, u"Videos"_s});
+    EXPECT_EQ(items("Music"), "Library|Library|iTunesLibrary|0|3|\nTalk|Talk|iTunesPodcasts|1|0|\n"
+                              "Smart|Smart|iTunesSmartPlaylist|2|2|true\n"
+                              "AC/DC: Live?|AC/DC: Live?|iTunesPlaylist|3|1|true");
+    EXPECT_TRUE(QDir(harness.home(u"Documents/Caravel/Dropboxes/Music"_s)).exists());
 
-    Library library;
-    library.addPlaylist(QStringLiteral("Library"), {1, 2, 3}, Library::flag("Master"));
-    library.addPlaylist(QStringLiteral("Party"), {1}, Library::flag("Party Shuffle"));
-    library.addPlaylist(QStringLiteral("Bought"), {1}, Library::flag("Purchased Music"));
-    library.addPlaylist(QStringLiteral("Films"), {1}, Library::flag("Videos"));
-    library.addPlaylist(QStringLiteral("Talk"), {}, Library::flag("Podcasts"));
-    library.addPlaylist(QStringLiteral("Smart"), {1, 99}, "<key>Smart Info</key><data>AAAA</data>");
-    library.addPlaylist(QStringLiteral("AC/DC: Live?"), {1});
-    library.addRawPlaylist("<key>Playlist Items</key><array/>");
-    writeFile(harness.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
-              library.contents());
-    lists.setSelected(
-        QStringLiteral("Music"),
-        {QStringLiteral("Smart"), QStringLiteral("AC/DC: Live?"), QStringLiteral("Films")});
-
-    EXPECT_EQ(described(lists.musicItems()),
-              "Library iTunesLibrary 0 3, Talk iTunesPodcasts 1 0, "
-              "Smart iTunesSmartPlaylist 2 2 enabled, AC/DC: Live? iTunesPlaylist 3 1 enabled");
-    EXPECT_TRUE(treeOf(harness.home(QStringLiteral("Documents")))
-                    .contains(QStringLiteral("Caravel/Dropboxes/Music/")));
-}
-
-TEST(PhotosItems, OffersAlbumsByKind)
-{
-    SyncHarness harness;
-    const ModuleCatalogue kinds = catalogue(harness.clock);
-    const SelectionLists lists(kinds, harness.manager, harness.clock);
-    EXPECT_TRUE(lists.photosItems().isEmpty());
-    PhotoLibraryFile library;
-    const auto type = [](const char *name) {
-        return QVariantMap{{QStringLiteral("Album Type"), QString::fromLatin1(name)}};
-    };
-    library.addAlbum(QStringLiteral("All"), {QStringLiteral("1"), QStringLiteral("2")},
-                     {{QStringLiteral("Master"), true}});
-    for (const char *name :
+    PhotoLibraryFile photos;
+    photos.addAlbum(u"All"_s, list("1 2"), {{u"Master"_s, true}});
+    for (const char *type :
          {"Special Roll", "Special Month", "Smart", "Regular", "Book", "Slideshow", "Calendar"})
-        library.addAlbum(QString::fromLatin1(name), {}, type(name));
-    library.addAlbum(QStringLiteral("Plain"), {QStringLiteral("1")});
-    writeFile(harness.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml")),
-              library.contents());
-    lists.setSelected(QStringLiteral("Photos"), {QStringLiteral("Plain")});
-    EXPECT_EQ(described(lists.photosItems()),
-              "All iPhotoLibrary 0 2, Special Roll iPhotoRoll 1 0, Special Month iPhotoMonth 2 0, "
-              "Smart iPhotoSmartAlbum 3 0, Regular iPhotoAlbum 4 0, Book iPhotoBook 5 0, "
-              "Slideshow iPhotoSlideshow 6 0, Calendar iPhotoAlbum 7 0, "
-              "Plain iPhotoAlbum 7 1 enabled");
+        photos.addAlbum(QString(QLatin1Char(*type)), {}, {{u"Album Type"_s, QLatin1String(type)}});
+    photos.addAlbum(u"Plain"_s, list("1"));
+    writeFile(harness.home(u"Pictures/iPhoto Library/AlbumData.xml"_s), photos.contents());
+    lists.setSelected(u"Photos"_s, {u"Plain"_s});
+    EXPECT_EQ(items("Photos"), "All|All|iPhotoLibrary|0|2|\nS|S|iPhotoRoll|1|0|\n"
+                               "S|S|iPhotoMonth|2|0|\nS|S|iPhotoSmartAlbum|3|0|\n"
+                               "R|R|iPhotoAlbum|4|0|\nB|B|iPhotoBook|5|0|\n"
+                               "S|S|iPhotoSlideshow|6|0|\nC|C|iPhotoAlbum|7|0|\n"
+                               "Plain|Plain|iPhotoAlbum|7|1|true");
+
+    QVariantList folders;
+    for (const char *title : {"BookmarksBar", "BookmarksMenu", "News"})
+        folders.append(QVariantMap{{u"WebBookmarkType"_s, u"WebBookmarkTypeList"_s},
+                                   {u"Title"_s, QLatin1String(title)},
+                                   {u"Children"_s, QVariantList{QVariantMap()}}});
+    writeFile(harness.home(u"Library/Safari/Bookmarks.plist"_s),
+              PropertyList::toXml(QVariantMap{{u"Children"_s, folders}}));
+    lists.setSelected(u"Bookmarks"_s, {u"BookmarksMenu"_s});
+    EXPECT_EQ(items("Bookmarks"), "BookmarksBar|Bookmarks Bar|BookmarksBar|0|1|\n"
+                                  "BookmarksMenu|Bookmarks Menu|BookmarksMenu|1|1|true\n"
+                                  "News|News|Folder16|2|1|");
 }
 
-TEST(BookmarksItems, OffersTopLevelFolders)
+TEST_F(SelectionListsTest, TellWhatTheGamesSay)
 {
-    SyncHarness harness;
-    const ModuleCatalogue kinds = catalogue(harness.clock);
-    const SelectionLists lists(kinds, harness.manager, harness.clock);
-    EXPECT_TRUE(lists.bookmarksItems().isEmpty());
-    const auto folder = [](const char *title, int size) {
-        return QByteArray("<dict><key>WebBookmarkType</key><string>WebBookmarkTypeList</string>"
-                          "<key>Title</key><string>") +
-               title + "</string><key>Children</key><array>" +
-               QByteArray("<dict/>").repeated(size) + "</array></dict>";
-    };
-    writeFile(harness.home(QStringLiteral("Library/Safari/Bookmarks.plist")),
-              "<plist><dict><key>Children</key><array>" + folder("BookmarksBar", 2) +
-                  folder("BookmarksMenu", 0) + folder("News", 1) + "</array></dict></plist>");
-    lists.setSelected(QStringLiteral("Bookmarks"), {QStringLiteral("BookmarksMenu")});
-    EXPECT_EQ(described(lists.bookmarksItems()),
-              "BookmarksBar (Bookmarks Bar) BookmarksBar 0 2, "
-              "BookmarksMenu (Bookmarks Menu) BookmarksMenu 1 0 enabled, News Folder16 2 1");
-}
-
-TEST(BackupItems, TellWhatTheGameSays)
-{
-    SyncHarness harness;
-    const ModuleCatalogue kinds = catalogue(harness.clock);
-    const SelectionLists lists(kinds, harness.manager, harness.clock);
-    EXPECT_TRUE(lists.backupItems().isEmpty());
-    const QString root = harness.home(QStringLiteral("Documents/Caravel/Backup/Game Saves/"));
+    const QString root = harness.home(u"Documents/Caravel/Backup/Game Saves/"_s);
     const qint64 now = harness.clock.current.toSecsSinceEpoch();
-    const auto put = [&](const char *save, qint64 ago, std::optional<QList<QByteArray>> texts) {
-        const QString name = QString::fromLatin1(save);
-        const QString folder = root + QStringLiteral("%1/%2/%1").arg(name).arg(now - ago);
+    const struct
+    {
+        const char *save;
+        qint64 ago;
+        const char *texts;
+    } backups[] = {{"A", 86400, "Game Slot Detail"},
+                   {"A", 60, "Game"},
+                   {"A", 120, "Game Slot"},
+                   {"B", 60, nullptr},
+                   {"C", 172800, "Other Slot2 Night3"}};
+    for (const auto &backup : backups) {
         PSFFile parameters;
-        for (int i = 0; texts && i < 3; ++i) {
-            const char *const keys[] = {"TITLE", "SAVEDATA_TITLE", "SAVEDATA_DETAIL"};
-            parameters.add(keys[i], 2, texts->at(i) + '\0');
-        }
-        writeFile(folder + QStringLiteral("/PARAM.SFO"),
-                  texts ? parameters.contents() : QByteArray("garbage"));
-    };
-    put("A", 86400, {{"Game", "Slot", "Detail"}});
-    put("A", 60, {{"Game", "", ""}});
-    put("A", 120, {{"Game", "Slot", ""}});
-    put("B", 60, std::nullopt);
-    put("C", 2 * 86400, {{"Other", "Slot 2", "Night 3"}});
-    for (const char *stray : {".DS_Store", "A/.DS_Store", "Empty/x"})
-        writeFile(root + QString::fromLatin1(stray), {});
-    QFile::remove(root + QStringLiteral("Empty/x"));
-
-    const auto texts = [](const QVariantList &rows, std::initializer_list<const char *> keys) {
-        QStringList lines;
-        for (const QVariant &row : rows) {
-            QStringList parts;
-            for (const char *key : keys)
-                parts.append(row.toMap().value(QString::fromLatin1(key)).toString());
-            lines.append(parts.join(u'|'));
-        }
-        return lines.join(u'\n').toStdString();
-    };
-    EXPECT_EQ(texts(lists.backupItems(), {"identifier", "name", "description", "date"}),
-              "A|Game|No description available|Today 03:08 PM\n"
-              "B|B|Unknown game save|Today 03:08 PM\n"
-              "C|Other|Slot 2|12-Mar-26 03:09 PM");
-    EXPECT_EQ(texts(lists.backupItems(), {"icon"}).substr(0, 400),
-              (root + QStringLiteral("A/%1/A/ICON0.PNG\n").arg(now - 60) + root +
-               QStringLiteral("B/%1/B/ICON0.PNG\n").arg(now - 60) + root +
-               QStringLiteral("C/%1/C/ICON0.PNG").arg(now - 2 * 86400))
+        const char *const keys[] = {"TITLE", "SAVEDATA_TITLE", "SAVEDATA_DETAIL"};
+        for (int i = 0; backup.texts && i < 3; ++i)
+            parameters.add(keys[i], 2, list(backup.texts).value(i).toUtf8() + '\0');
+        writeFile(root +
+                      u"%1/%2/%1/PARAM.SFO"_s.arg(QLatin1String(backup.save)).arg(now - backup.ago),
+                  backup.texts ? parameters.contents() : QByteArray("garbage"));
+    }
+    for (const char *stray : {".DS_Store", "A/.DS_Store"})
+        writeFile(root + QLatin1String(stray), {});
+    QDir().mkpath(root + u"Empty"_s);
+    EXPECT_EQ(shown(lists.backupItems(), "identifier name icon description date"),
+              u"A|Game|%1A/%2/A/ICON0.PNG|No description available|Today 03:08 PM\n"
+              "B|B|%1B/%2/B/ICON0.PNG|Unknown game save|Today 03:08 PM\n"
+              "C|Other|%1C/%3/C/ICON0.PNG|Slot2|12-Mar-26 03:09 PM"_s.arg(root)
+                  .arg(now - 60)
+                  .arg(now - 172800)
                   .toStdString());
-    EXPECT_EQ(texts(lists.backupSubItemsForIdentifier(QStringLiteral("A")),
-                    {"icon", "description", "date"}),
-              "Backup|Detail|Yesterday 03:09 PM\nBackup|Slot|Today 03:07 PM\n"
-              "Backup|Game|Today 03:08 PM");
-    EXPECT_EQ(lists.backupSubItemsForIdentifier(QStringLiteral("A"))[0],
-              QVariant(QVariantMap{
-                  {QStringLiteral("identifier"), QStringLiteral("A/%1").arg(now - 86400)},
-                  {QStringLiteral("icon"), QStringLiteral("Backup")},
-                  {QStringLiteral("description"), QStringLiteral("Detail")},
-                  {QStringLiteral("date"), QStringLiteral("Yesterday 03:09 PM")},
-                  {QStringLiteral("timestamp"), double(now - 86400)}}));
+    const QVariantList rows = lists.backupSubItemsForIdentifier(u"A"_s);
+    EXPECT_EQ(shown(rows, "icon description date"), "Backup|Detail|Yesterday 03:09 PM\n"
+                                                    "Backup|Slot|Today 03:07 PM\n"
+                                                    "Backup|Game|Today 03:08 PM");
+    EXPECT_EQ(rows[0].toMap()[u"identifier"_s], u"A/%1"_s.arg(now - 86400));
+    EXPECT_EQ(rows[0].toMap()[u"timestamp"_s], double(now - 86400));
     for (const char *bad : {"", "..", "/", "A/..", "../Game Saves/A"})
-        EXPECT_TRUE(lists.backupSubItemsForIdentifier(QString::fromLatin1(bad)).isEmpty()) << bad;
+        EXPECT_TRUE(lists.backupSubItemsForIdentifier(QLatin1String(bad)).isEmpty()) << bad;
 }
 
-TEST(Selections, RefuseIdentifiersThatNameOtherPlaces)
+TEST_F(SelectionListsTest, RefuseIdentifiersThatNameOtherPlaces)
 {
-    SyncHarness harness;
-    const ModuleCatalogue kinds = catalogue(harness.clock);
-    const SelectionLists lists(kinds, harness.manager, harness.clock);
-    for (const char *name : {"Music", "Photos", "Bookmarks", "Movies", "Backup"}) {
-        const QString saveName = QString::fromLatin1(name);
-        const QString key = QStringLiteral("enabled") + saveName;
-        const QStringList good{QStringLiteral("AC/DC"), QStringLiteral("Trip. ..")};
-        lists.setSelected(saveName, good);
+    for (const QString &kind : list("Music Photos Bookmarks Movies Backup")) {
+        const QString key = u"enabled"_s + kind;
+        const QStringList good{u"AC/DC"_s, u"Trip. .."_s};
+        lists.setSelected(kind, good);
         EXPECT_EQ(harness.defaults.stringArrayForKey(key), good);
         const SystemLogCapture log;
         for (const char *bad : {"", ".", "..", "a/../b", "a//b", "a/", "../x"}) {
-            lists.setSelected(saveName, {QStringLiteral("other"), QString::fromLatin1(bad)});
-            EXPECT_EQ(harness.defaults.stringArrayForKey(key), good) << name << ' ' << bad;
+            lists.setSelected(kind, {u"other"_s, QLatin1String(bad)});
+            EXPECT_EQ(harness.defaults.stringArrayForKey(key), good) << bad;
         }
-        lists.setSelected(saveName, {QStringLiteral("/etc/passwd")});
-        EXPECT_EQ(harness.defaults.stringArrayForKey(key) == good, saveName != u"Movies") << name;
-        EXPECT_TRUE(log.contains(QStringLiteral("\"a/../b\""))) << name;
+        EXPECT_TRUE(log.contains(u"\"a/../b\""_s));
+        lists.setSelected(kind, {u"/etc/passwd"_s});
+        EXPECT_EQ(harness.defaults.stringArrayForKey(key) == good, kind != u"Movies");
+        lists.setSelected(kind, good);
+        EXPECT_EQ(PropertyList::readStringArray(harness.stick(u".caravel/%1.plist"_s.arg(kind)))
+                      .valueOr({}),
+                  good)
+            << "the stick's own";
     }
 }

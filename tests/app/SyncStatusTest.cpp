@@ -1,33 +1,23 @@
 #include "app/SyncStatus.h"
 
+#include "app/FrontEnd.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
-#include "support/FakeDesktop.h"
-
 #include "support/FailingFileManager.h"
+#include "support/FakeDesktop.h"
 #include "support/ListModule.h"
-#include "support/SyncHarness.h"
 #include "util/QMLogger.h"
 #include "util/Settings.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace {
 
 class SyncStatusTest : public testing::Test
 {
 protected:
-    TemporaryFolder sources;
-    ListModule::Wishes wishes{
-        [this] {
-            std::vector<CVSyncItem> items;
-            for (const QString &name : {u"one"_s, u"two"_s})
-                items.emplace_back(sources / name, harness.stick(u"PSP/MUSIC/"_s + name), name);
-            return items;
-        },
-        u"/PSP/MUSIC"_s};
     FailingFileManager files;
-    SyncHarness harness{{ListModule::kind(u"Music"_s, wishes)}};
+    ListHarness harness;
     QMLogger logger;
     FrontEnd frontEnd;
     FakeStatusBar statusBar;
@@ -40,137 +30,107 @@ protected:
         {harness.manager, logger, frontEnd, menu, icon, alerts, sounds, harness.clock, [this] {
              ++opened;
          }}};
+    const SystemLogCapture system;
 
     void SetUp() override
     {
         FileManager::setDefaultManager(&files);
+        files.freeBytes = 3ULL << 29;
         harness.manager.setDelegate(&status);
-        for (const QString &name : {u"one"_s, u"two"_s})
-            writeFile(sources / name, "contents");
+        harness.want(u"one"_s, "contents");
+        harness.want(u"two"_s, "contents");
     }
     void TearDown() override
     {
-        harness.settle();
+        SyncHarness::settle();
         FileManager::setDefaultManager(nullptr);
     }
 
-    void run()
+    /// What the log then says, without the time stamps.
+    std::string run()
     {
+        logger.clear();
+        alerts.titles.clear();
+        sounds.played.clear();
         harness.manager.sync();
-        harness.settle();
+        SyncHarness::settle();
+        QStringList lines = logger.log().split(u'\n', Qt::SkipEmptyParts);
+        for (QString &line : lines)
+            line = line.section(u" : "_s, 1).replace(harness.stick(), u"STICK"_s);
+        return joined(lines.mid(1)); // the first says that it was cleared
     }
-    /// The log's messages without their time stamps.
-    QStringList messages() const
-    {
-        QStringList result;
-        for (const QString &line : logger.log().split(u'\n', Qt::SkipEmptyParts))
-            result.append(line.mid(line.indexOf(u" : ") + 3));
-        return result;
-    }
+    std::string texts() const { return joined({status.statusText(), status.statusSubText()}); }
 };
-
-QStringList list(std::initializer_list<const char *> texts)
-{
-    QStringList result;
-    for (const char *text : texts)
-        result.append(QString::fromUtf8(text));
-    return result;
-}
 
 } // namespace
 
 TEST_F(SyncStatusTest, FollowsTheDeviceAndTheRun)
 {
-    files.freeBytes = 3ULL << 29;
     harness.mountStick();
-    EXPECT_EQ(status.statusText(), u"1.5 GB Available"_s);
-    EXPECT_EQ(status.statusSubText(), QStringLiteral("Click \"Sync Now\" to perform a sync."));
-    run();
-    EXPECT_EQ(status.statusText(), u"Sync Successful"_s);
-    EXPECT_EQ(status.statusSubText(), u"Last Sync: Today 03:09 PM"_s);
-    EXPECT_EQ(messages(), list({"Sync was completed successfully."}));
-    EXPECT_EQ(sounds.played, list({"SyncCompleted"}));
-
+    EXPECT_EQ(texts(), "1.5 GB Available\nClick \"Sync Now\" to perform a sync.");
+    EXPECT_EQ(run(), "Sync was completed successfully.");
+    EXPECT_EQ(texts(), "Sync Successful\nLast Sync: Today 03:09 PM");
+    EXPECT_EQ(sounds.played, list("SyncCompleted"));
     Settings::openOnMount.set(true);
     harness.volumes.unmount(harness.stick());
-    EXPECT_EQ(status.statusText(), u"No PSP Connected"_s);
-    EXPECT_EQ(status.statusSubText(), u"Connect a PSP to perform a sync."_s);
+    EXPECT_EQ(texts(), "No PSP Connected\nConnect a PSP to perform a sync.");
     harness.volumes.mount(harness.stick());
-    EXPECT_EQ(status.statusSubText(), u"Last Sync: Today 03:09 PM"_s);
+    EXPECT_EQ(texts(), "1.5 GB Available\nLast Sync: Today 03:09 PM");
     EXPECT_EQ(opened, 1);
     harness.volumes.canEject = false;
     harness.manager.eject();
-    EXPECT_EQ(status.statusText(), u"Eject Failed"_s);
-}
-
-TEST_F(SyncStatusTest, LogsEveryTextWhenAskedTo)
-{
-    harness.mountStick();
+    EXPECT_EQ(texts(), "Eject Failed\nThe PSP may be in use by another application.");
     Settings::useDetailedLogging.set(true);
-    const SystemLogCapture quiet;
-    run();
-    EXPECT_EQ(messages(),
-              list({"Preparing to Sync...", "One moment, Caravel is gathering information...",
-                    "Cleaning Up...", "Caravel is removing unneeded files...", "Starting Sync...",
-                    "Caravel is copying selected files...", "Syncing Test...", "one", "two",
-                    "Sync Successful", "Last Sync: Today 03:09 PM"}));
+    harness.want(u"three"_s, "contents");
+    EXPECT_EQ(run(), "Preparing to Sync...\nOne moment, Caravel is gathering information...\n"
+                     "Cleaning Up...\nCaravel is removing unneeded files...\n"
+                     "Starting Sync...\nCaravel is copying selected files...\n"
+                     "Syncing Music...\nthree\nSync Successful\nLast Sync: Today 03:09 PM");
 }
 
 TEST_F(SyncStatusTest, SaysWhyARunEnded)
 {
     harness.mountStick();
     files.freeBytes = 10;
-    run();
-    EXPECT_EQ(alerts.titles, list({"Sync too large!"}));
-    EXPECT_TRUE(alerts.message.contains(u"sync 16 b, however only 10 b of free space"_s));
-    EXPECT_EQ(messages(), list({"Not enough free space to complete sync of size: 16 b",
-                                "Sync was cancelled."}));
-    EXPECT_EQ(status.statusText(), u"Sync Cancelled"_s);
+    EXPECT_EQ(run(), "Not enough free space to complete sync of size: 16 b\nSync was cancelled.");
+    EXPECT_EQ(joined(alerts.titles), "Sync too large!");
+    EXPECT_TRUE(alerts.message.contains(u"sync 16 b, however only 10 b of free space"));
+    EXPECT_EQ(texts(), "Sync Cancelled\nYou must re-sync to ensure the PSP is up to date.");
     EXPECT_TRUE(sounds.played.isEmpty());
-    EXPECT_EQ(status.statusSubText(), u"You must re-sync to ensure the PSP is up to date."_s);
-}
-
-TEST_F(SyncStatusTest, TellsAFullStickFromOtherErrors)
-{
-    const SystemLogCapture system;
-    harness.mountStick();
+    files.freeBytes = 3ULL << 29;
     files.readOnlyBelow = harness.stick(u"PSP"_s);
-    run();
-    ASSERT_EQ(messages().size(), 3);
-    EXPECT_TRUE(
-        messages()[0].startsWith(u"Unexpected error: Couldn't create: "_s + harness.stick()));
-    EXPECT_EQ(messages()[2], u"Sync was completed successfully."_s);
+    EXPECT_EQ(run(),
+              "Unexpected error: Couldn't create: STICK/PSP/MUSIC/one (Read-only file system)\n"
+              "Unexpected error: Couldn't create: STICK/PSP/MUSIC/two (Read-only file system)\n"
+              "Sync was completed successfully.");
     EXPECT_TRUE(alerts.titles.isEmpty());
-
     files.readOnlyBelow.clear();
     files.writableBytes = 4;
     files.onFull = [this] {
         files.freeBytes = 0;
     };
-    logger.clear();
-    run();
-    EXPECT_EQ(messages().mid(1),
-              list({"Memory stick filled while syncing!", "Sync was cancelled."}));
-    EXPECT_EQ(alerts.titles, list({"Memory stick full!"})) << "once, however many files fail";
-
+    EXPECT_EQ(run(), "Memory stick filled while syncing!\nSync was cancelled.");
+    EXPECT_EQ(joined(alerts.titles), "Memory stick full!") << "once, however many files fail";
     status.syncError({{u"Error"_s, u"Couldn't remove"_s}});
     EXPECT_EQ(alerts.titles.size(), 1);
 }
 
 TEST_F(SyncStatusTest, AnswersTheManagersQuestions)
 {
-    EXPECT_TRUE(status.shouldSyncOnMount());
-    EXPECT_TRUE(status.shouldUnmountPSP());
-    Settings::useSyncProfiles.set(true);
-    EXPECT_FALSE(status.shouldSyncOnMount());
-    EXPECT_TRUE(status.shouldUnmountPSP());
-    Settings::useSyncProfiles.set(false);
-    status.setIsInteractive(true);
-    EXPECT_FALSE(status.shouldSyncOnMount());
-    EXPECT_FALSE(status.shouldUnmountPSP());
-
-    status.foundUnformattedMemoryStick();
-    Settings::warnAboutUnformattedMemorySticks.set(false);
-    status.foundUnformattedMemoryStick();
-    EXPECT_EQ(alerts.titles, list({"Unformatted memory stick found!"}));
+    const struct
+    {
+        bool profiles, interactive, syncs, unmounts;
+    } cases[] = {
+        {false, false, true, true}, {true, false, false, true}, {false, true, false, false}};
+    for (const auto &c : cases) {
+        Settings::useSyncProfiles.set(c.profiles);
+        status.setIsInteractive(c.interactive);
+        EXPECT_EQ(status.shouldSyncOnMount(), c.syncs);
+        EXPECT_EQ(status.shouldUnmountPSP(), c.unmounts);
+    }
+    for (const bool warns : {true, false}) {
+        Settings::warnAboutUnformattedMemorySticks.set(warns);
+        status.foundUnformattedMemoryStick();
+        EXPECT_EQ(joined(alerts.titles), "Unformatted memory stick found!");
+    }
 }

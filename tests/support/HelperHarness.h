@@ -11,7 +11,7 @@
 class HelperHarness : public HomeHarness
 {
 public:
-    explicit HelperHarness(const QString &place)
+    explicit HelperHarness(const QString &place = {})
         : HomeHarness(place)
         , helper(std::make_unique<CaravelHelperController>(CaravelHelperController::Services{
               volumes, notifications, clock, statusBar, alerts, sounds,

@@ -96,9 +96,9 @@ void setPlacesApart(const World &world, Kind &kind)
     for (Wish &wish : kind.wishes) {
         int &times = seen[world.key(wish.place)];
         const QString place = wish.place;
-        const qsizetype dot = place.lastIndexOf(u'.') > place.lastIndexOf(u'/') + 1
-                                  ? place.lastIndexOf(u'.')
-                                  : place.size();
+        const qsizetype last = place.lastIndexOf(u'.');
+        const bool hasExtension = last > place.lastIndexOf(u'/') + 1 && last + 1 < place.size();
+        const qsizetype dot = hasExtension ? last : place.size();
         while (times > 0) {
             wish.place = place.first(dot) + u'.' + QString::number(times) + place.mid(dot);
             if (!world.isFat || given.insert(world.key(wish.place)).second)
