@@ -70,8 +70,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static BusCalls bus;
     Menu menu;
-    for (int number = 1; number <= 4; ++number)
-        menu.addItem({QStringLiteral("_%1").arg(number), {}, number != 3});
+    for (const bool isEnabled : {true, true, false, true})
+        menu.addItem({QStringLiteral("_"),
+                      [isEnabled](const QString &) {
+                          promise(isEnabled, "what is disabled can't be chosen");
+                      },
+                      isEnabled});
     QObject::connect(&menu, &Menu::needsUpdate, &menu,
                      [&] { menu.setTitle(0, menu.itemAtIndex(0).title + u'_'); });
     const BusMenu busMenu(menu, QString::fromLatin1(menuPath));

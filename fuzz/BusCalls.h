@@ -28,7 +28,8 @@ public:
     /// GVariant's text form: any type can be written in it. Those that fit the method's types have
     /// to be answered with its type of answer, and all others refused. Lines that are none of that
     /// are passed over, but an empty one calls `rest`. ">" before a name: in the other byte order;
-    /// "!": without an answer. Answers of methods called "echo…" have to be what they were given.
+    /// "!": without an answer. Answers of methods called "echo…" have to be what they were given,
+    /// those of "take…" nothing else.
     void make(const QByteArray &lines, const std::vector<CalledMethod> &methods,
               const std::function<void()> &rest = {});
 

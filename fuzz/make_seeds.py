@@ -100,7 +100,7 @@ SERVED = {"echoBool": "(true,)", "echoInt": "(-5,)", "echoUInt": "(5,)", "echoLo
           "EventGroup": "([(0, 'opened', <%s>, 0), (9, 'x', <1>, 0)],)", "AboutToShow": "(0,)",
           "AboutToShowGroup": "([0, 1, 9],)", "GetAll": "('com.canonical.dbusmenu',)"}
 PATHS = ["", ".", "..", "/", "/etc", "Film", "M4V00001", "M4V00001/Film", "M4V00001/../../letter.txt",
-         "ULUS10041", "ULUS10041/1000", "ULUS10041/..", "../..", "../../letter.txt",
+         "ULUS10041", "ULUS10041/1000", "ULUS10041/..", "../..", "../letter.txt", "../../letter.txt",
          "../../../letter.txt", "../../../../letter.txt", "../../../../../letter.txt"]
 SENT = {"setApplication": "('/%s',)", "ejectPSP": "({'title': <%s>},)", "setIsInteractive": "(true,)",
         "setSelectedMusicIdentifiers": "([%s],)", "setSelectedPhotosIdentifiers": "([%s],)",

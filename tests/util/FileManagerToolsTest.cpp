@@ -112,15 +112,6 @@ TEST_F(CopyPath, NeverOverwritesAndReportsWhatCannotBeMadeOnce)
     EXPECT_THAT(notes.errors, ElementsAre("Couldn't create none/copy", "Couldn't read pipe"));
 }
 
-TEST_F(CopyPath, CopiesFoldersAsTrees)
-{
-    writeFile(folder / "tree/sub/x", "x");
-    EXPECT_EQ(copyPath(folder / "tree", copy, notes).ended, Ended::Complete);
-    EXPECT_EQ(treeOf(copy).join(u' '), u"sub/ sub/x");
-    EXPECT_EQ(copyPath(folder / "tree", copy, notes).ended, Ended::Refused);
-    EXPECT_THAT(notes.errors, IsEmpty());
-}
-
 TEST(FileManagerTools, MakesEveryMissingFolder)
 {
     const TemporaryFolder folder;

@@ -93,25 +93,21 @@ protected:
 TEST_F(PropertyListFile, XmlIsToldInFileOrder)
 {
     expectEach(
-        {
-
-            {"<dict><key>b</key><true/><key>a</key><false></false></dict>",
-             "{ b=B:true a=B:false } "},
-            {"<array><integer> -7\n</integer><integer>0x1F</integer><integer>+3</integer></array>",
-             "[ I:-7 I:31 I:3 ] "},
-            {"<integer>-0x8000000000000000</integer>", "I:-9223372036854775808 "},
-
-            {"<integer>18446744073709551615</integer>", "U:18446744073709551615 "},
-            {"<array><real>1.5e3</real><real>+infinity</real><real> nan </real></array>",
-             "[ R:1500 R:inf R:nan ] "},
-            {"<date>2004-02-29T23:59:59Z</date>", "T:2004-02-29T23:59:59Z "},
-            {"<data>\n\tAAEC\n\t</data>", "D:000102 "},
-            {"<string>a&amp;b&#x20AC;<![CDATA[<x>]]> c\r\nd</string>", "S:a&b\u20AC<x> c\nd "},
-            {"<string>" + QByteArray(3 << 20, 'x') + "</string>",
-             "S:" + std::string(3 << 20, 'x') + " "},
-            {"<dict><key>no</key><dict><key>a</key><array/></dict><key>a</key><dict><key>no</key>"
-             "<array/><key>b</key><true/></dict></dict>",
-             "{ a={ b=B:true } } "}},
+        {{"<dict><key>b</key><true/><key>a</key><false></false></dict>", "{ b=B:true a=B:false } "},
+         {"<array><integer> -7\n</integer><integer>0x1F</integer><integer>+3</integer></array>",
+          "[ I:-7 I:31 I:3 ] "},
+         {"<integer>-0x8000000000000000</integer>", "I:-9223372036854775808 "},
+         {"<integer>18446744073709551615</integer>", "U:18446744073709551615 "},
+         {"<array><real>1.5e3</real><real>+infinity</real><real> nan </real></array>",
+          "[ R:1500 R:inf R:nan ] "},
+         {"<date>2004-02-29T23:59:59Z</date>", "T:2004-02-29T23:59:59Z "},
+         {"<data>\n\tAAEC\n\t</data>", "D:000102 "},
+         {"<string>a&amp;b&#x20AC;<![CDATA[<x>]]> c\r\nd</string>", "S:a&b\u20AC<x> c\nd "},
+         {"<string>" + QByteArray(3 << 20, 'x') + "</string>",
+          "S:" + std::string(3 << 20, 'x') + " "},
+         {"<dict><key>no</key><dict><key>a</key><array/></dict><key>a</key><dict><key>no</key>"
+          "<array/><key>b</key><true/></dict></dict>",
+          "{ a={ b=B:true } } "}},
         document);
     expectEach(
         {{"\xEF\xBB\xBF<plist><string>x</string></plist>", "S:x "},
@@ -125,27 +121,22 @@ TEST_F(PropertyListFile, BrokenListsAreRefusedWithTheirLine)
     expectEach(
         {{"<dict>\n<key>a</key>\n</dict>", "line 4: a <key> without a value"},
          {"<dict>\n<string/></dict>", "line 3: <string> where a <key> belongs"},
-
          {"<dict><key>no</key><set/></dict>", "line 2: <set> where a value belongs"},
          {"<dict><key>no</key>" + QByteArray("<array>").repeated(600),
           "line 2: nested deeper than 512"},
          {"<string><true/></string>", "line 2: <true> inside a key or a scalar"},
-
          {"<true/>\n<true/>", "line 3: <true> after the list's one value"},
-
          {"<string>&nbsp;</string>", "line 2: undefined entity"},
          {"<integer>12a</integer>", "line 2: \"12a\" is no integer"},
          {"<integer>18446744073709551616</integer>",
           "line 2: \"18446744073709551616\" is no integer"},
          {"<integer>-9223372036854775809</integer>",
           "line 2: \"-9223372036854775809\" is no integer"},
-
          {"<date>2005-02-29T00:00:00Z</date>", "line 2: \"2005-02-29T00:00:00Z\" is no date"},
          {"<data>&lt;&gt;</data>", "line 2: \"<>\" is no base64 data"}},
         document);
     expectEach({{"", "the file is empty"},
                 {"<html/>", "line 1: <html> where <plist> belongs"},
-
                 {document("<array>").chopped(9), "line 2: unclosed token"},
                 {nested(513), "line 2: nested deeper than 512"},
                 {"<!DOCTYPE p [\n<!ENTITY % a SYSTEM \"file:///etc/passwd\">]><plist/>",
@@ -161,20 +152,16 @@ TEST_F(PropertyListFile, BinaryListsAreToldAsXmlIs)
                 {"d10102 526100 09", std::string("{ a\0=B:true } ", 14)},
                 {"d201020203 5161 526e6f", "{ a=S:no } "},
                 {"11fffe", "I:65534 "},
-
                 {"140000000000000000ffffffffffffffff", "U:18446744073709551615 "},
                 {"14fffffffffffffffffffffffffffffffe", "I:-2 "},
-
                 {"23bff8000000000000", "R:-1.5 "},
                 {"33bff8000000000000", "T:2000-12-31T23:59:59Z "},
                 {"33c22d63c37f000000", "T:0001-01-01T00:00:00Z "},
                 {"4f1003000102", "D:000102 "}, // the count behind
                 {"5f11000361006263", std::string("S:a\0b ", 6)},
                 {"6300e920acd834", "S:\u00E9\u20AC? "},
-
                 {"800b", "{ CF$UID=I:11 } "},
                 {"00", "binary list: a value of an unknown kind"},
-
                 {"1400000000000000010000000000000000", "binary list: an integer of over 64 bits"},
                 {"337ff8000000000000", "binary list: a date outside the years 1 to 9999"},
                 {"d10101 09", "binary list: a key that is no text"},

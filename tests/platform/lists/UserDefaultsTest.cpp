@@ -44,6 +44,7 @@ TEST_F(UserDefaultsFile, ConversionsAreThePlatforms)
         {-1e30, "1 -9223372036854775808 0 -1e+30"},
         {std::nan(""), "1 0 0 nan"},
         {text("YES"), "1 0 0 YES"},
+        {text("true"), "1 0 0 true"},
         {text("1"), "1 1 1 1"},
         {text("NO"), "0 0 0 NO"},
         {text("00"), "0 0 0 00"},
@@ -92,26 +93,6 @@ TEST_F(UserDefaultsFile, TwoStoresKeepEachOthersKeys)
     EXPECT_TRUE(first.synchronize());
     EXPECT_EQ(fileContents(), (QVariantMap{{key, 3LL}}));
     EXPECT_EQ(treeOf(folder).join(u' '), u".org.example.Test.lock org.example.Test.plist");
-}
-
-TEST_F(UserDefaultsFile, WritersAtOnceLoseNothing)
-{
-    UserDefaults first(domain, folder);
-    UserDefaults second(domain, folder);
-    const auto hammer = [](UserDefaults &store, int from) {
-        for (int i = from; i < from + 40; ++i) {
-            store.setObject(QString::number(i), i);
-            while (!store.synchronize()) { // the others may keep it locked for long
-            }
-        }
-    };
-    {
-        // Two threads on one store, a third one on another.
-        const std::jthread a(hammer, std::ref(first), 0);
-        const std::jthread b(hammer, std::ref(first), 40);
-        const std::jthread c(hammer, std::ref(second), 80);
-    }
-    EXPECT_EQ(fileContents().size(), 120);
 }
 
 TEST_F(UserDefaultsFile, AFileThatIsReplacedIsReadAgainAndAnUnchangedOneIsNotWritten)
