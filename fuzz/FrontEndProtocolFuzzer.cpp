@@ -2,6 +2,7 @@
 #include "fuzz/BusCalls.h"
 #include "platform/people/AddressBook.h"
 #include "support/HelperHarness.h"
+#include "util/Settings.h"
 
 #include <QCoreApplication>
 #include <QDir>
