@@ -102,7 +102,7 @@ private:
     void volumeWillUnmount(const QString &path);
 
     // The run, on its own thread
-    void _sync();
+    void _sync(const QString &volume, std::optional<VolumeIdentity> identity);
     void setRunVolume(const QString &volume);
     bool endRun();
     void finishRun();

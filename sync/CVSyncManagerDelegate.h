@@ -22,7 +22,7 @@ public:
     /// thread; must change nothing.
     virtual bool shouldSyncOnMount() = 0;
 
-    /// First call of a run. Queued: the run does not wait for it.
+    /// First call of a run, before anything of it happens.
     virtual void syncWillStart() = 0;
     virtual void syncWillCleanUp() = 0;
     /// The run has so many bytes to copy and the stick no room for them; the run is then cancelled.

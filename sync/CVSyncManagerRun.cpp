@@ -15,8 +15,19 @@ void CVSyncManager::sync()
         if (m_isSyncing || m_isClosed)
             return;
         m_isSyncing = true;
+        m_isIndeterminate = true;
     }
-    if (Workers::start([this] { _sync(); }))
+    // Told here, so that no cancel can be told before it, and learnt here: by the time that the
+    // worker runs, the stick's place may hold another.
+    m_delegate->syncWillStart();
+    QString volume;
+    std::optional<VolumeIdentity> identity;
+    {
+        const std::scoped_lock lock(m_volumeMutex);
+        volume = m_runVolume = m_pspVolume;
+        identity = m_identity;
+    }
+    if (Workers::start([this, volume, identity] { _sync(volume, identity); }))
         return;
     m_shouldCancelSync = true; // ends like one that was cancelled at once
     finishRun();
@@ -56,14 +67,11 @@ void CVSyncManager::cancelSync()
     tell([](CVSyncManagerDelegate &delegate) { delegate.syncWillCancel(); });
 }
 
-void CVSyncManager::_sync()
+void CVSyncManager::_sync(const QString &volume, std::optional<VolumeIdentity> identity)
 {
-    const QString volume = pspVolume();
-    setRunVolume(volume);
-    m_isIndeterminate = true;
-    performOnMainThread(
-        this, [this] { m_delegate->syncWillStart(); }, CallMode::DontWait);
-    SyncRun(*this, {m_catalogue, m_services.clock, m_services.resourceFolder}, volume).run();
+    SyncRun(*this, {m_catalogue, m_services.clock, m_services.resourceFolder},
+            StickEditor(volume, identity))
+        .run();
     finishRun();
 }
 

@@ -39,11 +39,6 @@ std::vector<FolderToCleanUp> CVSyncModule::foldersToCleanUp() const
     return {{rootSyncFolder(), !Settings::ownOnly()}};
 }
 
-QStringList CVSyncModule::leftovers() const
-{
-    return {};
-}
-
 std::vector<CVSyncItem> CVSyncModule::itemsToSync()
 {
     return {};

@@ -42,8 +42,6 @@ public:
     virtual bool shouldClearUnsyncedFiles() const;
     /// The root folder, with what the setting "ownOnly" says.
     virtual std::vector<FolderToCleanUp> foldersToCleanUp() const;
-    /// Places on the stick where an operation that was cut short may have left something.
-    virtual QStringList leftovers() const;
 
     /// Everything that the selection wants. Destinations are absolute and in normal form.
     virtual std::vector<CVSyncItem> itemsToSync();

@@ -27,7 +27,6 @@ public:
     {
         m_plan.saveName = m_input.saveName;
         m_plan.moduleName = m_input.moduleName;
-        m_plan.leftovers = m_input.leftovers;
         m_plan.items.reserve(m_input.items.size());
         m_wanted.reserve(static_cast<qsizetype>(m_input.items.size()));
         for (MeasuredItem &item : m_input.items)

@@ -44,7 +44,6 @@ struct KindInput
     std::vector<StickFolder> folders;
     /// Keys, relative to the volume, of what the last index lists; nothing where there is none.
     std::optional<QSet<QString>> lastIndex;
-    QStringList leftovers;
 };
 
 /// The rules of a run, and nothing else: no disk, no settings, no time.

@@ -10,9 +10,14 @@
 
 using Operation = FileError::Operation;
 
-StickEditor::StickEditor(QString volume)
+StickEditor::StickEditor(const QString &volume)
+    : StickEditor(volume, VolumeIdentity::of(volume))
+{
+}
+
+StickEditor::StickEditor(QString volume, std::optional<VolumeIdentity> identity)
     : m_volume(std::move(volume))
-    , m_identity(VolumeIdentity::of(m_volume))
+    , m_identity(identity)
 {
 }
 

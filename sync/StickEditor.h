@@ -17,7 +17,9 @@ class StickEditor : public ItemPlacer
 {
 public:
     /// For the stick that lies at the volume's path now.
-    explicit StickEditor(QString volume);
+    explicit StickEditor(const QString &volume);
+    /// For the one that was seen there before.
+    StickEditor(QString volume, std::optional<VolumeIdentity> identity);
 
     const QString &volume() const { return m_volume; }
 

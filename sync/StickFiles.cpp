@@ -7,6 +7,11 @@ QString caravelFolder(const QString &volume)
     return volume + QStringLiteral("/.caravel");
 }
 
+QString restoreFolder(const QString &volume)
+{
+    return volume + QStringLiteral("/.caravel-restore");
+}
+
 QString lastSyncSize(const QString &volume)
 {
     return caravelFolder(volume) + QStringLiteral("/LastSyncSize");

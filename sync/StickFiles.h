@@ -8,6 +8,10 @@ namespace StickFiles {
 /// ".caravel" in the volume's root; its existence marks a stick that has been synced.
 QString caravelFolder(const QString &volume);
 
+/// Where a restore stages what it puts back and what it takes away; it makes no stick a synced one.
+/// Whatever lies there when nothing is being restored was left behind.
+QString restoreFolder(const QString &volume);
+
 /// Archive of one number: bytes that the synced media occupy after the last run.
 QString lastSyncSize(const QString &volume);
 

@@ -55,7 +55,6 @@ struct KindPlan
     QString moduleName;                   ///< as shown to the user
     std::vector<PlannedItem> items;       ///< in the order of the kind
     std::vector<PlannedRemoval> removals; ///< in the order in which they are made
-    QStringList leftovers;                ///< of operations that were cut short; removed unseen
     std::vector<FileError> errors;        ///< met while looking, to be told to the user
 
     /// Bytes of everything that the selection wants and that exists, as the sources' sizes say.

@@ -147,10 +147,6 @@ KindPlan SyncPlanner::planOf(CVSyncModule &module)
     input.items = measureItems(module, input.folders);
     input.lastIndex =
         readLastIndex(StickFiles::syncIndex(m_volume, module.moduleSaveName()), m_names);
-    for (const QString &leftover : module.leftovers()) {
-        if (files().linkStatus(leftover).exists())
-            input.leftovers.append(leftover);
-    }
     if (const auto space = files().volumeSpace(m_volume))
         input.clusterSize = space->clusterSize;
     return Compare::plan(std::move(input), m_names);

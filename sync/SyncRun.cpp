@@ -18,10 +18,10 @@ constexpr auto startPause = std::chrono::seconds(1);
 
 } // namespace
 
-SyncRun::SyncRun(SyncRunHost &host, Services services, const QString &volume)
+SyncRun::SyncRun(SyncRunHost &host, Services services, StickEditor stick)
     : m_host(host)
     , m_services(std::move(services))
-    , m_stick(volume)
+    , m_stick(std::move(stick))
 {
     m_stick.setWhenGone([this] {
         if (!std::exchange(m_saidGone, true)) {
@@ -53,6 +53,9 @@ void SyncRun::start()
         return;
     if (const auto made = m_stick.makeFolders(caravel); !made)
         qCWarning(lcSync).noquote() << "Can't create the folder" << caravel;
+    const QString restore = StickFiles::restoreFolder(m_stick.volume());
+    if (files().linkStatus(restore).exists())
+        m_stick.remove(restore, nullptr); // of one that was interrupted
     if (Settings::useDetailedLogging())
         qCInfo(lcSync) << "Setting PSP device icon...";
     m_stick.setIcon(QStringLiteral("%1/PSP%2.icns")

@@ -41,8 +41,9 @@ public:
         QString resourceFolder; ///< holds the device icons
     };
 
-    /// Host and services are not owned and outlive the run.
-    SyncRun(SyncRunHost &host, Services services, const QString &volume);
+    /// Host and services are not owned and outlive the run. The stick is the one that was found
+    /// when the run was asked for.
+    SyncRun(SyncRunHost &host, Services services, StickEditor stick);
 
     /// All of it but the announcement of the end.
     RunReport run();

@@ -18,8 +18,6 @@ void SyncRun::cleanUp()
 
 void SyncRun::cleanUp(const KindPlan &kind, ItemPlacer *placer)
 {
-    for (const QString &leftover : kind.leftovers)
-        m_stick.remove(leftover, nullptr);
     for (const PlannedRemoval &removal : kind.removals)
         removePlanned(removal);
     if (placer)

@@ -98,6 +98,8 @@ bool keep(const QString &source, const QString &newFolder, FileOperationHandler 
     bool whole = files().copy(source, partial + u'/' + PathComponents::lastOf(source), &handler);
     files().flush(partial);
     whole = whole && files().move(partial, newFolder, &handler);
+    // What a restore takes off the stick next may be the only other copy.
+    files().flush(root());
     if (!whole)
         files().remove(partial, nullptr);
     return whole;

@@ -86,6 +86,9 @@ std::vector<CVSyncItem> CVSyncBackup::itemsToSync()
 {
     std::vector<CVSyncItem> items;
     const QString folder = SaveOnStick::parentOn(pspVolume());
+    // Through a link lies something else than the PSP's own saves.
+    if (!StickEditor(pspVolume()).linkOnTheWayTo(folder + QStringLiteral("/save")).isEmpty())
+        return items;
     for (const FolderEntry &entry : files().entries(folder)) {
         const QString &name = entry.path;
         if (name == u".DS_Store")
@@ -103,11 +106,6 @@ std::vector<FolderToCleanUp> CVSyncBackup::foldersToCleanUp() const
 {
     return {{pspVolume() + QStringLiteral("/PSP/GAME"), false},
             {SaveOnStick::parentOn(pspVolume()), false}};
-}
-
-QStringList CVSyncBackup::leftovers() const
-{
-    return SaveOnStick::leftoversOn(pspVolume());
 }
 
 CopyOutcome CVSyncBackup::Placer::place(const CVSyncItem &item, FileOperationHandler &handler)
@@ -141,14 +139,16 @@ CVSyncBackup::Restored CVSyncBackup::restoreBackupWithIdentifier(const QString &
     ErrorLog errors;
     StickEditor stick(volume);
     SaveOnStick save(stick, backup->save);
-    save.removeLeftovers();
+    save.removeStaged();
     if (save.exists()) {
         if (files().contentsEqual(backup->folder(), save.folder()))
             return Restored::Done;
         // Kept first, and whole, before anything on the stick is touched.
         const QString newest = BackupHistory::newFolder(backup->save, clock);
-        if (!BackupHistory::keep(save.folder(), newest, errors) || !save.takeAway(errors))
+        if (!BackupHistory::keep(save.folder(), newest, errors) || !save.takeAway(errors)) {
+            save.removeStaged();
             return Restored::NotKept;
+        }
     }
     return save.put(backup->folder(), errors) ? Restored::Done : Restored::Failed;
 }

@@ -53,7 +53,6 @@ public:
     QString rootSyncFolder() const override;
     /// Where games and their saves lie on the stick: what others left behind goes there too.
     std::vector<FolderToCleanUp> foldersToCleanUp() const override;
-    QStringList leftovers() const override;
     std::vector<CVSyncItem> itemsToSync() override;
     ItemPlacer *placer() override { return &m_placer; }
 

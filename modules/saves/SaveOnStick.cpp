@@ -8,12 +8,12 @@ namespace {
 
 QString incoming(const QString &volume)
 {
-    return StickFiles::caravelFolder(volume) + QStringLiteral("/Restore");
+    return StickFiles::restoreFolder(volume) + QStringLiteral("/Incoming");
 }
 
 QString replaced(const QString &volume)
 {
-    return StickFiles::caravelFolder(volume) + QStringLiteral("/Replaced");
+    return StickFiles::restoreFolder(volume) + QStringLiteral("/Replaced");
 }
 
 /// False, reported, where the folder isn't there afterwards.
@@ -38,41 +38,34 @@ QString SaveOnStick::parentOn(const QString &volume)
     return volume + QStringLiteral("/PSP/SAVEDATA");
 }
 
-QStringList SaveOnStick::leftoversOn(const QString &volume)
-{
-    return {incoming(volume), replaced(volume)};
-}
-
 bool SaveOnStick::exists() const
 {
     return files().linkStatus(m_folder).exists();
 }
 
-void SaveOnStick::removeLeftovers()
+void SaveOnStick::removeStaged()
 {
-    for (const QString &leftover : leftoversOn(m_stick.volume())) {
-        if (files().linkStatus(leftover).exists())
-            m_stick.remove(leftover, nullptr);
-    }
+    const QString staged = StickFiles::restoreFolder(m_stick.volume());
+    if (files().linkStatus(staged).exists())
+        m_stick.remove(staged, nullptr);
 }
 
 bool SaveOnStick::takeAway(FileOperationHandler &handler)
 {
-    return makeFolder(m_stick, StickFiles::caravelFolder(m_stick.volume()), handler) &&
+    return makeFolder(m_stick, StickFiles::restoreFolder(m_stick.volume()), handler) &&
            m_stick.move(m_folder, replaced(m_stick.volume()), handler);
 }
 
 bool SaveOnStick::put(const QString &backup, FileOperationHandler &handler)
 {
-    removeLeftovers();
     const QString volume = m_stick.volume();
     const QString partial = incoming(volume);
     const bool done = makeFolder(m_stick, parentOn(volume), handler) &&
-                      makeFolder(m_stick, StickFiles::caravelFolder(volume), handler) &&
+                      makeFolder(m_stick, StickFiles::restoreFolder(volume), handler) &&
                       m_stick.copyTree(backup, partial, handler) &&
                       m_stick.move(partial, m_folder, handler);
-    if (!done)
-        removeLeftovers();
+    m_stick.flush();
+    removeStaged();
     m_stick.flush();
     return done;
 }

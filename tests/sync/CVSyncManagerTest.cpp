@@ -191,7 +191,8 @@ TEST(Threads, ThatCannotStartEndARunAndAnEstimateAtOnce)
         harness.manager.sync();
         harness.manager.refreshSyncBytesEstimate();
     }
-    EXPECT_EQ(joined(harness.delegate.events), "syncDidFinish false\nnewSyncBytesEstimate 0");
+    EXPECT_EQ(joined(harness.delegate.events),
+              "syncWillStart\nsyncDidFinish false\nnewSyncBytesEstimate 0");
     EXPECT_TRUE(harness.run());
 }
 

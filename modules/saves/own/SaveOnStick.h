@@ -1,14 +1,13 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 class FileOperationHandler;
 class StickEditor;
 
 /// One game save on a stick. It leaves its place and comes to it whole, in one step each: half a
-/// save is worse than none, and would be backed up as one. What is on its way lies in the stick's
-/// ".caravel". No call may come while a run works on the stick.
+/// save is worse than none, and would be backed up as one. What is on its way lies in a
+/// folder of its own in the stick's root. No call may come while a run works on the stick.
 class SaveOnStick
 {
 public:
@@ -17,12 +16,11 @@ public:
 
     /// The folder of a stick's saves.
     static QString parentOn(const QString &volume);
-    /// Where an interrupted restore may have left something on a stick.
-    static QStringList leftoversOn(const QString &volume);
 
     QString folder() const { return m_folder; }
     bool exists() const;
-    void removeLeftovers();
+    /// Removes what is on its way, or was when a restore was interrupted.
+    void removeStaged();
     /// Takes it out of its place; on failure it is as it was.
     bool takeAway(FileOperationHandler &handler);
     /// Puts a copy of a backup's files in its place, where nothing must be, and removes what was

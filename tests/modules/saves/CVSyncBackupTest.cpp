@@ -4,6 +4,7 @@
 #include "support/SyncHarness.h"
 #include "util/Settings.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -88,6 +89,15 @@ TEST_F(CVSyncBackupTest, ShowsNoCopyThatIsNotWhole)
     EXPECT_FALSE(QFile::exists(partial));
 }
 
+TEST_F(CVSyncBackupTest, KeepsNothingFromBehindALink)
+{
+    const QString saves = harness.stick(u"PSP/SAVEDATA"_s);
+    ASSERT_TRUE(QFile::rename(saves, harness.home(u"elsewhere"_s)));
+    ASSERT_TRUE(QFile::link(harness.home(u"elsewhere"_s), saves));
+    EXPECT_TRUE(harness.run());
+    EXPECT_EQ(history(), "");
+}
+
 TEST_F(CVSyncBackupTest, PrunesByThePreference)
 {
     for (const auto &[choice, left] :
@@ -127,7 +137,11 @@ TEST_F(CVSyncBackupTest, LosesNothingWhenItCannotRestore)
     EXPECT_EQ(restoreWithRoomFor(5), Restored::Failed) << "no room on the stick";
     EXPECT_FALSE(QFile::exists(save));
     EXPECT_EQ(history(), "0: first\n60: other");
+    QDir(harness.stick(u".caravel"_s)).removeRecursively();
     EXPECT_EQ(restore(identifier(60)), Restored::Done);
+    EXPECT_TRUE(
+        QDir(harness.stick()).entryList({u".caravel*"_s}, QDir::Dirs | QDir::Hidden).isEmpty())
+        << "the stick counts as synced, or something is left on it";
     EXPECT_EQ(onStick(), "other");
     EXPECT_EQ(restore(identifier(0)), Restored::Done);
     EXPECT_EQ(onStick(), "first");
