@@ -23,11 +23,13 @@ Follower::Follower(Session &session)
 
 ExitStatus Follower::run()
 {
-    begin();
-    readNow();
+    // From the loop: before it has run for the first time nothing that the helper says is heard.
+    QTimer::singleShot(0, this, [this] {
+        begin();
+        readNow();
+    });
     m_slow.start();
-    if (!m_finished)
-        m_loop.exec();
+    m_loop.exec();
     return m_session.failed() ? m_session.report() : m_status;
 }
 

@@ -21,7 +21,7 @@ packages=(
     libglib2.0-dev libexpat1-dev libcli11-dev librsvg2-bin python3
     libebook1.2-dev libssl-dev
     # Tests and benchmarks
-    libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs exfat-fuse mount util-linux xvfb
+    libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs exfat-fuse mount util-linux xvfb jq procps
     evolution-data-server
     # The demo's sound files, and the helper at run time
     ffmpeg

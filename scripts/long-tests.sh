@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The tests whose length can be chosen, at full length; the suite runs a short form of each.
+# The tests that take long: those whose length can be chosen, of which the suite runs a short form, and
+# those of load.
 set -euo pipefail
 
 usage() {
@@ -23,9 +24,7 @@ run_faults() {
 }
 
 run_load() {
-    CARAVEL_LOAD=${CARAVEL_LOAD:-100} \
-        build/debug/tests/programs/program_tests --gtest_filter='LoadTest.*'
-    build/debug/tests/app/app_tests --gtest_filter='Soak.*'
+    build/debug/bench/load_tests
 }
 
 run_model() {
@@ -46,9 +45,8 @@ fi
 
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh
-cmake --preset debug
-cmake --build --preset debug --parallel "$(nproc)" \
-    --target fault_tests program_tests app_tests modules_tests
+cmake --preset debug -DCARAVEL_BUILD_BENCHMARKS=ON
+cmake --build --preset debug --parallel "$(nproc)" --target fault_tests load_tests modules_tests
 if [[ -w /dev/shm ]]; then
     export TMPDIR=/dev/shm
 fi

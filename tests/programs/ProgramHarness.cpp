@@ -5,8 +5,11 @@
 #include "platform/lists/Bundle.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 namespace {
 
@@ -29,8 +32,22 @@ QString ProgramHarness::resource(const QString &name)
 
 ProgramHarness::ProgramHarness()
 {
-    QDir().mkpath(m_folder / QStringLiteral("home"));
-    QDir().mkpath(m_folder / QStringLiteral("volumes"));
+    for (const char *name : {"home", "volumes", "bin"})
+        QDir().mkpath(m_folder / QString::fromLatin1(name));
+    writeFile(m_folder / QStringLiteral("MEMORYSTICK/MEMSTICK.IND"), {});
+    writeFile(m_folder / QStringLiteral("MEMORYSTICK/PSP/MUSIC/Old/stale.mp3"), "stale");
+    writeFile(m_folder / QStringLiteral("MEMORYSTICK/PSP/GAME/mine.pbp"), "mine");
+    for (const char *name : {"CARAVEL_VOLUMES", "DISPLAY", "WAYLAND_DISPLAY", "LANGUAGE"})
+        m_environment.remove(QString::fromLatin1(name));
+    set(QStringLiteral("HOME"), m_folder / QStringLiteral("home"));
+    set(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    set(QStringLiteral("PULSE_SERVER"), QStringLiteral("/nowhere"));
+    set(QStringLiteral("RESOURCES"), helperBundle().resourcePath());
+    set(QStringLiteral("MOUNT"), QStringLiteral("/media/caravel-test-%1").arg(::getpid()));
+    set(QStringLiteral("PATH"), (m_folder / QStringLiteral("bin:")) +
+                                    QFileInfo(QStringLiteral(CARAVEL_COMMAND)).path() + u':' +
+                                    QFileInfo(QStringLiteral(CARAVEL_HELPER)).path() + u':' +
+                                    m_environment.value(QStringLiteral("PATH")));
     m_helper.setProcessChannelMode(QProcess::MergedChannels);
 }
 
@@ -40,38 +57,22 @@ ProgramHarness::~ProgramHarness()
         m_helper.kill();
         m_helper.waitForFinished();
     }
+    shell(QStringLiteral("! [[ -e $MOUNT ]] || { umount -l $MOUNT; rmdir $MOUNT; }"));
 }
 
-QProcessEnvironment ProgramHarness::environment() const
+void ProgramHarness::startHelper(const QStringList &options)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), m_folder / QStringLiteral("home"));
-    environment.insert(QStringLiteral("LC_ALL"), m_language);
-    for (const char *name : {"CARAVEL_VOLUMES", "DISPLAY", "WAYLAND_DISPLAY", "LANGUAGE"})
-        environment.remove(QString::fromLatin1(name));
-    return environment;
-}
-
-void ProgramHarness::startHelper(bool onMounts)
-{
-    RemoteObject helper(helperBusName(), QStringLiteral("/CaravelHelper"),
-                        QStringLiteral("org.caravel.CaravelHelperProtocol"));
-    ASSERT_TRUE(waitFor([&] { return !helper.isAvailable(); })) << "an earlier helper has not gone";
-    m_helper.setProcessEnvironment(environment());
-    m_helper.start(QStringLiteral(CARAVEL_HELPER), onMounts ? QStringList() : volumesOption());
-    ASSERT_TRUE(
-        waitFor([&] { return helper.isAvailable() || m_helper.state() == QProcess::NotRunning; }));
-    ASSERT_TRUE(helperLives()) << qPrintable(helperOutput());
-}
-
-QStringList ProgramHarness::volumesOption() const
-{
-    return {QStringLiteral("--volumes-folder"), m_folder / QStringLiteral("volumes")};
-}
-
-std::unique_ptr<QProcess> ProgramHarness::startAnotherHelper()
-{
-    return startProgram(QStringLiteral(CARAVEL_HELPER), volumesOption());
+    RemoteObject helper(helperBusName(), {}, {});
+    const auto ended = [this] {
+        return m_helper.state() == QProcess::NotRunning;
+    };
+    ASSERT_TRUE(waitFor([&] { return ended() && !helper.isAvailable(); })) << "one is there";
+    m_helper.setProcessEnvironment(m_environment);
+    m_helper.setWorkingDirectory(m_folder.path());
+    m_helper.start(QStringLiteral(CARAVEL_HELPER), options);
+    ASSERT_TRUE(waitFor([&] { return helper.isAvailable() || ended(); }));
+    ASSERT_TRUE(helperLives()) << m_helper.readAll().constData();
+    set(QStringLiteral("HELPER"), QString::number(m_helper.processId()));
 }
 
 int ProgramHarness::stopHelper()
@@ -81,30 +82,21 @@ int ProgramHarness::stopHelper()
     return gone && m_helper.exitStatus() == QProcess::NormalExit ? m_helper.exitCode() : -1;
 }
 
-QString ProgramHarness::helperOutput()
-{
-    return QString::fromUtf8(m_helper.readAll());
-}
-
-std::unique_ptr<QProcess> ProgramHarness::start(const QStringList &arguments)
-{
-    return startProgram(QStringLiteral(CARAVEL_COMMAND), arguments);
-}
-
-std::unique_ptr<QProcess> ProgramHarness::startProgram(const QString &program,
-                                                       const QStringList &arguments)
+std::unique_ptr<QProcess> ProgramHarness::start(const QString &command)
 {
     auto process = std::make_unique<QProcess>();
-    process->setProcessEnvironment(environment());
+    process->setProcessEnvironment(m_environment);
     process->setProcessChannelMode(QProcess::MergedChannels);
-    process->start(program, arguments);
+    process->setWorkingDirectory(m_folder.path());
+    process->start(QStringLiteral("bash"), {QStringLiteral("-o"), QStringLiteral("pipefail"),
+                                            QStringLiteral("-c"), command});
     process->waitForStarted();
     return process;
 }
 
-ProgramHarness::Outcome ProgramHarness::caravel(const QStringList &arguments)
+ProgramHarness::Outcome ProgramHarness::shell(const QString &command)
 {
-    const auto process = start(arguments);
+    const auto process = start(command);
     if (!waitFor([&] { return process->state() == QProcess::NotRunning; })) {
         process->kill();
         process->waitForFinished();
@@ -114,53 +106,16 @@ ProgramHarness::Outcome ProgramHarness::caravel(const QStringList &arguments)
             QString::fromUtf8(process->readAll())};
 }
 
-QString ProgramHarness::stick(const QString &relative) const
-{
-    const QString path = m_folder / QStringLiteral("volumes/MEMORYSTICK");
-    return relative.isEmpty() ? path : path + u'/' + relative;
-}
-
-void ProgramHarness::insertStick() const
-{
-    // Made whole before it is mounted.
-    const QString aside = m_folder / QStringLiteral("stick");
-    writeFile(aside + QStringLiteral("/MEMSTICK.IND"), {});
-    writeFile(aside + QStringLiteral("/PSP/MUSIC/Old/stale.mp3"), "stale");
-    writeFile(aside + QStringLiteral("/PSP/GAME/mine.pbp"), "mine");
-    ASSERT_TRUE(QDir().rename(aside, stick()));
-}
-
-void ProgramHarness::insertUnformattedStick(const QString &name) const
-{
-    const QString aside = m_folder / QStringLiteral("unformatted");
-    writeFile(aside + QStringLiteral("/MEMSTICK.IND"), {});
-    ASSERT_TRUE(QDir().rename(aside, m_folder / QStringLiteral("volumes/") + name));
-}
-
-void ProgramHarness::refuseEject() const
-{
-    // The place that an ejected volume goes to is taken.
-    QDir().mkpath(m_folder / QStringLiteral("volumes/.ejected/MEMORYSTICK"));
-}
-
 void ProgramHarness::addTrack(const QString &name, const QByteArray &contents)
 {
-    const int id = static_cast<int>(m_tracks.size()) + 1;
-    const QString path = home(QStringLiteral("Music/%1.mp3").arg(id));
-    writeFile(path, contents);
-    m_library.addFile(id, path,
+    m_tracks.append(static_cast<int>(m_tracks.size()) + 1);
+    const QString file = path(QStringLiteral("home/Music/%1.mp3").arg(m_tracks.size()));
+    writeFile(file, contents);
+    m_library.addFile(m_tracks.last(), file,
                       MusicLibraryFile::string("Name", name) +
                           MusicLibraryFile::string("Album", QStringLiteral("Record")));
-    m_tracks.append(id);
-}
-
-void ProgramHarness::writeLibrary()
-{
-    m_library.addPlaylist(QStringLiteral("Road Trip"), m_tracks);
-    writeFile(home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")), m_library.contents());
-}
-
-QString ProgramHarness::log()
-{
-    return caravel({QStringLiteral("log")}).output;
+    MusicLibraryFile whole = m_library;
+    whole.addPlaylist(QStringLiteral("Road Trip"), m_tracks);
+    whole.addPlaylist(QStringLiteral("Quiet"), m_tracks.mid(1));
+    writeFile(path(QStringLiteral("home/Music/iTunes/iTunes Music Library.xml")), whole.contents());
 }

@@ -1,8 +1,7 @@
-// A large home, and front-ends that never stop asking. CARAVEL_LOAD is the size in per cent, 2
+// A large home, and front-ends that never stop asking. CARAVEL_LOAD is the size in per cent, 100
 // unless it says otherwise.
 
-#include "ProgramHarness.h"
-
+#include "programs/ProgramHarness.h"
 #include "support/PhotoLibraryFile.h"
 
 #include <QDBusConnection>
@@ -86,7 +85,7 @@ protected:
     {
         bool isSet = false;
         const int percent = qEnvironmentVariableIntValue("CARAVEL_LOAD", &isSet);
-        return full / 100 * (isSet ? percent : 2);
+        return full / 100 * (isSet ? percent : 100);
     }
     const int tracks = scaled(100'000);
     const int selected = scaled(10'000);
@@ -100,19 +99,19 @@ protected:
         makePhotos();
         for (int i = 1; i <= movies; ++i) {
             const QString id = QStringLiteral("M4V%1").arg(i, 5, 10, QChar(u'0'));
-            const QString movie = programs.home(
-                QStringLiteral("Documents/Caravel/Movies/%1/Film %2/%1").arg(id).arg(i));
+            const QString movie = programs.path(
+                QStringLiteral("home/Documents/Caravel/Movies/%1/Film %2/%1").arg(id).arg(i));
             writeFile(movie + QStringLiteral(".MP4"), "movie");
             writeFile(movie + QStringLiteral(".THM"), "still");
         }
-        programs.insertStick();
+        programs.shell(QStringLiteral("mv MEMORYSTICK volumes/"));
     }
     void makeMusic() const
     {
         MusicLibraryFile library;
         QList<int> mix;
         for (int id = 1; id <= tracks; ++id) {
-            const QString file = programs.home(QStringLiteral("Music/%1.mp3").arg(id));
+            const QString file = programs.path(QStringLiteral("home/Music/%1.mp3").arg(id));
             library.addFile(
                 id, file,
                 MusicLibraryFile::string("Name", QStringLiteral("Song %1").arg(id)) +
@@ -124,7 +123,7 @@ protected:
             mix.append(id);
         }
         library.addPlaylist(QStringLiteral("Mix"), mix);
-        writeFile(programs.home(QStringLiteral("Music/iTunes/iTunes Music Library.xml")),
+        writeFile(programs.path(QStringLiteral("home/Music/iTunes/iTunes Music Library.xml")),
                   library.contents());
     }
     void makePhotos() const
@@ -132,23 +131,25 @@ protected:
         PhotoLibraryFile library;
         QStringList keys;
         for (int i = 1; i <= pictures; ++i) {
-            const QString file = programs.home(QStringLiteral("Pictures/%1.jpg").arg(i));
+            const QString file = programs.path(QStringLiteral("home/Pictures/%1.jpg").arg(i));
             writeFile(file, QByteArray(1000, 'p'));
             keys.append(QString::number(i));
             library.addImage(keys.last(), file, QStringLiteral("Picture"));
         }
         library.addAlbum(QStringLiteral("All"), keys);
-        writeFile(programs.home(QStringLiteral("Pictures/iPhoto Library/AlbumData.xml")),
+        writeFile(programs.path(QStringLiteral("home/Pictures/iPhoto Library/AlbumData.xml")),
                   library.contents());
     }
-    void run(const QStringList &words)
+    QString run(const char *command)
     {
-        const auto outcome = programs.caravel(words);
+        const auto outcome = programs.shell(QString::fromLatin1(command));
         EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.output);
+        return outcome.output;
     }
     qsizetype filesIn(const char *folder) const
     {
-        const QStringList tree = treeOf(programs.stick(QString::fromLatin1(folder)));
+        const QStringList tree =
+            treeOf(programs.path(QStringLiteral("volumes/MEMORYSTICK/") + QLatin1String(folder)));
         return std::ranges::count_if(tree,
                                      [](const QString &path) { return !path.endsWith(u'/'); });
     }
@@ -167,12 +168,10 @@ protected:
 TEST_F(LoadTest, SyncsALargeHomeWhileFrontEndsAsk)
 {
     programs.startHelper();
-    run({QStringLiteral("select"), QStringLiteral("music"), QStringLiteral("Mix")});
-    run({QStringLiteral("select"), QStringLiteral("photos"), QStringLiteral("All")});
-    const auto listed = programs.caravel({QStringLiteral("list"), QStringLiteral("movies")});
-    EXPECT_EQ(listed.output.count(QStringLiteral("Film ")), movies);
+    run("caravel select music Mix; caravel select photos All");
+    EXPECT_EQ(run("caravel list movies").count(QStringLiteral("Film ")), movies);
 
-    const auto sync = programs.start({QStringLiteral("sync")});
+    const auto sync = programs.start(QStringLiteral("caravel sync"));
     FrontEnds frontEnds;
     EXPECT_TRUE(waitFor(
         [&] {
@@ -184,11 +183,11 @@ TEST_F(LoadTest, SyncsALargeHomeWhileFrontEndsAsk)
     const double seconds = frontEnds.seconds();
     EXPECT_TRUE(waitFor([&] { return std::ssize(frontEnds.answered) == frontEnds.asked; }));
     EXPECT_EQ(frontEnds.errors, QStringList());
-    EXPECT_GE(static_cast<double>(frontEnds.asked), 0.9 * seconds * callsPerSecond);
     EXPECT_EQ(filesIn("PSP/MUSIC"), selected);
     EXPECT_EQ(filesIn("PSP/PHOTO"), pictures);
 
     std::ranges::sort(frontEnds.answered);
+    EXPECT_LT(frontEnds.answered.back(), 1000) << "milliseconds: nobody waits for a window so long";
     std::printf("%lld calls in %.1f s; an answer took %.2f ms (median), %.1f ms (slowest); "
                 "the helper's memory %s, at its peak %s\n",
                 static_cast<long long>(frontEnds.asked), seconds,
