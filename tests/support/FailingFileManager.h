@@ -119,10 +119,7 @@ private:
     }
     static bool refuse(const QString &path, FileOperationHandler *handler)
     {
-        if (handler) {
-            handler->fileManagerShouldProceedAfterError(
-                FileError::of(FileError::Operation::Remove, path, EROFS));
-        }
-        return false;
+        const FileError error = FileError::of(FileError::Operation::Remove, path, EROFS);
+        return handler && handler->fileManagerShouldProceedAfterError(error) && false;
     }
 };

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QTemporaryDir>
 
+#include <cstdio>
 #include <sys/types.h>
 
 /// A session bus of the test program's own, in DBUS_SESSION_BUS_ADDRESS as long as the object
@@ -19,8 +20,7 @@ class PrivateBus
 public:
     PrivateBus();
     ~PrivateBus();
-    PrivateBus(const PrivateBus &) = delete;
-    PrivateBus &operator=(const PrivateBus &) = delete;
+    Q_DISABLE_COPY_MOVE(PrivateBus)
 
     /// Ends the daemon; its clients lose the bus.
     void stop();
@@ -28,5 +28,6 @@ public:
 private:
     const QTemporaryDir m_home;
     const QByteArray m_addressBefore = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    FILE *m_output = nullptr; // the daemon's
     pid_t m_daemon = -1;
 };

@@ -39,47 +39,15 @@ QStringList FakeVolumes::mountedRemovableMedia() const
     return m_mounted;
 }
 
-bool FakeVolumes::unmountAndEject(const QString &path)
+std::string RecordingDelegate::stepsFrom(QStringView step) const
 {
-    if (canEject)
-        unmount(path);
-    return canEject;
-}
-
-void FakeNotifications::post(const QString &name)
-{
-    posted.append(name);
-    const auto [first, last] = m_observers.equal_range(name);
-    for (auto observer = first; observer != last; ++observer)
-        observer->second();
-}
-
-void FakeNotifications::observe(const QString &name, QObject *, std::function<void()> observer, Own)
-{
-    m_observers.emplace(name, std::move(observer));
-}
-
-void FakeClock::sleep(std::chrono::milliseconds)
-{
-    ++pauses;
-    if (onSleep)
-        onSleep(pauses);
-}
-
-void RecordingDelegate::note(const QString &event)
-{
-    events.append(event);
-    if (onEvent)
-        onEvent(event);
-}
-
-QStringList RecordingDelegate::steps() const
-{
-    QStringList result = events;
-    result.removeIf([](const QString &event) {
+    QStringList steps = events;
+    steps.removeIf([](const QString &event) {
         return event.startsWith(u"syncDidCopyBytes") || event.startsWith(u"newSyncBytesEstimate");
     });
-    return result;
+    while (!steps.isEmpty() && !steps.first().startsWith(step))
+        steps.removeFirst();
+    return joined(steps);
 }
 
 bool RecordingDelegate::shouldUnmountPSP()

@@ -15,7 +15,6 @@
 /// Volumes that are mounted when the test says so.
 class FakeVolumes : public Volumes
 {
-    Q_OBJECT
 public:
     void mount(const QString &path);
     void unmount(const QString &path);
@@ -23,7 +22,10 @@ public:
     void vanish(const QString &path);
 
     QStringList mountedRemovableMedia() const override;
-    bool unmountAndEject(const QString &path) override;
+    bool unmountAndEject(const QString &path) override
+    {
+        return canEject ? unmount(path), true : false;
+    }
     std::atomic<bool> canEject = true;
 
 private:
@@ -34,15 +36,21 @@ private:
 /// Notifications that stay in the test.
 class FakeNotifications : public DistributedNotificationCenter
 {
-    Q_OBJECT
 public:
-    void post(const QString &name) override;
-    void observe(const QString &name, QObject *context, std::function<void()> observer,
-                 Own own) override;
+    void post(const QString &name) override
+    {
+        posted.append(name);
+        for (const auto &observer : m_observers[name])
+            observer();
+    }
+    void observe(const QString &name, QObject *, std::function<void()> tell, Own) override
+    {
+        m_observers[name].push_back(std::move(tell));
+    }
     QStringList posted;
 
 private:
-    std::multimap<QString, std::function<void()>> m_observers;
+    std::map<QString, std::vector<std::function<void()>>> m_observers;
 };
 
 /// Pauses that take no time, and a date of the test's choice.
@@ -50,7 +58,12 @@ class FakeClock : public Clock
 {
 public:
     QDateTime now() const override { return current; }
-    void sleep(std::chrono::milliseconds duration) override;
+    void sleep(std::chrono::milliseconds) override
+    {
+        ++pauses;
+        if (onSleep)
+            onSleep(pauses);
+    }
     QDateTime current = QDateTime(QDate(2026, 3, 14), QTime(15, 9));
     std::function<void(int)> onSleep; ///< on the run's thread, with the number of the pause, from 1
     std::atomic<int> pauses = 0;
@@ -66,8 +79,8 @@ public:
     std::atomic<bool> answerSyncOnMount = true;
     std::atomic<bool> answerUnmount = true;
 
-    /// The events without the chunks' ("syncDidCopyBytes"), which come as often as chunks do.
-    QStringList steps() const;
+    /// The events from one on, without the chunks', which come as often as chunks do.
+    std::string stepsFrom(QStringView step) const;
     int count(const QString &event) const { return static_cast<int>(events.count(event)); }
     /// How many items the last run took up.
     int processed() const
@@ -110,7 +123,12 @@ public:
     void newSyncBytesEstimate(quint64 n) override { note(u"newSyncBytesEstimate %1"_s.arg(n)); }
 
 private:
-    void note(const QString &event);
+    void note(const QString &event)
+    {
+        events.append(event);
+        if (onEvent)
+            onEvent(event);
+    }
 };
 
 /// A home, a stick, preferences and services. The home is $HOME and the preferences are

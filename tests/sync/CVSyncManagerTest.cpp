@@ -216,7 +216,7 @@ TEST(Selection, LiesInThePreferencesAndOnSyncedSticks)
     harness.mountStick();
     const QString profile = harness.stick(u".caravel/Music.plist"_s);
     ModuleSelection::store({u"One"_s}, u"Music"_s, harness.stick());
-    EXPECT_EQ(*PropertyList::readStringArray(profile), list("One"));
+    EXPECT_EQ(PropertyList::readStringArray(profile).valueOr({}), list("One"));
     ModuleSelection::store({u"Two"_s}, u"Music"_s, {});
     const auto read = [&] {
         return ModuleSelection::read(u"Music"_s, harness.stick()).value_or(QStringList());

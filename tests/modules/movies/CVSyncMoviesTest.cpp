@@ -5,8 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QStorageInfo>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -89,14 +87,6 @@ TEST_F(CVSyncMoviesTest, LosesNothingThatItCantStore)
               "Holiday.1.MP4\nHoliday.1.THM\nHoliday.MP4\nHoliday.THM");
     EXPECT_TRUE(CVSyncMovies::availableIdentifiers().isEmpty());
     FileManager::setDefaultManager(nullptr);
-    // A library on another file system than the support folder's.
-    const QTemporaryDir other(u"/dev/shm/caravel-XXXXXX"_s);
-    if (!other.isValid() || QStorageInfo(other.path()) == QStorageInfo(harness.folder.path()))
-        GTEST_SKIP() << "skipped: there is no second file system in /dev/shm";
-    harness.set(u"CaravelFolder", other.path());
-    EXPECT_EQ(add("Clip"), "M4V00001/Clip");
-    EXPECT_EQ(readFile(other.filePath(u"Caravel/Movies/M4V00001/Clip/M4V00001.MP4"_s)), "movie");
-    EXPECT_FALSE(QFile::exists(CVSyncMovies::convertedFile(mp4)));
 }
 
 TEST_F(CVSyncMoviesTest, RenamesWithTheSelections)
