@@ -120,6 +120,8 @@ private:
     static bool refuse(const QString &path, FileOperationHandler *handler)
     {
         const FileError error = FileError::of(FileError::Operation::Remove, path, EROFS);
-        return handler && handler->fileManagerShouldProceedAfterError(error) && false;
+        if (handler)
+            handler->fileManagerShouldProceedAfterError(error);
+        return false;
     }
 };

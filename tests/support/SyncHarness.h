@@ -24,7 +24,9 @@ public:
     QStringList mountedRemovableMedia() const override;
     bool unmountAndEject(const QString &path) override
     {
-        return canEject ? unmount(path), true : false;
+        if (canEject)
+            unmount(path);
+        return canEject;
     }
     std::atomic<bool> canEject = true;
 
@@ -91,7 +93,11 @@ public:
     void pspDidMount(const QString &) override { note(u"pspDidMount"_s); }
     void pspDidUnmount() override { note(u"pspDidUnmount"_s); }
     void foundUnformattedMemoryStick() override { note(u"foundUnformattedMemoryStick"_s); }
-    bool shouldSyncOnMount() override { return note(u"shouldSyncOnMount"_s), answerSyncOnMount; }
+    bool shouldSyncOnMount() override
+    {
+        note(u"shouldSyncOnMount"_s);
+        return answerSyncOnMount;
+    }
     void syncWillStart() override { note(u"syncWillStart"_s); }
     void syncWillCleanUp() override { note(u"syncWillCleanUp"_s); }
     void syncNotEnoughFreeSpace(quint64 n) override { note(u"syncNotEnoughFreeSpace %1"_s.arg(n)); }
