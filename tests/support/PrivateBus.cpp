@@ -14,7 +14,7 @@ PrivateBus::PrivateBus()
         "HOME='" +
         home + "' XDG_RUNTIME_DIR='" + home +
         "' dbus-daemon --session --nofork "
-        "--nopidfile --print-address --print-pid 2>/dev/null";
+        "--nopidfile --print-address=1 --print-pid=1 2>/dev/null";
     m_output = ::popen(command.constData(), "re");
     char address[1000] = "unix:path=/nonexistent/bus";
     if (!m_output || !std::fgets(address, sizeof address, m_output) ||
