@@ -6,7 +6,8 @@
 //   5+      the same, and so on for every later one
 //   short   the call moves one byte where it could move more; every later one too
 //   EINTR+  as a number, interrupted each second time
-// The number of calls is written to CARAVEL_FAULT_REPORT in the end.
+// Written to CARAVEL_FAULT_REPORT in the end: the number of calls, and the inodes of the files that
+// were written and not flushed since.
 
 #include <array>
 #include <atomic>
@@ -18,6 +19,8 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <mutex>
+#include <set>
 #include <string>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
@@ -54,6 +57,8 @@ public:
         const std::string report = variable("CARAVEL_FAULT_REPORT");
         if (FILE *file = report.empty() ? nullptr : std::fopen(report.c_str(), "w")) {
             std::fprintf(file, "%ld\n", m_count.load());
+            for (const ino_t inode : m_unflushed)
+                std::fprintf(file, "%lu\n", static_cast<unsigned long>(inode));
             std::fclose(file);
         }
     }
@@ -71,6 +76,19 @@ public:
     {
         if (descriptor >= 0 && size_t(descriptor) < m_watched.size())
             m_watched[size_t(descriptor)] = on;
+    }
+
+    void written(int descriptor)
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_unflushed.insert(inodeOf(descriptor));
+    }
+    void flushed(int descriptor, bool andAllOthers)
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (andAllOthers)
+            m_unflushed.clear();
+        m_unflushed.erase(inodeOf(descriptor));
     }
 
     /// Counts a call; true with errno set where it is to fail.
@@ -95,6 +113,12 @@ public:
     }
 
 private:
+    static ino_t inodeOf(int descriptor)
+    {
+        struct stat status = {};
+        ::fstat(descriptor, &status);
+        return status.st_ino;
+    }
     bool isMeant(const char *call) const { return m_calls == "all" || m_calls == call; }
 
     const std::string m_root = variable("CARAVEL_FAULT_ROOT");
@@ -106,6 +130,8 @@ private:
     bool m_goesOn = false;
     std::atomic<long> m_count = 0;
     std::array<std::atomic<bool>, 1024> m_watched{};
+    std::mutex m_mutex;
+    std::set<ino_t> m_unflushed;
 };
 
 Faults &faults()
@@ -200,6 +226,7 @@ extern "C" ssize_t write(int descriptor, const void *buffer, size_t count)
         return next(descriptor, buffer, count);
     if (faults().fails("write"))
         return -1;
+    faults().written(descriptor);
     return next(descriptor, buffer, faults().shortened("write", count));
 }
 
@@ -212,6 +239,7 @@ ssize_t sent(int to, int from, off64_t *offset, size_t count)
         return next(to, from, offset, count);
     if (faults().fails("write"))
         return -1;
+    faults().written(to);
     return next(to, from, offset, faults().shortened("write", count));
 }
 
@@ -244,12 +272,15 @@ ON_PATH(rmdir, "unlink", (const char *path), (path), AT_FDCWD, path)
 ON_PATH(unlinkat, "unlink", (int folder, const char *path, int flags), (folder, path, flags),
         folder, path)
 
-#define ON_DESCRIPTOR(NAME)                                                                        \
+#define ON_DESCRIPTOR(NAME, ALL)                                                                   \
     extern "C" int NAME(int descriptor)                                                            \
     {                                                                                              \
         static const auto next = real<int (*)(int)>(#NAME);                                        \
-        return faults().isWatched(descriptor) && faults().fails("fsync") ? -1 : next(descriptor);  \
+        if (faults().isWatched(descriptor) && faults().fails("fsync"))                             \
+            return -1;                                                                             \
+        faults().flushed(descriptor, ALL);                                                         \
+        return next(descriptor);                                                                   \
     }
-ON_DESCRIPTOR(fsync)
-ON_DESCRIPTOR(fdatasync)
-ON_DESCRIPTOR(syncfs)
+ON_DESCRIPTOR(fsync, false)
+ON_DESCRIPTOR(fdatasync, false)
+ON_DESCRIPTOR(syncfs, true)

@@ -52,20 +52,20 @@ public:
                     false);
     }
     /// What it was told since the last time, up to a line that begins so; what is repeated counts
-    /// once.
-    QString told(const QString &last)
+    /// once. Nothing where there is no such line.
+    QStringList told(const QString &last)
     {
+        const auto isLast = [&](const QString &line) {
+            return line.startsWith(last);
+        };
         qsizetype count = 0;
         const bool heard = waitFor([&] {
-            const auto isLast = [&](const QString &line) {
-                return line.startsWith(last);
-            };
-            count = std::ranges::find_if(m_told, isLast) - m_told.begin();
-            return count < m_told.size();
+            count = std::ranges::find_if(m_told, isLast) - m_told.begin() + 1;
+            return count <= m_told.size();
         });
-        const QStringList lines = m_told.first(heard ? count + 1 : count);
+        const QStringList lines = heard ? m_told.first(count) : QStringList();
         m_told.remove(0, lines.size());
-        return lines.join(u'\n') + (heard ? QString() : QStringLiteral("\n[never]"));
+        return lines;
     }
 
     RemoteObject helper{ProgramHarness::helperBusName(), Protocol::helperPath.toString(),
@@ -138,6 +138,10 @@ protected:
         m_goesOn = false;
         return QStringLiteral("[never]");
     }
+    QString orNever(const QStringList &lines)
+    {
+        return lines.isEmpty() ? never() : lines.join(u'\n');
+    }
     /// "helper starts [on mounts]", "helper quits", "helper is gone".
     QString helper(const QStringList &words)
     {
@@ -164,7 +168,7 @@ protected:
         if (words[0] == u"connects")
             frontEnd.connect(words.value(1, RecordingFrontEnd::path));
         else if (words[0] == u"is")
-            return frontEnd.told(words.mid(2).join(u' '));
+            return orNever(frontEnd.told(words.mid(2).join(u' ')));
         else
             frontEnd.isOpen = words[0] == u"opens";
         return {};
