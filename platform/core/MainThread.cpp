@@ -110,7 +110,11 @@ private:
     void serveBurst()
     {
         const auto end = std::chrono::steady_clock::now() + longestBurst;
-        while (serveOne() && std::chrono::steady_clock::now() < end) {
+        if (!serveOne()) {
+            sleepAfterLateWrite();
+            return;
+        }
+        while (std::chrono::steady_clock::now() < end && serveOne()) {
         }
     }
 
@@ -130,14 +134,21 @@ private:
     std::optional<Call> takeFirst()
     {
         const std::scoped_lock lock(m_mutex);
-        std::optional<Call> first;
-        if (!m_calls.empty()) {
-            first = std::move(m_calls.front());
-            m_calls.pop_front();
-        }
+        if (m_calls.empty())
+            return std::nullopt;
+        std::optional<Call> first = std::move(m_calls.front());
+        m_calls.pop_front();
         if (m_calls.empty())
             sleepAgain();
         return first;
+    }
+
+    /// A call may have been taken before its caller wrote: the loop then wakes for nothing.
+    void sleepAfterLateWrite()
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_calls.empty())
+            sleepAgain();
     }
 
     /// Lets the event loop wait. With the lock held: a write that comes later is for a later call.
