@@ -44,9 +44,10 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
     , m_manager({m_services.volumes, m_services.notifications, m_services.clock,
                  m_services.bundle.resourcePath()},
                 m_catalogue)
+    , m_plans(m_catalogue, m_manager)
     , m_menu(m_manager, menuActions())
     , m_icon(m_services.statusBar, m_manager)
-    , m_status({m_manager, m_logger, m_frontEnd, m_menu, m_icon, m_services.alerts,
+    , m_status({m_manager, m_logger, m_plans, m_frontEnd, m_menu, m_icon, m_services.alerts,
                 m_services.sounds, m_services.clock,
                 [this] {
                     openCaravel();
@@ -58,6 +59,7 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
 {
     m_logger.setDelegate(this);
     m_manager.setDelegate(&m_status);
+    connect(&m_plans, &Plans::isReady, &m_frontEnd, &FrontEnd::planIsReady);
     connect(&m_frontEnd, &FrontEnd::vanished, this, &CaravelHelperController::frontEndIsGone);
 }
 
@@ -85,6 +87,7 @@ void CaravelHelperController::start()
 {
     PrefsController::initialize(m_services.notifications);
     PrefsController::beginObserving(m_services.notifications);
+    m_plans.watchSettings(m_services.notifications);
     initialize();
     setUp();
 }

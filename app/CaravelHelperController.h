@@ -2,6 +2,7 @@
 
 #include "app/FrontEnd.h"
 #include "app/LoginItems.h"
+#include "app/Plans.h"
 #include "app/SelectionLists.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
@@ -44,6 +45,7 @@ public:
     QMLogger &logger() { return m_logger; }
     CVSyncManager &syncManager() { return m_manager; }
     SyncStatus &status() { return m_status; }
+    Plans &plans() { return m_plans; }
     SelectionLists &lists() { return m_lists; }
     MovieQueue &movies() { return m_movies; }
 
@@ -100,6 +102,7 @@ private:
     QMLogger m_logger;
     const ModuleCatalogue m_catalogue;
     CVSyncManager m_manager;
+    Plans m_plans;
     FrontEnd m_frontEnd;
     StatusMenu m_menu;
     StatusIcon m_icon;

@@ -107,3 +107,8 @@ void FrontEnd::stopConversionAnimation() const
 {
     send(Callback::stopConversionAnimation);
 }
+
+void FrontEnd::planIsReady(bool ready) const
+{
+    send(Callback::planIsReady, {ready});
+}

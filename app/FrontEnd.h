@@ -45,6 +45,7 @@ public:
     void reloadMoviesView() const;
     void startConversionAnimation() const;
     void stopConversionAnimation() const;
+    void planIsReady(bool ready) const;
 
 Q_SIGNALS:
     /// The connected front-end's process has left without a word.

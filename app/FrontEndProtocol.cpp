@@ -86,6 +86,16 @@ void bindEstimate(ServedMethods &served, CVSyncManager &manager)
     });
 }
 
+void bindPlans(ServedMethods &served, Plans &plans)
+{
+    served.perform(Protocol::requestPlan, [&plans](Request) { plans.request(); });
+    served.answer(Protocol::planSummary, [&plans] { return plans.summary(); });
+    served.bind(Protocol::planItems, [&plans](Request request) {
+        const QVariantList &given = request.arguments;
+        return QVariant(plans.items(given[0].toString(), given[1].toUInt(), given[2].toUInt()));
+    });
+}
+
 void bindLists(ServedMethods &served, CaravelHelperController &helper)
 {
     SelectionLists &lists = helper.lists();
@@ -136,6 +146,7 @@ std::vector<RemoteMethod> methods(CaravelHelperController &controller)
     bindConnection(served, controller);
     bindState(served, controller);
     bindEstimate(served, controller.syncManager());
+    bindPlans(served, controller.plans());
     bindLists(served, controller);
     bindMovies(served, controller.movies());
     bindBackups(served, controller);

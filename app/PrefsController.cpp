@@ -6,12 +6,12 @@
 
 namespace PrefsController {
 
-namespace {
-
 QString didChange()
 {
     return QStringLiteral("CVPrefsDidChangeNotification");
 }
+
+namespace {
 
 void prefsChanged(DistributedNotificationCenter &center)
 {

@@ -1,6 +1,7 @@
 #include "app/SyncStatus.h"
 
 #include "app/Log.h"
+#include "app/Plans.h"
 #include "app/RelativeDate.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
@@ -98,6 +99,7 @@ void SyncStatus::pspDidMount(const QString &)
 
 void SyncStatus::pspDidUnmount()
 {
+    m_services.plans.forget();
     m_services.icon.pspDidUnmount();
     show(localized("No PSP Connected"), localized("Connect a PSP to perform a sync."));
     m_services.frontEnd.pspDidUnmount();
@@ -141,6 +143,7 @@ void SyncStatus::pspUnmountFailed()
 void SyncStatus::syncWillStart()
 {
     m_saidFilled = false;
+    m_services.plans.forget();
     m_services.icon.startSyncAnimation();
     show(localized("Preparing to Sync..."),
          localized("One moment, Caravel is gathering information..."));

@@ -10,6 +10,7 @@
 
 class Clock;
 class CVSyncManager;
+class Plans;
 class QMLogger;
 class Sounds;
 class StatusIcon;
@@ -26,6 +27,7 @@ public:
     {
         CVSyncManager &manager;
         QMLogger &logger;
+        Plans &plans;
         FrontEnd &frontEnd;
         StatusMenu &menu;
         StatusIcon &icon;

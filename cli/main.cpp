@@ -1,6 +1,7 @@
 #include "cli/ListCommands.h"
 #include "cli/MovieCommands.h"
 #include "cli/Output.h"
+#include "cli/PlanCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/SaveCommands.h"
 #include "cli/StatusCommands.h"
@@ -28,6 +29,7 @@ struct Arguments
 {
     bool json = false;
     bool noWait = false;
+    bool dryRun = false;
     bool follow = false;
     bool clear = false;
     bool add = false;
@@ -55,6 +57,7 @@ private:
     CLI::App *addReading(const std::string &name, const std::string &description, Command command);
     void addLog();
     void addSync();
+    void addPlan();
     void addList();
     void addSelect();
     void addMovies();
@@ -78,6 +81,7 @@ CommandLine::CommandLine()
                [this] { return runWatch(m_arguments.json); });
     addLog();
     addSync();
+    addPlan();
     add(m_app, "cancel", "Cancel the running sync", [] { return runCancel(); });
     add(m_app, "eject", "Eject the PSP", [] { return runEject(); });
     addReading("estimate", "Estimate how much of the PSP the selection takes",
@@ -122,9 +126,28 @@ void CommandLine::addLog()
 
 void CommandLine::addSync()
 {
-    CLI::App *sync = add(m_app, "sync", "Sync now; Ctrl-C cancels the sync",
-                         [this] { return runSync(!m_arguments.noWait); });
-    sync->add_flag("--no-wait", m_arguments.noWait, "Return once the sync was asked for");
+    CLI::App *sync = add(m_app, "sync", "Sync now; Ctrl-C cancels the sync", [this] {
+        return m_arguments.dryRun ? runPlan({}, {}) : runSync(!m_arguments.noWait);
+    });
+    CLI::Option *noWait =
+        sync->add_flag("--no-wait", m_arguments.noWait, "Return once the sync was asked for");
+    sync->add_flag("--dry-run", m_arguments.dryRun, "Only say what it would do, as plan does")
+        ->excludes(noWait);
+}
+
+void CommandLine::addPlan()
+{
+    CLI::App *plan =
+        addReading("plan", "Show what a sync would do, and each file that would go", [this] {
+            return runPlan(QString::fromStdString(m_arguments.kind),
+                           {.all = m_arguments.all, .json = m_arguments.json});
+        });
+    std::vector<std::string> names;
+    for (const QString &name : plannedKinds())
+        names.push_back(name.toStdString());
+    plan->add_option("KIND", m_arguments.kind, "Only that kind of media")
+        ->check(CLI::IsMember(names));
+    plan->add_flag("--all", m_arguments.all, "List every file, not only those that would go");
 }
 
 void addKind(CLI::App &subcommand, std::string &kind)

@@ -42,5 +42,8 @@ std::vector<RemoteMethod> FrontEndObject::methods()
     served.perform(Callback::writeToLog, [this](const RemoteRequest &request) {
         Q_EMIT logLine(request.arguments[0].toString());
     });
+    served.perform(Callback::planIsReady, [this](const RemoteRequest &request) {
+        Q_EMIT planIsReady(request.arguments[0].toBool());
+    });
     return served.take(Callback::methods);
 }

@@ -27,6 +27,8 @@ Q_SIGNALS:
     void syncDidFinish(bool completed);
     void pspDidMount();
     void pspDidUnmount();
+    /// Whether the plan that was asked for can be read now.
+    void planIsReady(bool ready);
     /// A line of the helper's log with its line feed.
     void logLine(const QString &line);
 

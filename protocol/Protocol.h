@@ -126,6 +126,20 @@ inline constexpr List lists[] = {
 /// empty without one.
 inline constexpr Method stick{u"stick", {}, u"a{sv}"};
 
+/// Has the helper work out what a sync would do now; planIsReady follows.
+inline constexpr Method requestPlan{u"requestPlan", {}, {}, Mode::Oneway};
+/// Of the plan that was asked for, during a run of the run's own; empty where there is none.
+/// "copies", "replacements", "removals", "strangers" (of the removals and replacements those that
+/// no sync placed), "inPlace" and "leftOut" ("u"); "bytesNeeded" and "bytesFreed" (in the stick's
+/// clusters), "free" and "capacity" ("t"); "fits" ("b"); "kinds" ("aa{sv}"): the counts and bytes
+/// of each kind with its "name", "title" and "bytes", what the whole selection takes.
+inline constexpr Method planSummary{u"planSummary", {}, u"a{sv}"};
+/// A page of at most 1,000 rows, in the order in which a run acts, of the kind of that save name
+/// or, without one, of all: "action" ("copy", "replace", "remove", "inPlace", "leaveOut"), "path"
+/// below the volume, "source", "description", "bytes" ("t"), "isStranger" ("b"), "reason".
+inline constexpr Method planItems{
+    u"planItems", {{u"s", u"kind"}, {u"u", u"first"}, {u"u", u"count"}}, u"aa{sv}"};
+
 /// All of them, in the order in which the helper declares them.
 inline constexpr const Method *helperMethods[] = {
     &setApplication,
@@ -169,6 +183,9 @@ inline constexpr const Method *helperMethods[] = {
     &backupSubItemsForIdentifier,
     &restoreBackupWithIdentifier,
     &deleteBackupWithIdentifier,
+    &requestPlan,
+    &planSummary,
+    &planItems,
     &stick,
 };
 
@@ -194,6 +211,8 @@ inline constexpr Method writeToLog{u"writeToLog", {{u"s", u"line"}}, {}, Mode::O
 inline constexpr Method reloadMoviesView{u"reloadMoviesView", {}, {}, Mode::Oneway};
 inline constexpr Method startConversionAnimation{u"startConversionAnimation", {}, {}, Mode::Oneway};
 inline constexpr Method stopConversionAnimation{u"stopConversionAnimation", {}, {}, Mode::Oneway};
+/// Whether planSummary and planItems now answer a plan.
+inline constexpr Method planIsReady{u"planIsReady", {{u"b", u"ready"}}, {}, Mode::Oneway};
 
 /// All of them, in the order in which a front-end declares them.
 inline constexpr const Method *methods[] = {
@@ -209,6 +228,7 @@ inline constexpr const Method *methods[] = {
     &reloadMoviesView,
     &startConversionAnimation,
     &stopConversionAnimation,
+    &planIsReady,
 };
 
 } // namespace FrontEnd

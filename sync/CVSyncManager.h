@@ -10,6 +10,7 @@
 #include <QObject>
 
 #include <atomic>
+#include <memory>
 #include <mutex>
 #include <optional>
 
@@ -72,6 +73,9 @@ public:
     /// From now on no run and no estimate starts; for a process that is about to end.
     void close();
 
+    /// What the active run does; null before it is known, and while none is active.
+    std::shared_ptr<const SyncPlan> runPlan() const;
+
     /// Starts a run where canSync(), else does nothing.
     void sync();
     /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any
@@ -108,6 +112,7 @@ private:
     void finishRun();
 
     // What a run asks for and tells
+    void setPlan(std::shared_ptr<const SyncPlan> plan) override;
     void setIsIndeterminate(bool indeterminate) override { m_isIndeterminate = indeterminate; }
     void setSyncBytes(quint64 total, quint64 copied) override;
     void setSyncBytesEstimate(quint64 bytes) override { m_syncBytesEstimate = bytes; }
@@ -133,6 +138,7 @@ private:
     mutable std::mutex m_volumeMutex;
     QString m_pspVolume;
     QString m_runVolume; // of the active run; empty while there is none
+    std::shared_ptr<const SyncPlan> m_runPlan;
     std::optional<VolumeIdentity> m_identity;
 
     bool m_isClosed = false; // under m_runMutex

@@ -5,6 +5,7 @@
 #include "util/Settings.h"
 
 #include <algorithm>
+#include <utility>
 
 void CVSyncManager::sync()
 {
@@ -45,6 +46,18 @@ void CVSyncManager::setRunVolume(const QString &volume)
     m_runVolume = volume;
 }
 
+void CVSyncManager::setPlan(std::shared_ptr<const SyncPlan> plan)
+{
+    const std::scoped_lock lock(m_volumeMutex);
+    m_runPlan = std::move(plan);
+}
+
+std::shared_ptr<const SyncPlan> CVSyncManager::runPlan() const
+{
+    const std::scoped_lock lock(m_volumeMutex);
+    return m_runPlan;
+}
+
 bool CVSyncManager::canSync()
 {
     return pspIsMounted() && !m_isSyncing;
@@ -78,6 +91,7 @@ void CVSyncManager::_sync(const QString &volume, std::optional<VolumeIdentity> i
 void CVSyncManager::finishRun()
 {
     setRunVolume({});
+    setPlan(nullptr);
     const bool completed = endRun();
     if (completed)
         Settings::lastSync.set(m_services.clock.now());

@@ -52,6 +52,7 @@ private:
         if (planned.action == Action::Replace) {
             m_replaced.insert(m_names.key(planned.item.destination));
             planned.isStranger = isStranger(planned.item.destination);
+            planned.freedBytes = inClusters(measured.destination.size);
         }
         m_plan.items.push_back(std::move(planned));
     }
@@ -195,7 +196,7 @@ private:
              .isUnwantedFile = isUnwantedFile(found, path),
              .isStranger = !found.isFolder && PathComponents::lastOf(path) != u".DS_Store" &&
                            isStranger(path),
-             .bytes = found.size});
+             .bytes = found.isFolder ? 0 : inClusters(found.size)});
         if (found.parent >= 0)
             --walk.childrenLeft[static_cast<size_t>(found.parent)];
     }

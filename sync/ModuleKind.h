@@ -30,3 +30,6 @@ struct ModuleKind
 
 /// All kinds in the order in which runs take them; made above the engine, which knows none.
 using ModuleCatalogue = std::vector<ModuleKind>;
+
+/// A module of each kind that takes part in what starts now, in that order.
+ModuleList modulesTakingPart(const ModuleCatalogue &catalogue, const QString &volume);

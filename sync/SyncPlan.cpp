@@ -25,6 +25,24 @@ QStringList KindPlan::inPlace(const QString &volume) const
     return paths;
 }
 
+quint64 KindPlan::clusterBytes() const
+{
+    quint64 bytes = 0;
+    for (const PlannedItem &planned : items)
+        bytes += planned.clusterBytes;
+    return bytes;
+}
+
+quint64 KindPlan::freedBytes() const
+{
+    quint64 bytes = 0;
+    for (const PlannedItem &planned : items)
+        bytes += planned.freedBytes;
+    for (const PlannedRemoval &removal : removals)
+        bytes += removal.bytes;
+    return bytes;
+}
+
 quint64 SyncPlan::syncBytesTotal() const
 {
     return sumOf(*this, [](const KindPlan &kind) { return kind.syncQueueSize; });
@@ -37,10 +55,15 @@ quint64 SyncPlan::syncBytesEstimate() const
 
 quint64 SyncPlan::clusterBytes() const
 {
-    return sumOf(*this, [](const KindPlan &kind) {
-        quint64 bytes = 0;
-        for (const PlannedItem &planned : kind.items)
-            bytes += planned.clusterBytes;
-        return bytes;
-    });
+    return sumOf(*this, [](const KindPlan &kind) { return kind.clusterBytes(); });
+}
+
+quint64 SyncPlan::freedBytes() const
+{
+    return sumOf(*this, [](const KindPlan &kind) { return kind.freedBytes(); });
+}
+
+bool SyncPlan::fitsIn(quint64 free) const
+{
+    return syncBytesTotal() < free && clusterBytes() <= free;
 }

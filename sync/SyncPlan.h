@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/files/FileError.h"
+#include "platform/files/FileManager.h"
 #include "sync/CVSyncItem.h"
 
 #include <QString>
@@ -30,6 +31,7 @@ struct PlannedItem
     Action action = Action::Copy;
     Reason reason = Reason::None; ///< why it is not copied
     quint64 clusterBytes = 0;     ///< what its copy takes of the stick
+    quint64 freedBytes = 0;       ///< what removing the replaced file gives back, in clusters
     bool isStranger = false;      ///< what is replaced was placed by no earlier sync
 
     bool isCopied() const
@@ -45,7 +47,7 @@ struct PlannedRemoval
     bool isEmptiedFolder = false; ///< goes only as long as it is empty
     bool isUnwantedFile = false;  ///< one that the kind clears away; else it is clutter
     bool isStranger = false;      ///< a file that no earlier sync placed
-    quint64 bytes = 0;
+    quint64 bytes = 0;            ///< in the stick's clusters
 };
 
 /// What a run does for one kind of media.
@@ -63,16 +65,27 @@ struct KindPlan
     quint64 syncQueueSize = 0;
 
     QStringList inPlace(const QString &volume) const;
+    /// Of the stick's clusters that the copies take; a kind that goes elsewhere takes none.
+    quint64 clusterBytes() const;
+    /// That removals and replacements give back.
+    quint64 freedBytes() const;
 };
 
 /// What a run will do, in its order. A value: making one changes nothing on the stick, and a plan
 /// that nobody carries out is a preview.
 struct SyncPlan
 {
-    std::vector<KindPlan> kinds;
+    QString volume;         ///< mount path of the stick
+    VolumeSpace space = {}; ///< of the stick, when the plan was made
+    std::vector<KindPlan> kinds = {};
 
     quint64 syncBytesTotal() const;
     quint64 syncBytesEstimate() const;
-    /// Of the stick's clusters that the copies take; kinds that go elsewhere take none.
     quint64 clusterBytes() const;
+    quint64 freedBytes() const;
+    /// Nothing is copied unless all of it fits: the bytes must leave some of those that are free
+    /// once the removals are made, and the clusters must not exceed them.
+    bool fitsIn(quint64 free) const;
+    /// Foretells it.
+    bool fits() const { return fitsIn(space.free + freedBytes()); }
 };

@@ -110,12 +110,13 @@ SyncPlanner::SyncPlanner(QString volume, ShouldStop shouldStop)
     : m_volume(std::move(volume))
     , m_shouldStop(std::move(shouldStop))
     , m_names(StickNames::of(m_volume))
+    , m_space(files().volumeSpace(m_volume).value_or(VolumeSpace()))
 {
 }
 
 SyncPlan SyncPlanner::plan(const ModuleList &modules)
 {
-    SyncPlan plan;
+    SyncPlan plan{.volume = m_volume, .space = m_space};
     for (const auto &module : modules) {
         if (m_shouldStop())
             break;
@@ -147,8 +148,7 @@ KindPlan SyncPlanner::planOf(CVSyncModule &module)
     input.items = measureItems(module, input.folders);
     input.lastIndex =
         readLastIndex(StickFiles::syncIndex(m_volume, module.moduleSaveName()), m_names);
-    if (const auto space = files().volumeSpace(m_volume))
-        input.clusterSize = space->clusterSize;
+    input.clusterSize = m_space.clusterSize;
     return Compare::plan(std::move(input), m_names);
 }
 

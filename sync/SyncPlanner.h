@@ -34,4 +34,5 @@ private:
     const QString m_volume;
     const ShouldStop m_shouldStop;
     const StickNames m_names;
+    const VolumeSpace m_space;
 };

@@ -74,7 +74,7 @@ void SyncRun::pause()
 
 void SyncRun::recordSizes()
 {
-    quint64 size = m_plan.syncBytesEstimate();
+    quint64 size = m_plan->syncBytesEstimate();
     if (m_host.shouldCancelSync())
         size -= std::min(m_host.syncBytesLeft(), size);
     Settings::lastSyncSize.set(size);

@@ -10,6 +10,8 @@
 #include <QHash>
 #include <QStringList>
 
+#include <memory>
+
 class Clock;
 
 /// What a run needs of the manager that started it. Any thread.
@@ -18,6 +20,8 @@ class SyncRunHost : public CVSyncModuleDelegate
 public:
     virtual bool shouldCancelSync() const = 0;
     virtual void cancelSync() = 0;
+    /// What the run does, once that stands.
+    virtual void setPlan(std::shared_ptr<const SyncPlan> plan) = 0;
     virtual void setIsIndeterminate(bool indeterminate) = 0;
     /// Of the run's copies; and of everything selected.
     virtual void setSyncBytes(quint64 total, quint64 copied) = 0;
@@ -64,7 +68,6 @@ private:
     void removeReplaced(const KindPlan &kind);
     void cleanUp(const KindPlan &kind, ItemPlacer *placer);
     void removePlanned(const PlannedRemoval &removal);
-    bool fits(const SyncPlan &plan, quint64 &needed) const;
     void copyKind(const KindPlan &kind, ItemPlacer &placer);
     void copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringList &index);
     void leaveOut(const PlannedItem &planned);
@@ -79,7 +82,7 @@ private:
     bool m_saidGone = false;
 
     ModuleList m_modules; // one for each kind of the plan
-    SyncPlan m_plan;
+    std::shared_ptr<const SyncPlan> m_plan = std::make_shared<SyncPlan>();
     QHash<QString, QStringList> m_indexes; // syncIndex: per save name, relative to the volume
     QStringList m_notRemoved;              // paths; their folders stay
     RunReport m_report;

@@ -9,8 +9,8 @@
 void SyncRun::cleanUp()
 {
     m_host.tell([](CVSyncManagerDelegate &delegate) { delegate.syncWillCleanUp(); });
-    for (size_t i = 0; i < m_plan.kinds.size() && !m_host.shouldCancelSync(); ++i)
-        cleanUp(m_plan.kinds[i], m_modules[i]->placer());
+    for (size_t i = 0; i < m_plan->kinds.size() && !m_host.shouldCancelSync(); ++i)
+        cleanUp(m_plan->kinds[i], m_modules[i]->placer());
     // So that the space that was freed counts in the test that follows.
     if (m_stick.isPresent())
         m_stick.flush();

@@ -7,8 +7,8 @@ void SyncRun::copy()
 {
     m_host.setIsIndeterminate(false);
     m_host.tell([](CVSyncManagerDelegate &delegate) { delegate.syncDidStart(); });
-    for (size_t i = 0; i < m_plan.kinds.size() && !m_host.shouldCancelSync(); ++i) {
-        const KindPlan &kind = m_plan.kinds[i];
+    for (size_t i = 0; i < m_plan->kinds.size() && !m_host.shouldCancelSync(); ++i) {
+        const KindPlan &kind = m_plan->kinds[i];
         m_host.tell([&kind](CVSyncManagerDelegate &delegate) {
             delegate.syncWillProcessModule(kind.moduleName);
         });

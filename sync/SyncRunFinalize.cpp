@@ -9,7 +9,7 @@ void SyncRun::finalize()
 {
     m_host.setIsIndeterminate(true);
     m_host.tell([](CVSyncManagerDelegate &delegate) { delegate.finalizeDidStart(); });
-    for (const KindPlan &kind : m_plan.kinds)
+    for (const KindPlan &kind : m_plan->kinds)
         writeIndex(kind);
     m_host.setIsIndeterminate(false);
 }

@@ -24,25 +24,24 @@ void logDecision(const PlannedItem &planned)
 void SyncRun::prepare()
 {
     makePlan();
-    for (const KindPlan &kind : m_plan.kinds) {
+    for (const KindPlan &kind : m_plan->kinds) {
         for (const FileError &error : kind.errors)
             m_host.syncModuleError(error);
         m_indexes.insert(kind.saveName, kind.inPlace(m_stick.volume()));
         removeReplaced(kind);
     }
-    m_host.setSyncBytes(m_plan.syncBytesTotal(), 0);
-    m_host.setSyncBytesEstimate(m_plan.syncBytesEstimate());
+    m_host.setSyncBytes(m_plan->syncBytesTotal(), 0);
+    m_host.setSyncBytesEstimate(m_plan->syncBytesEstimate());
 }
 
 void SyncRun::makePlan()
 {
     m_host.setSyncBytes(0, 0);
-    for (const ModuleKind &kind : m_services.catalogue) {
-        if (!kind.takesPart || kind.takesPart())
-            m_modules.push_back(kind.make(m_stick.volume()));
-    }
+    m_modules = modulesTakingPart(m_services.catalogue, m_stick.volume());
     // A cancel is looked for when the plan stands: every module has its index written at the end.
-    m_plan = SyncPlanner(m_stick.volume(), [] { return false; }).plan(m_modules);
+    m_plan = std::make_shared<const SyncPlan>(
+        SyncPlanner(m_stick.volume(), [] { return false; }).plan(m_modules));
+    m_host.setPlan(m_plan);
 }
 
 void SyncRun::removeReplaced(const KindPlan &kind)

@@ -10,6 +10,8 @@
 #include <QDBusVariant>
 #include <QHash>
 
+#include <algorithm>
+
 namespace {
 
 using Rows = QList<QVariantMap>;
@@ -83,8 +85,24 @@ QVariantMap sendable(const QVariantMap &map)
     return entries;
 }
 
-QVariantList sendable(const QVariantList &list)
+QVariant rowsFrom(const QVariantList &list)
 {
+    static const QMetaType registered = qDBusRegisterMetaType<Rows>();
+    Q_UNUSED(registered)
+    Rows rows;
+    for (const QVariant &row : list)
+        rows.append(sendable(row.toMap()));
+    return QVariant::fromValue(rows);
+}
+
+// Maps alone are rows, as lists within rows are by the protocol.
+QVariant sendable(const QVariantList &list)
+{
+    const auto isMap = [](const QVariant &element) {
+        return element.userType() == QMetaType::QVariantMap;
+    };
+    if (std::ranges::all_of(list, isMap))
+        return rowsFrom(list);
     QVariantList elements;
     for (const QVariant &element : list) {
         if (const QVariant value = sendable(element); value.isValid())
@@ -100,16 +118,6 @@ QVariant sendable(const QVariant &value)
     if (value.userType() == QMetaType::QVariantList)
         return sendable(value.toList());
     return QDBusMetaType::typeToSignature(value.metaType()) ? value : QVariant();
-}
-
-QVariant rowsFrom(const QVariantList &list)
-{
-    static const QMetaType registered = qDBusRegisterMetaType<Rows>();
-    Q_UNUSED(registered)
-    Rows rows;
-    for (const QVariant &row : list)
-        rows.append(sendable(row.toMap()));
-    return QVariant::fromValue(rows);
 }
 
 using Converter = QVariant (*)(const QVariant &);

@@ -24,5 +24,6 @@ TEST(FrontEndProtocol, MethodsHaveTheTypesThatFrontEndsKnow)
         "setSelectedMoviesIdentifiers*(as) isConvertingMovie()b addMoviesFromArray(as) "
         "removeMovieItem(a{sv}) renameMovieItem(a{sv},s) backupItems()aa{sv} "
         "setSelectedBackupIdentifiers*(as) logChanged*(s) backupSubItemsForIdentifier(s)aa{sv} "
-        "restoreBackupWithIdentifier(s) deleteBackupWithIdentifier(s) stick()a{sv}");
+        "restoreBackupWithIdentifier(s) deleteBackupWithIdentifier(s) requestPlan*() "
+        "planSummary()a{sv} planItems(s,u,u)aa{sv} stick()a{sv}");
 }

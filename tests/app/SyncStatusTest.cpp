@@ -1,6 +1,7 @@
 #include "app/SyncStatus.h"
 
 #include "app/FrontEnd.h"
+#include "app/Plans.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
 #include "support/FailingFileManager.h"
@@ -19,6 +20,8 @@ protected:
     FailingFileManager files;
     ListHarness harness;
     QMLogger logger;
+    const ModuleCatalogue kinds;
+    Plans plans{kinds, harness.manager};
     FrontEnd frontEnd;
     FakeStatusBar statusBar;
     FakeAlerts alerts;
@@ -26,10 +29,10 @@ protected:
     int opened = 0;
     StatusMenu menu{harness.manager, {}};
     StatusIcon icon{statusBar, harness.manager};
-    SyncStatus status{
-        {harness.manager, logger, frontEnd, menu, icon, alerts, sounds, harness.clock, [this] {
-             ++opened;
-         }}};
+    SyncStatus status{{harness.manager, logger, plans, frontEnd, menu, icon, alerts, sounds,
+                       harness.clock, [this] {
+                           ++opened;
+                       }}};
     const SystemLogCapture system;
 
     void SetUp() override

@@ -280,6 +280,7 @@ protected:
             {QRegularExpression(u"\\b1\\d{9}\\b"_qs), u"STAMP"_qs},
             {QRegularExpression(u"\"(capacity|free|used)\":[^,}]+"_qs), u"\"\\1\":BYTES"_qs},
             {QRegularExpression(u"(Space: +).*"_qs), u"\\1SPACE"_qs},
+            {QRegularExpression(u"[0-9.]+.[KMGT]B of [0-9.]+.[KMGT]B free"_qs), u"SPACE free"_qs},
             {QRegularExpression(u"[0-9.]+.[KMGT]B.(Available|verfügbar)"_qs), u"SPACE \\1"_qs},
         };
         text.replace(programs.path({}), QStringLiteral("PLACE/"));
