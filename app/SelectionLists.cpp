@@ -128,7 +128,7 @@ QVariantList SelectionLists::bookmarksItems() const
     const QSet<QString> selected =
         toSet(CVSyncBookmarks::selectedIdentifiersForPSP(m_manager.pspVolume()));
     QVariantList rows;
-    for (const BookmarkFolder &folder : CVSyncBookmarks::availableIdentifiers()) {
+    for (const BookmarkFolder &folder : CVSyncBookmarks::availableIdentifiers().valueOr({})) {
         if (!folder.title)
             continue;
         QVariantMap found = row(*folder.title, kindOf(folder), folder.size, selected);

@@ -1,8 +1,5 @@
 #include "fuzz/Home.h"
-#include "modules/bookmarks/own/CaminoBookmarks.h"
-#include "modules/bookmarks/own/FirefoxBookmarks.h"
-#include "modules/bookmarks/own/OmniWebBookmarks.h"
-#include "modules/bookmarks/own/SafariBookmarks.h"
+#include "modules/bookmarks/CVSyncBookmarks.h"
 
 #include <QSet>
 
@@ -10,10 +7,10 @@ namespace {
 
 const QString support = QStringLiteral("Library/Application Support/");
 
-void checkTitles(const std::vector<BookmarkFolder> &folders)
+void checkTitles(const CVSyncBookmarks::Folders &folders)
 {
     QSet<QString> titles;
-    for (const BookmarkFolder &folder : folders) {
+    for (const BookmarkFolder &folder : folders.valueOr({})) {
         promise(folder.title && !titles.contains(*folder.title), "each title comes once");
         titles.insert(*folder.title);
     }
@@ -28,14 +25,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const Home &home = Home::instance();
     home.write(support + QStringLiteral("Firefox/profiles.ini"), "[Profile0]\nPath=profile\n");
     home.write(support + QStringLiteral("Firefox/profile/bookmarks.html"), input);
-    checkTitles(parseFirefoxBookmarks());
+    checkTitles(CVSyncBookmarks::parseFirefoxBookmarks());
     home.write(support + QStringLiteral("OmniWeb 5/Bookmarks.html"), input);
-    checkTitles(parseOmniWebBookmarks());
+    checkTitles(CVSyncBookmarks::parseOmniWebBookmarks());
     home.write(support + QStringLiteral("Camino/bookmarks.plist"), input);
-    checkTitles(parseCaminoBookmarks());
+    checkTitles(CVSyncBookmarks::parseCaminoBookmarks());
     home.write(QStringLiteral("Library/Safari/Bookmarks.plist"), input);
-    readSafariBookmarks();
+    (void)CVSyncBookmarks::readSafariBookmarks();
     home.write(support + QStringLiteral("Firefox/profiles.ini"), input);
-    defaultFirefoxProfile();
+    (void)CVSyncBookmarks::defaultFirefoxProfile();
     return 0;
 }

@@ -5,7 +5,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray contents = bytesOf(data, size);
     const auto values =
-        QMINIParser::parseINI(Home::instance().write(QStringLiteral("profiles.ini"), contents));
+        QMINIParser::parseINI(Home::instance().write(QStringLiteral("profiles.ini"), contents))
+            .valueOr({});
     qsizetype total = 0;
     for (const QString &value : values)
         total += value.size();

@@ -10,7 +10,7 @@ void readMusic(const QString &path)
     const auto library = MusicLibrary::read(path, MusicLibrary::Part::Everything);
     if (!library)
         return; // what is skipped may be damaged all the same
-    promise(small.has_value(), "who can read everything can read a part");
+    promise(bool(small), "who can read everything can read a part");
     promise(small->playlists().size() == library->playlists().size(), "both have all playlists");
     for (const MusicLibrary::Playlist &playlist : library->playlists()) {
         promise(static_cast<qsizetype>(playlist.tracks.size()) <= playlist.size,
@@ -31,7 +31,7 @@ void readPhotos(const QString &path)
     const auto library = PhotoLibrary::read(path, PhotoLibrary::Part::Everything);
     if (!library)
         return; // what is skipped may be damaged all the same
-    promise(small.has_value(), "who can read everything can read a part");
+    promise(bool(small), "who can read everything can read a part");
     promise(small->albums().size() == library->albums().size(), "both have all albums");
     for (const PhotoLibrary::Album &album : library->albums()) {
         promise(album.keys.size() <= album.size, "every key is an entry");

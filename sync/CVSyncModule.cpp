@@ -44,6 +44,12 @@ std::vector<CVSyncItem> CVSyncModule::itemsToSync()
     return {};
 }
 
+void CVSyncModule::noteUnreadableLibrary(const FileError &error)
+{
+    if (!error.isMissing())
+        m_unreadableLibrary = error;
+}
+
 ItemPlacer *CVSyncModule::placer()
 {
     return nullptr;

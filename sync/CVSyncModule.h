@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/files/FileError.h"
 #include "sync/CVSyncItem.h"
 #include "sync/ItemPlacer.h"
 
@@ -8,6 +9,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// A folder that a run's clean-up walks.
@@ -46,17 +48,26 @@ public:
     /// Everything that the selection wants. Destinations are absolute and in normal form.
     virtual std::vector<CVSyncItem> itemsToSync();
 
+    /// Why a library that the selection needs, and that exists, could not be read or understood by
+    /// itemsToSync(): what it holds is not among the items. Nothing where there is no
+    /// such library, or nothing of it is selected.
+    const std::optional<FileError> &unreadableLibrary() const { return m_unreadableLibrary; }
+
     /// Who places the items; null: the stick's editor. Owned by the module.
     virtual ItemPlacer *placer();
 
 protected:
     QString pspVolume() const { return m_volume; }
     bool isSelected(const QString &identifier) const { return m_selected.contains(identifier); }
+    bool isAnythingSelected() const { return !m_selected.isEmpty(); }
+    /// For itemsToSync(), of a library that the selection needs; one that is missing is no error.
+    void noteUnreadableLibrary(const FileError &error);
 
 private:
     const QString m_volume;
     const QString m_saveName;
     const QSet<QString> m_selected;
+    std::optional<FileError> m_unreadableLibrary;
 };
 
 using ModuleList = std::vector<std::unique_ptr<CVSyncModule>>;

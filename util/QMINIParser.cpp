@@ -6,12 +6,14 @@
 #include <QStringBuilder>
 #include <QStringTokenizer>
 
-QHash<QString, QString> QMINIParser::parseINI(const QString &path)
+FileResult<QHash<QString, QString>> QMINIParser::parseINI(const QString &path)
 {
+    const FileResult<QString> text = TextFile::read(path);
+    if (!text)
+        return text.error();
     QHash<QString, QString> values;
-    const QString text = TextFile::read(path).value_or(QString());
     QStringView section;
-    for (const QStringView line : qTokenize(text, u'\n')) {
+    for (const QStringView line : qTokenize(*text, u'\n')) {
         if (StringTools::isLike(line, u"\\[*\\]")) {
             section = line.mid(1).chopped(1);
         } else if (const qsizetype equals = line.indexOf(u'='); equals >= 0) {

@@ -20,7 +20,7 @@ QString decoded(const QByteArray &bytes)
 
 } // namespace
 
-std::optional<QString> TextFile::read(const QString &path, quint64 limit)
+FileResult<QString> TextFile::read(const QString &path, quint64 limit)
 {
     const auto bytes = files().readFile(path, limit);
     if (bytes)
@@ -30,5 +30,5 @@ std::optional<QString> TextFile::read(const QString &path, quint64 limit)
             << "Can't read" << path << "which is longer than" << limit << "bytes";
     else if (!bytes.error().isMissing())
         qCWarning(lcUtil).noquote() << "Can't read" << path;
-    return std::nullopt;
+    return bytes.error();
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "platform/files/FileError.h"
 
-#include <optional>
+#include <QString>
 
 namespace TextFile {
 
@@ -10,9 +10,8 @@ namespace TextFile {
 inline constexpr quint64 defaultLimit = 64ULL << 20;
 
 /// A whole file as text: in the encoding that its byte-order mark names (the mark itself is left
-/// out), else in UTF-8, else, where it is no valid UTF-8, in Latin-1. Nothing when the file is
-/// missing, or when it is longer than the limit or can't be read, which the system log then says.
-/// Any thread.
-std::optional<QString> read(const QString &path, quint64 limit = defaultLimit);
+/// out), else in UTF-8, else, where it is no valid UTF-8, in Latin-1. One that is longer
+/// than the limit or can't be read is in the system log; one that is missing isn't. Any thread.
+FileResult<QString> read(const QString &path, quint64 limit = defaultLimit);
 
 } // namespace TextFile

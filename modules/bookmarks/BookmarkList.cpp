@@ -3,14 +3,16 @@
 #include "platform/lists/PropertyList.h"
 #include "sync/Log.h"
 
-QVariantList BookmarkList::topLevelEntries(const QString &path)
+FileResult<QVariantList> BookmarkList::topLevelEntries(const QString &path)
 {
     const FileResult<QVariantMap> root = PropertyList::readDictionary(path);
-    if (!root && !root.error().isMissing()) {
+    if (root)
+        return children(*root);
+    if (!root.error().isMissing()) {
         qCWarning(lcModules).noquote()
             << "Can't read the bookmarks" << PropertyList::logText(root.error());
     }
-    return children(root.valueOr({}));
+    return root.error();
 }
 
 QVariantList BookmarkList::children(const QVariantMap &entry)

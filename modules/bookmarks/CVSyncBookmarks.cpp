@@ -1,22 +1,17 @@
 #include "modules/bookmarks/CVSyncBookmarks.h"
 
-#include "modules/bookmarks/own/CaminoBookmarks.h"
-#include "modules/bookmarks/own/FirefoxBookmarks.h"
-#include "modules/bookmarks/own/OmniWebBookmarks.h"
-#include "modules/bookmarks/own/SafariBookmarks.h"
 #include "platform/core/Localized.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
 #include "util/Folders.h"
-#include "util/Settings.h"
 
 namespace {
 
 using Settings::BookmarkBrowser;
 
-QString progressText()
+QString progressText(BookmarkBrowser browser)
 {
-    switch (Settings::bookmarkSource()) {
+    switch (browser) {
     case BookmarkBrowser::Safari:
         return localized("Syncing Safari Bookmarks...");
     case BookmarkBrowser::Firefox:
@@ -69,9 +64,14 @@ QString CVSyncBookmarks::saveName()
     return QStringLiteral("Bookmarks");
 }
 
-std::vector<BookmarkFolder> CVSyncBookmarks::availableIdentifiers()
+CVSyncBookmarks::Folders CVSyncBookmarks::availableIdentifiers()
 {
-    switch (Settings::bookmarkSource()) {
+    return foldersOf(Settings::bookmarkSource());
+}
+
+CVSyncBookmarks::Folders CVSyncBookmarks::foldersOf(BookmarkBrowser browser)
+{
+    switch (browser) {
     case BookmarkBrowser::Safari:
         return readSafariBookmarks();
     case BookmarkBrowser::Firefox:
@@ -81,7 +81,7 @@ std::vector<BookmarkFolder> CVSyncBookmarks::availableIdentifiers()
     case BookmarkBrowser::Camino:
         return parseCaminoBookmarks();
     }
-    return {};
+    return std::vector<BookmarkFolder>();
 }
 
 std::optional<QStringList> CVSyncBookmarks::selectedIdentifiersForPSP(const QString &volume)
@@ -113,23 +113,27 @@ std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
 {
     const QString name = QStringLiteral("/bookmarks.html");
     const QString staged = Folders::support() + name;
-    const QByteArray lines = bookmarkLines();
+    const BookmarkBrowser browser = Settings::bookmarkSource();
+    const Folders folders = foldersOf(browser);
+    if (!folders && isAnythingSelected())
+        noteUnreadableLibrary(folders.error());
+    const QByteArray lines = bookmarkLines(folders);
     const auto written = files().writeAtomically(staged, header + lines + "</DL><p>");
     if (!written)
         qCWarning(lcModules).noquote().nospace()
             << "Can't write " << staged << ": " << written.error().text;
     if (lines.isEmpty())
         return {};
-    return {CVSyncItem(staged, rootSyncFolder() + name, progressText())};
+    return {CVSyncItem(staged, rootSyncFolder() + name, progressText(browser))};
 }
 
-QByteArray CVSyncBookmarks::bookmarkLines() const
+QByteArray CVSyncBookmarks::bookmarkLines(const Folders &folders) const
 {
     QByteArray lines;
     if (Settings::syncContacts())
         lines += lineFor({QStringLiteral("Caravel Contacts"),
                           QStringLiteral("file:///Caravel/Contacts/index.html")});
-    for (const BookmarkFolder &folder : availableIdentifiers()) {
+    for (const BookmarkFolder &folder : folders.valueOr({})) {
         if (!folder.title || !isSelected(*folder.title))
             continue;
         for (const Bookmark &bookmark : folder.bookmarks)

@@ -2,6 +2,7 @@
 
 #include "modules/bookmarks/BookmarkSource.h"
 #include "sync/ModuleKind.h"
+#include "util/Settings.h"
 
 #include <optional>
 #include <vector>
@@ -17,9 +18,12 @@ public:
     static ModuleKind kind();
     static QString saveName();
 
+    using Folders = FileResult<std::vector<BookmarkFolder>>;
+
     /// The top-level folders of the browser that "bookmarkSource" names, in its file's order; none
-    /// for another number. A folder is identified by its title. Any thread.
-    static std::vector<BookmarkFolder> availableIdentifiers();
+    /// for another number. A folder is identified by its title. An error, which is in the system
+    /// log unless nothing is there, where its file can't be read. Any thread, as the readers below.
+    static Folders availableIdentifiers();
     static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
     static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
 
@@ -31,6 +35,23 @@ public:
     /// file would hold no bookmark, so that the PSP's own stays.
     std::vector<CVSyncItem> itemsToSync() override;
 
+    // The readers of the browsers' own files; errors are as above.
+
+    /// Safari's top-level folders, folders of the same title included. A folder's bookmarks are its
+    /// own and those of the folders right inside it.
+    static Folders readSafariBookmarks();
+    /// Camino's top-level entries as folders, each with its own bookmarks and those of the folders
+    /// right inside it; an entry without a title is passed over.
+    static Folders parseCaminoBookmarks();
+    /// The folders of the default profile's "bookmarks.html". Only headings indented by four blanks
+    /// are folders; bookmarks below other headings go to the last such folder.
+    static Folders parseFirefoxBookmarks();
+    /// A folder without a title has no bookmarks.
+    static Folders parseOmniWebBookmarks();
+    /// The folder of Firefox's first profile, absolute; missing where "profiles.ini" names none.
+    static FileResult<QString> defaultFirefoxProfile();
+
 private:
-    QByteArray bookmarkLines() const;
+    static Folders foldersOf(Settings::BookmarkBrowser browser);
+    QByteArray bookmarkLines(const Folders &folders) const;
 };

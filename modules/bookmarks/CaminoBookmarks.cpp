@@ -1,5 +1,4 @@
-#include "modules/bookmarks/own/CaminoBookmarks.h"
-
+#include "modules/bookmarks/CVSyncBookmarks.h"
 #include "modules/bookmarks/own/BookmarkList.h"
 #include "util/StringTools.h"
 
@@ -33,12 +32,15 @@ void addChild(const QVariantMap &child, BookmarkFolderMap &folders)
 
 } // namespace
 
-std::vector<BookmarkFolder> parseCaminoBookmarks()
+CVSyncBookmarks::Folders CVSyncBookmarks::parseCaminoBookmarks()
 {
     const QString path = StringTools::expandingTilde(
         QStringLiteral("~/Library/Application Support/Camino/bookmarks.plist"));
+    const FileResult<QVariantList> entries = topLevelEntries(path);
+    if (!entries)
+        return entries.error();
     BookmarkFolderMap folders;
-    for (const QVariant &value : topLevelEntries(path)) {
+    for (const QVariant &value : *entries) {
         const QVariantMap entry = dictionary(value);
         const auto title = text(entry, QStringLiteral("Title"));
         if (!title)

@@ -1,11 +1,12 @@
-#include "modules/bookmarks/own/FirefoxBookmarks.h"
-
+#include "modules/bookmarks/CVSyncBookmarks.h"
 #include "util/Entities.h"
 #include "util/QMINIParser.h"
 #include "util/StringTools.h"
 #include "util/TextFile.h"
 
 #include <QStringTokenizer>
+
+#include <cerrno>
 
 namespace {
 
@@ -25,27 +26,31 @@ void addBookmark(QStringView line, BookmarkFolderMap &folders)
 
 } // namespace
 
-std::optional<QString> defaultFirefoxProfile()
+FileResult<QString> CVSyncBookmarks::defaultFirefoxProfile()
 {
     const QString folder =
         StringTools::expandingTilde(QStringLiteral("~/Library/Application Support/Firefox"));
-    const auto values = QMINIParser::parseINI(folder + QStringLiteral("/profiles.ini"));
-    const auto path = values.constFind(QStringLiteral("Profile0-Path"));
-    if (path == values.constEnd())
-        return std::nullopt;
+    const QString list = folder + QStringLiteral("/profiles.ini");
+    const auto values = QMINIParser::parseINI(list);
+    if (!values)
+        return values.error();
+    const auto path = values->constFind(QStringLiteral("Profile0-Path"));
+    if (path == values->constEnd())
+        return FileError::of(FileError::Operation::Read, list, ENOENT);
     return StringTools::appendingPathComponent(folder, *path);
 }
 
-std::vector<BookmarkFolder> parseFirefoxBookmarks()
+CVSyncBookmarks::Folders CVSyncBookmarks::parseFirefoxBookmarks()
 {
-    const std::optional<QString> profile = defaultFirefoxProfile();
+    const FileResult<QString> profile = defaultFirefoxProfile();
     if (!profile)
-        return {};
-    const QString path =
-        StringTools::appendingPathComponent(*profile, QStringLiteral("bookmarks.html"));
-    const QString text = TextFile::read(path).value_or(QString());
+        return profile.error();
+    const FileResult<QString> text = TextFile::read(
+        StringTools::appendingPathComponent(*profile, QStringLiteral("bookmarks.html")));
+    if (!text)
+        return text.error();
     BookmarkFolderMap folders;
-    for (const QStringView line : qTokenize(text, u'\n')) {
+    for (const QStringView line : qTokenize(*text, u'\n')) {
         if (StringTools::isLike(line, u"    <DT><H3*</H3>"))
             addHeading(line, folders);
         else if (StringTools::isLike(line, u"*<DT><A*</A>"))

@@ -1,5 +1,4 @@
-#include "modules/bookmarks/own/OmniWebBookmarks.h"
-
+#include "modules/bookmarks/CVSyncBookmarks.h"
 #include "util/Entities.h"
 #include "util/StringTools.h"
 #include "util/TextFile.h"
@@ -10,13 +9,19 @@ namespace {
 
 constexpr QStringView titleEnd = u"</a>";
 
-// Ids have one to five characters; any other is taken to have one.
+// Ids have one to five characters; any other is taken to have one. Each ">" that could end one
+// counts, those of a title too.
 qsizetype headingTitleStart(QStringView line)
 {
     constexpr qsizetype idStart = QStringView(u"<dt><h3><a bookmarkid=").size();
     constexpr qsizetype longestId = 5;
-    const qsizetype idLength = line.indexOf(u'>', idStart) - idStart;
-    return idStart + 1 + (idLength > 1 && idLength <= longestId ? idLength : 1);
+    const QStringView front = line.chopped(QStringView(u"</a></h3>").size());
+    qsizetype start = idStart + 2;
+    for (qsizetype length = 2; length <= longestId; ++length) {
+        if (idStart + length < front.size() && front[idStart + length] == u'>')
+            start += length - 1;
+    }
+    return start;
 }
 
 std::optional<QString> decodedTitle(QStringView line, qsizetype start)
@@ -38,14 +43,16 @@ std::optional<Bookmark> bookmarkOf(QStringView line)
 
 } // namespace
 
-std::vector<BookmarkFolder> parseOmniWebBookmarks()
+CVSyncBookmarks::Folders CVSyncBookmarks::parseOmniWebBookmarks()
 {
     const QString path = StringTools::expandingTilde(
         QStringLiteral("~/Library/Application Support/OmniWeb 5/Bookmarks.html"));
-    const QString text = TextFile::read(path).value_or(QString());
+    const FileResult<QString> text = TextFile::read(path);
+    if (!text)
+        return text.error();
     BookmarkFolderMap folders;
     QString current;
-    for (const QStringView line : qTokenize(text, u'\n')) {
+    for (const QStringView line : qTokenize(*text, u'\n')) {
         if (StringTools::isLike(line, u"<dt><h3><a bookmarkid=*>*</a></h3>")) {
             if (const auto title = decodedTitle(line, headingTitleStart(line))) {
                 current = *title;

@@ -1,5 +1,4 @@
-#include "modules/bookmarks/own/SafariBookmarks.h"
-
+#include "modules/bookmarks/CVSyncBookmarks.h"
 #include "modules/bookmarks/own/BookmarkList.h"
 #include "util/StringTools.h"
 
@@ -51,12 +50,15 @@ BookmarkFolder folderOf(const QVariantMap &node)
 
 } // namespace
 
-std::vector<BookmarkFolder> readSafariBookmarks()
+CVSyncBookmarks::Folders CVSyncBookmarks::readSafariBookmarks()
 {
     const QString path =
         StringTools::expandingTilde(QStringLiteral("~/Library/Safari/Bookmarks.plist"));
+    const FileResult<QVariantList> entries = topLevelEntries(path);
+    if (!entries)
+        return entries.error();
     std::vector<BookmarkFolder> folders;
-    for (const QVariant &entry : topLevelEntries(path)) {
+    for (const QVariant &entry : *entries) {
         if (const QVariantMap node = dictionary(entry); kindOf(node) == Kind::Folder)
             folders.push_back(folderOf(node));
     }

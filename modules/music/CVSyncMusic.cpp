@@ -30,10 +30,13 @@ bool isPlayable(const MusicLibrary::Track &track, qint64 firmware)
 {
     if (!track.isFile || track.isLossless || !track.location)
         return false;
-    const auto dot = track.location->rfind('.');
-    if (dot == std::string_view::npos || track.location->size() - dot > 5)
+    // Some URLs of files end as those of folders do.
+    const std::string_view location =
+        track.location->substr(0, track.location->find_last_not_of('/') + 1);
+    const auto dot = location.rfind('.');
+    if (dot == std::string_view::npos || location.size() - dot > 5)
         return false;
-    const std::string_view extension = track.location->substr(dot + 1);
+    const std::string_view extension = location.substr(dot + 1);
     return MusicNaming::isPlayable(QString::fromUtf8(extension), firmware);
 }
 
@@ -58,11 +61,13 @@ QString CVSyncMusic::saveName()
     return QStringLiteral("Music");
 }
 
-std::optional<std::vector<MusicLibrary::Playlist>> CVSyncMusic::availableIdentifiers()
+FileResult<std::vector<MusicLibrary::Playlist>> CVSyncMusic::availableIdentifiers()
 {
     FileManagerTools::createPath(dropbox());
     const auto library = MusicLibrary::read(libraryPath(), MusicLibrary::Part::PlaylistsOnly);
-    return library ? std::optional(library->playlists()) : std::nullopt;
+    if (!library)
+        return library.error();
+    return library->playlists();
 }
 
 std::optional<QStringList> CVSyncMusic::selectedIdentifiersForPSP(const QString &volume)
@@ -99,11 +104,14 @@ std::vector<CVSyncItem> CVSyncMusic::itemsToSync()
     return items;
 }
 
-void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items) const
+void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items)
 {
     const auto library = MusicLibrary::read(libraryPath(), MusicLibrary::Part::Everything);
-    if (!library)
+    if (!library) {
+        if (isAnythingSelected())
+            noteUnreadableLibrary(library.error());
         return;
+    }
     const bool detailed = Settings::useDetailedLogging();
     const qint64 firmware = Settings::firmwareVersion();
     const QString root = rootSyncFolder() + u'/';

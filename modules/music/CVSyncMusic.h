@@ -17,9 +17,9 @@ public:
     static ModuleKind kind();
     static QString saveName();
 
-    /// The library's playlists in file order; nothing where no library can be read. Makes the music
+    /// The library's playlists in file order; errors are those of MusicLibrary. Makes the music
     /// dropbox folder where it is missing. Any thread.
-    static std::optional<std::vector<MusicLibrary::Playlist>> availableIdentifiers();
+    static FileResult<std::vector<MusicLibrary::Playlist>> availableIdentifiers();
     static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
     static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
 
@@ -29,6 +29,6 @@ public:
     std::vector<CVSyncItem> itemsToSync() override;
 
 private:
-    void addLibraryItems(std::vector<CVSyncItem> &items) const;
+    void addLibraryItems(std::vector<CVSyncItem> &items);
     void addDropboxItems(std::vector<CVSyncItem> &items) const;
 };

@@ -142,14 +142,14 @@ MusicLibrary::Place MusicLibrary::Reader::keep(std::string_view text)
     return {offset, static_cast<std::uint32_t>(text.size())};
 }
 
-std::optional<MusicLibrary> MusicLibrary::read(const QString &path, Part part)
+FileResult<MusicLibrary> MusicLibrary::read(const QString &path, Part part)
 {
     MusicLibrary library;
     if (const FileResult<> done = Reader(library, part).read(path); !done) {
         const FileError &error = done.error();
         if (!error.isMissing())
             qCWarning(lcModules).noquote() << "Can't read the music library" << path << error.text;
-        return std::nullopt;
+        return error;
     }
     library.sortTracks();
     return library;

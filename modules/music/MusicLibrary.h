@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files/FileError.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -44,9 +46,9 @@ public:
     /// Whether a reader needs the tracks or the playlists alone.
     enum class Part { PlaylistsOnly, Everything };
 
-    /// Nothing where there is no library file; nothing, and a line in the system log that says what
-    /// is wrong and where, when the file can't be read. Any thread.
-    static std::optional<MusicLibrary> read(const QString &path, Part part);
+    /// Errors are those of readPropertyList(); of one but that the file is missing a line in the
+    /// system log says what is wrong and where. Any thread.
+    static FileResult<MusicLibrary> read(const QString &path, Part part);
 
     MusicLibrary(MusicLibrary &&) noexcept = default;
     MusicLibrary &operator=(MusicLibrary &&) noexcept = default;

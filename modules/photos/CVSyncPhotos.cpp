@@ -75,10 +75,12 @@ QString CVSyncPhotos::saveName()
     return QStringLiteral("Photos");
 }
 
-std::optional<std::vector<PhotoLibrary::Album>> CVSyncPhotos::availableIdentifiers()
+FileResult<std::vector<PhotoLibrary::Album>> CVSyncPhotos::availableIdentifiers()
 {
     const auto library = PhotoLibrary::read(libraryPath(), PhotoLibrary::Part::AlbumsOnly);
-    return library ? std::optional(library->albums()) : std::nullopt;
+    if (!library)
+        return library.error();
+    return library->albums();
 }
 
 std::optional<QStringList> CVSyncPhotos::selectedIdentifiersForPSP(const QString &volume)
@@ -115,11 +117,14 @@ std::vector<CVSyncItem> CVSyncPhotos::itemsToSync()
     return items;
 }
 
-void CVSyncPhotos::addAlbumItems(std::vector<CVSyncItem> &items) const
+void CVSyncPhotos::addAlbumItems(std::vector<CVSyncItem> &items)
 {
     const auto library = PhotoLibrary::read(libraryPath(), PhotoLibrary::Part::Everything);
-    if (!library)
+    if (!library) {
+        if (isAnythingSelected())
+            noteUnreadableLibrary(library.error());
         return;
+    }
     for (const PhotoLibrary::Album &album : library->albums()) {
         if (album.name && isSelected(*album.name))
             addAlbum(*library, album, items);

@@ -16,8 +16,8 @@ public:
     static ModuleKind kind();
     static QString saveName();
 
-    /// The library's albums in file order; nothing where no library can be read. Any thread.
-    static std::optional<std::vector<PhotoLibrary::Album>> availableIdentifiers();
+    /// The library's albums in file order; errors are those of PhotoLibrary. Any thread.
+    static FileResult<std::vector<PhotoLibrary::Album>> availableIdentifiers();
     static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
     static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
 
@@ -27,7 +27,7 @@ public:
     std::vector<CVSyncItem> itemsToSync() override;
 
 private:
-    void addAlbumItems(std::vector<CVSyncItem> &items) const;
+    void addAlbumItems(std::vector<CVSyncItem> &items);
     void addAlbum(const PhotoLibrary &library, const PhotoLibrary::Album &album,
                   std::vector<CVSyncItem> &items) const;
     void addDropboxItems(std::vector<CVSyncItem> &items) const;

@@ -93,7 +93,7 @@ PhotoLibrary::Reader::Place PhotoLibrary::Reader::images()
     });
 }
 
-std::optional<PhotoLibrary> PhotoLibrary::read(const QString &path, Part part)
+FileResult<PhotoLibrary> PhotoLibrary::read(const QString &path, Part part)
 {
     PhotoLibrary library;
     const FileResult<> done = Reader(library, part).read(path);
@@ -103,7 +103,7 @@ std::optional<PhotoLibrary> PhotoLibrary::read(const QString &path, Part part)
         qCWarning(lcModules).noquote()
             << "Can't read the photo library" << PropertyList::logText(done.error());
     }
-    return std::nullopt;
+    return done.error();
 }
 
 const PhotoLibrary::Image *PhotoLibrary::image(const QString &key) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files/FileError.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -28,9 +30,10 @@ public:
 
     enum class Part { AlbumsOnly, Everything };
 
-    /// Reads the file as a stream, keeping what is asked for. Nothing where there is no such file,
-    /// or it is no usable list, which the system log then says with its line. Any thread.
-    static std::optional<PhotoLibrary> read(const QString &path, Part part);
+    /// Reads the file as a stream, keeping what is asked for. Errors are those of
+    /// readPropertyList(); one but that the file is missing is in the system log, with its line.
+    /// Any thread.
+    static FileResult<PhotoLibrary> read(const QString &path, Part part);
 
     /// In file order.
     const std::vector<Album> &albums() const { return m_albums; }

@@ -138,5 +138,7 @@ std::string SyncHarness::wishes(CVSyncModule &&module)
     for (const CVSyncItem &item : module.itemsToSync())
         all.append(item.destination.mid(module.rootSyncFolder().size() + 1) + u" < "_s +
                    item.source.section(u'/', -1));
+    if (const auto &unreadable = module.unreadableLibrary())
+        all.append(u"unreadable: "_s + unreadable->path.section(u'/', -1));
     return joined(all);
 }

@@ -179,7 +179,8 @@ public:
     QStringList index(const QString &saveName) const;
     /// The archived number of the stick's "LastSyncSize"; 0 where there is none.
     quint64 lastSyncSizeOnStick() const;
-    /// What a kind wants: "place below its folder < source's name", a line each.
+    /// What a kind wants: "place below its folder < source's name", a line each; then "unreadable:"
+    /// and its library's name where that is so.
     static std::string wishes(CVSyncModule &&module);
 
     RecordingDelegate delegate;

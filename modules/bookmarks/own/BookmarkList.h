@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files/FileError.h"
+
 #include <QString>
 #include <QVariantList>
 #include <QVariantMap>
@@ -10,9 +12,9 @@
 /// the one asked for counts as absent.
 namespace BookmarkList {
 
-/// The array under "Children" of the list's root. Empty where the file is missing; where it can't
-/// be read, the system log says why. Any thread.
-QVariantList topLevelEntries(const QString &path);
+/// The array under "Children" of the list's root. Errors are those of readPropertyList(); one but
+/// that the file is missing is in the system log. Any thread.
+FileResult<QVariantList> topLevelEntries(const QString &path);
 
 /// The entry's own children.
 QVariantList children(const QVariantMap &entry);

@@ -83,21 +83,25 @@ TEST_F(CVSyncMusicTest, NumbersWhatIsPlayableInEachSelectedPlaylist)
                                  file + Library::string("Location", u"https://host/6.mp3"_s),
                                  file + at("7.AAC"),
                                  file + at("%00.mp3"),
-                                 file + at("9.wav")};
-    for (int id = 0; id < 10; ++id)
+                                 file + at("9.wav"),
+                                 file + at("10.mp3/")};
+    for (int id = 0; id < 11; ++id)
         library.addTrack(id, tracks[id]);
-    library.addPlaylist(u"Trip"_s, {99, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
+    library.addPlaylist(u"Trip"_s, {99, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
     library.addPlaylist(u"Trip"_s, {9});
     harness.set(u"organizeMusicBy", 0);
     harness.set(u"sortMusicBy", 0);
     EXPECT_EQ(wishes(), "Trip/000. Unsorted - Untitled.mp3 < 0.mp3\n"
                         "Trip/002. Unsorted - Untitled.MP4 < 7.AAC\n"
                         "Trip/004. Unsorted - Untitled.wav < 9.wav\n"
+                        "Trip/005. Unsorted - Untitled.mp3 < 10.mp3\n"
                         "Trip/000. Unsorted - Untitled.wav < 9.wav");
     harness.set(u"firmwareVersion", 0);
-    EXPECT_EQ(wishes(), "Trip/000. Unsorted - Untitled.mp3 < 0.mp3");
+    EXPECT_EQ(wishes(), "Trip/000. Unsorted - Untitled.mp3 < 0.mp3\n"
+                        "Trip/002. Unsorted - Untitled.mp3 < 10.mp3");
     harness.set(u"enabledMusic", QStringList());
     EXPECT_EQ(wishes(), "");
+    EXPECT_EQ(wishesOf("garbage"), "") << "a library that nobody asks for";
 }
 
 TEST_F(CVSyncMusicTest, KeepsEveryNameInItsPlace)
@@ -148,7 +152,8 @@ TEST_F(CVSyncMusicTest, TakesWhatItCanOfLibrariesAndTheDropbox)
     };
     for (const auto &c : cases) {
         const SystemLogCapture log;
-        EXPECT_EQ(wishesOf(c.file), dropped) << c.file.constData();
+        const char *const library = c.said ? "\nunreadable: iTunes Music Library.xml" : "";
+        EXPECT_EQ(wishesOf(c.file), dropped + library) << c.file.constData();
         EXPECT_EQ(log.contains(path), c.said != nullptr) << c.file.constData();
         EXPECT_TRUE(!c.said || log.contains(QLatin1String(c.said))) << joined(log.lines());
     }

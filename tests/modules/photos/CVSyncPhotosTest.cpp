@@ -91,11 +91,13 @@ TEST_F(CVSyncPhotosTest, FindsTheLibraryAndTheDropbox)
                                   PropertyList::toXml(QVariantList{1}), QByteArray()}) {
         const SystemLogCapture log;
         EXPECT_EQ(wishesOf(bad), "Cards/front.png < front.png\nback.JPEG < back.JPEG\n"
-                                 "x.jpg/y.bmp < y.bmp\nz.TIFF < z.TIFF");
+                                 "x.jpg/y.bmp < y.bmp\nz.TIFF < z.TIFF\n"
+                                 "unreadable: AlbumData.xml");
         EXPECT_FALSE(CVSyncPhotos::availableIdentifiers());
         EXPECT_TRUE(log.contains(path)) << bad.constData();
     }
     harness.set(u"firmwareVersion", 0);
+    harness.set(u"enabledPhotos", QStringList());
     EXPECT_EQ(wishes(), "back.JPEG < back.JPEG");
     harness.set(u"syncDropboxes", false);
     EXPECT_EQ(wishes(), "");
