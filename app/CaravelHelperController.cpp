@@ -322,7 +322,7 @@ void CaravelHelperController::quit()
     const bool finishedAll = Workers::serveUntilFinished(quitPatience);
     m_helperConnection.invalidate();
     m_helperConnection.flush();
-    UserDefaults::standard().synchronize();
+    UserDefaults::standard().synchronize(std::chrono::seconds(1));
     if (!finishedAll) {
         // A thread that hangs in a read of a dying stick must not meet destructors.
         qCWarning(lcApp) << "A sync didn't end in time; leaving without it";

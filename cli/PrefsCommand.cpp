@@ -120,7 +120,7 @@ ExitStatus setOne(const QString &name, const QString &text)
     }
     UserDefaults &store = UserDefaults::standard();
     store.setObject(name, *value);
-    if (!store.synchronize()) {
+    if (!store.synchronize(std::chrono::seconds(1))) {
         Output::error(QStringLiteral("the preferences can't be written"));
         return Refused;
     }

@@ -6,6 +6,8 @@ namespace Settings {
 
 namespace {
 
+const QString selectionPrefix = QStringLiteral("enabled");
+
 UserDefaults &store()
 {
     return UserDefaults::standard();
@@ -67,7 +69,7 @@ bool takesPart(const QString &saveName)
 
 QString selectionKey(const QString &saveName)
 {
-    return QStringLiteral("enabled") + saveName;
+    return selectionPrefix + saveName;
 }
 
 std::optional<QStringList> selection(const QString &saveName)
@@ -78,6 +80,11 @@ std::optional<QStringList> selection(const QString &saveName)
 void setSelection(const QString &saveName, const QStringList &identifiers)
 {
     store().setObject(selectionKey(saveName), identifiers);
+}
+
+bool isSelectionLost()
+{
+    return store().wasSetAside() && !store().isAnySet(selectionPrefix);
 }
 
 QVariant Key::value() const

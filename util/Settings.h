@@ -142,6 +142,9 @@ QString selectionKey(const QString &saveName);
 /// What is selected there; nothing where that was never stored.
 std::optional<QStringList> selection(const QString &saveName);
 void setSelection(const QString &saveName, const QStringList &identifiers);
+/// Whether what was selected is gone with preferences that were damaged and had to be set aside: no
+/// selection, of any kind, has been stored since. Asks the disk.
+bool isSelectionLost();
 
 // --- All of them
 

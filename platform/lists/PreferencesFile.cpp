@@ -2,9 +2,9 @@
 
 #include "platform/lists/PropertyList.h"
 
-#include <chrono>
-
 namespace {
+
+const QString asideSuffix = QStringLiteral(".unreadable");
 
 bool makeFolder(const QString &path)
 {
@@ -39,12 +39,12 @@ PreferencesContents PreferencesFile::read() const
     return {isDamaged ? State::Damaged : State::NoAccess, {}, error};
 }
 
-FileResult<FileLock> PreferencesFile::lock() const
+FileResult<FileLock> PreferencesFile::lock(std::chrono::milliseconds limit) const
 {
     using Operation = FileError::Operation;
     if (!makeFolder(m_folder))
         return FileError{Operation::Create, m_folder, 0, QStringLiteral("can't create the folder")};
-    return files().lock(m_lockPath, std::chrono::seconds(1));
+    return files().lock(m_lockPath, limit);
 }
 
 FileResult<> PreferencesFile::write(const QVariantMap &values) const
@@ -54,8 +54,13 @@ FileResult<> PreferencesFile::write(const QVariantMap &values) const
 
 std::optional<QString> PreferencesFile::setAside() const
 {
-    const QString aside = m_path + QStringLiteral(".unreadable");
-    if (!files().linkStatus(aside).isFolder())
-        files().remove(aside, nullptr);
+    QString aside = m_path + asideSuffix;
+    for (int number = 2; files().linkStatus(aside).exists(); ++number)
+        aside = m_path + asideSuffix + u'.' + QString::number(number);
     return files().move(m_path, aside, nullptr) ? std::optional(aside) : std::nullopt;
+}
+
+bool PreferencesFile::wasSetAside() const
+{
+    return files().linkStatus(m_path + asideSuffix).exists();
 }

@@ -7,7 +7,9 @@
 #include "platform/lists/own/PreferencesFile.h"
 
 #include <QDir>
+#include <QTimer>
 
+#include <cerrno>
 #include <chrono>
 #include <utility>
 
@@ -108,6 +110,18 @@ std::optional<QStringList> UserDefaults::stringArrayForKey(const QString &key) c
     return PropertyList::stringsIn(value.toList());
 }
 
+bool UserDefaults::isAnySet(QStringView prefix) const
+{
+    const std::scoped_lock lock(m_mutex);
+    const auto first = m_stored.lowerBound(prefix.toString());
+    return first != m_stored.end() && first.key().startsWith(prefix);
+}
+
+bool UserDefaults::wasSetAside() const
+{
+    return m_file->wasSetAside();
+}
+
 void UserDefaults::setObject(const QString &key, const QVariant &value)
 {
     const QVariant stored = asStored(value);
@@ -136,14 +150,14 @@ void UserDefaults::announce()
     Q_EMIT changed();
 }
 
-bool UserDefaults::synchronize()
+bool UserDefaults::synchronize(std::chrono::milliseconds patience)
 {
     const std::scoped_lock lock(m_synchronizing);
     const QVariantMap changes = ownChanges();
     const std::optional<FileStamp> stamp = m_file->stamp();
     if (changes.isEmpty() && stamp && stamp == m_lastRead)
         return true;
-    const bool done = exchange(changes);
+    const bool done = exchange(changes, patience);
     // Files replaced within one tick of their file system's clock look alike: only a file that had
     // been at rest can be known again.
     constexpr qint64 rest = 3'000'000'000;
@@ -163,16 +177,19 @@ QVariantMap UserDefaults::ownChanges() const
 }
 
 /// Reads the file, puts our changes over what it holds, and writes it when that made a difference.
-bool UserDefaults::exchange(const QVariantMap &changes)
+bool UserDefaults::exchange(const QVariantMap &changes, std::chrono::milliseconds patience)
 {
     if (changes.isEmpty()) {
-        if (const std::optional<QVariantMap> contents = readFile())
+        if (const std::optional<QVariantMap> contents = readFile(patience))
             adopt(*contents, {});
         return true;
     }
-    const FileResult<FileLock> lock = m_file->lock();
-    if (!lock)
+    const FileResult<FileLock> lock = m_file->lock(patience);
+    if (!lock) {
+        if (lock.error().number == EWOULDBLOCK)
+            tryAgainSoon();
         return writingFailed(lock.error());
+    }
     const std::optional<QVariantMap> contents = readLockedFile();
     if (!contents)
         return false;
@@ -181,6 +198,19 @@ bool UserDefaults::exchange(const QVariantMap &changes)
     const bool written = !changeAny(changes, *contents) || write(merged);
     adopt(merged, written ? changes : QVariantMap());
     return written;
+}
+
+void UserDefaults::tryAgainSoon()
+{
+    if (m_retryQueued.exchange(true))
+        return;
+    const auto again = [this] {
+        m_retryQueued = false;
+        synchronize();
+    };
+    performOnMainThread(
+        this, [this, again] { QTimer::singleShot(std::chrono::seconds(1), this, again); },
+        CallMode::DontWait);
 }
 
 bool UserDefaults::write(const QVariantMap &values)
@@ -209,13 +239,13 @@ void UserDefaults::adopt(const QVariantMap &contents, const QVariantMap &written
 }
 
 /// Empty where no file is; nothing where there is one that must not be touched.
-std::optional<QVariantMap> UserDefaults::readFile()
+std::optional<QVariantMap> UserDefaults::readFile(std::chrono::milliseconds patience)
 {
     const PreferencesContents contents = m_file->read();
     if (contents.state != PreferencesContents::State::Damaged)
         return valuesOf(contents);
     // Another process may be setting the file aside or replacing it right now.
-    const FileResult<FileLock> lock = m_file->lock();
+    const FileResult<FileLock> lock = m_file->lock(patience);
     return lock ? readLockedFile() : valuesOf(contents);
 }
 
@@ -278,7 +308,7 @@ bool UserDefaults::editPersistentDomain(const QString &name,
         qCWarning(lcPlatform).noquote() << "can't edit" << file.path() << "-" << reason;
         return false;
     };
-    const FileResult<FileLock> lock = file.lock();
+    const FileResult<FileLock> lock = file.lock(std::chrono::seconds(1));
     if (!lock)
         return failed(lock.error().text);
     const PreferencesContents before = file.read();

@@ -8,6 +8,7 @@
 #include <QVariantMap>
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -46,6 +47,10 @@ public:
     /// before, or the registered ones.
     bool isReadable() const { return m_isReadable; }
 
+    /// Whether a damaged file had to be set aside, by any process and at any time; the user may
+    /// take it away from there. Any thread; asks the disk.
+    bool wasSetAside() const;
+
     /// Values for keys that nobody has set; kept in memory only.
     void registerDefaults(const QVariantMap &defaults);
 
@@ -56,6 +61,8 @@ public:
     quint64 unsignedForKey(const QString &key) const;
     QString stringForKey(const QString &key) const;
     std::optional<QDateTime> dateForKey(const QString &key) const;
+    /// Whether any key that begins so is set; registered ones don't count.
+    bool isAnySet(QStringView prefix) const;
     /// Nothing where the key is absent or no array; entries that are no strings are left out.
     std::optional<QStringList> stringArrayForKey(const QString &key) const;
 
@@ -68,11 +75,11 @@ public:
     /// Writes this process's changes into the file (only the keys changed here; all else in the
     /// file stays) and reads what others wrote. Atomic, and safe against other processes and
     /// threads that do the same. False when the file could not be written, or another writer kept
-    /// it locked for over a second: the changes are kept for the next time. A file that can't be
-    /// parsed is kept aside as "<name>.plist.unreadable", said once in the system log; one that
-    /// can't be read from the disk is left as it is, and nothing is written over it. Does not emit
-    /// changed().
-    bool synchronize();
+    /// it locked for so long: the changes are kept for the next time, which in the latter case
+    /// comes by itself in a second. A file that can't be parsed is kept aside as
+    /// "<name>.plist.unreadable", said once in the system log; one that can't be read from the disk
+    /// is left as it is, and nothing is written over it. Does not emit changed().
+    bool synchronize(std::chrono::milliseconds patience = std::chrono::milliseconds(100));
 
     /// Another domain, read from its file at each call; nothing where it is missing or unreadable
     /// (an unreadable one is named in the system log and left alone).
@@ -93,10 +100,11 @@ Q_SIGNALS:
 private:
     void announce();
     QVariantMap ownChanges() const;
-    bool exchange(const QVariantMap &changes);
+    bool exchange(const QVariantMap &changes, std::chrono::milliseconds patience);
+    void tryAgainSoon();
     bool write(const QVariantMap &values);
     void adopt(const QVariantMap &contents, const QVariantMap &written);
-    std::optional<QVariantMap> readFile();
+    std::optional<QVariantMap> readFile(std::chrono::milliseconds patience);
     std::optional<QVariantMap> readLockedFile();
     std::optional<QVariantMap> valuesOf(const PreferencesContents &contents);
     bool writingFailed(const FileError &error);
@@ -104,6 +112,7 @@ private:
     const QString m_folder;
     const std::unique_ptr<const PreferencesFile> m_file;
     std::atomic<bool> m_notificationQueued = false;
+    std::atomic<bool> m_retryQueued = false;
     std::atomic<bool> m_isReadable = true; // as the last read found the file
 
     std::mutex m_synchronizing; // held through a synchronize(), before m_mutex; guards what follows

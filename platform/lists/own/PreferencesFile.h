@@ -5,6 +5,7 @@
 
 #include <QVariantMap>
 
+#include <chrono>
 #include <optional>
 
 /// What a look at a domain's file found.
@@ -36,15 +37,16 @@ public:
     PreferencesContents read() const;
 
     /// Keeps all other writers away while the lock lives; makes the folder where it is missing.
-    /// Fails, for logs with the text, where that takes longer than a second.
-    FileResult<FileLock> lock() const;
+    /// Fails, for logs with the text, where that takes longer than the limit (with EWOULDBLOCK).
+    FileResult<FileLock> lock(std::chrono::milliseconds limit) const;
 
     /// Replaces the file, atomically.
     FileResult<> write(const QVariantMap &values) const;
 
-    /// Under the lock: keeps the file as "<domain>.plist.unreadable", in place of an older such
-    /// file. The new path; nothing where the file had to stay.
+    /// Under the lock: keeps the file as "<domain>.plist.unreadable", with a number behind it where
+    /// earlier ones are kept. The new path; nothing where the file had to stay.
     std::optional<QString> setAside() const;
+    bool wasSetAside() const;
 
     /// Tells that the file is still the one that was read; nothing where there is none.
     std::optional<FileStamp> stamp() const { return files().stamp(m_path); }
