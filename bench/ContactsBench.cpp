@@ -23,7 +23,7 @@ class CardFolder : public AddressBook
 public:
     CardFolder() { setSharedAddressBook(this); }
     ~CardFolder() override { setSharedAddressBook(nullptr); }
-    std::vector<Person> people() override { return vCardPeople(folder.path()); }
+    People people() override { return vCardPeople(folder.path()); }
 
     Workbench folder;
 };
@@ -100,7 +100,7 @@ void readCards(benchmark::State &state, Pictures pictures)
     writeFile(book.folder / QStringLiteral("all.vcf"), cards(pictures));
     size_t people = 0;
     for (auto _ : state)
-        people = book.people().size();
+        people = book.people().people.size();
     if (people != size_t(countOf(pictures)))
         state.SkipWithError("not everybody was found");
 }
@@ -110,7 +110,7 @@ void renderPictures(benchmark::State &state)
 {
     CardFolder book;
     writeFile(book.folder / QStringLiteral("all.vcf"), cards(Pictures::New));
-    const std::vector<Person> people = book.people();
+    const std::vector<Person> people = book.people().people;
     for (auto _ : state)
         for (const Person &person : people)
             benchmark::DoNotOptimize(ContactPicture::render(person.image.bytes, person.uid));

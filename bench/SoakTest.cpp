@@ -13,7 +13,7 @@ namespace {
 /// The desktop's own service has a test of its own.
 class NoAddressBook : public AddressBook
 {
-    std::vector<Person> people() override { return {}; }
+    People people() override { return {}; }
 };
 
 } // namespace

@@ -7,7 +7,7 @@ namespace {
 
 const QString support = QStringLiteral("Library/Application Support/");
 
-void checkTitles(const CVSyncBookmarks::Folders &folders)
+void checkTitles(const CVSyncBookmarks::FolderList &folders)
 {
     QSet<QString> titles;
     for (const BookmarkFolder &folder : folders.valueOr({})) {

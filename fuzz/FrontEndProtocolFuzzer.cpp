@@ -31,7 +31,7 @@ const char *const placed[] = {
 
 class NoAddressBook : public AddressBook
 {
-    std::vector<Person> people() override { return {}; }
+    People people() override { return {}; }
 };
 
 /// What lies where the system has no files.

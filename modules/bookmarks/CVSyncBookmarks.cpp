@@ -64,12 +64,12 @@ QString CVSyncBookmarks::saveName()
     return QStringLiteral("Bookmarks");
 }
 
-CVSyncBookmarks::Folders CVSyncBookmarks::availableIdentifiers()
+CVSyncBookmarks::FolderList CVSyncBookmarks::availableIdentifiers()
 {
     return foldersOf(Settings::bookmarkSource());
 }
 
-CVSyncBookmarks::Folders CVSyncBookmarks::foldersOf(BookmarkBrowser browser)
+CVSyncBookmarks::FolderList CVSyncBookmarks::foldersOf(BookmarkBrowser browser)
 {
     switch (browser) {
     case BookmarkBrowser::Safari:
@@ -114,7 +114,7 @@ std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
     const QString name = QStringLiteral("/bookmarks.html");
     const QString staged = Folders::support() + name;
     const BookmarkBrowser browser = Settings::bookmarkSource();
-    const Folders folders = foldersOf(browser);
+    const FolderList folders = foldersOf(browser);
     if (!folders && isAnythingSelected())
         noteUnreadableLibrary(folders.error());
     const QByteArray lines = bookmarkLines(folders);
@@ -127,7 +127,7 @@ std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
     return {CVSyncItem(staged, rootSyncFolder() + name, progressText(browser))};
 }
 
-QByteArray CVSyncBookmarks::bookmarkLines(const Folders &folders) const
+QByteArray CVSyncBookmarks::bookmarkLines(const FolderList &folders) const
 {
     QByteArray lines;
     if (Settings::syncContacts())

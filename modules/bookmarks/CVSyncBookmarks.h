@@ -18,12 +18,12 @@ public:
     static ModuleKind kind();
     static QString saveName();
 
-    using Folders = FileResult<std::vector<BookmarkFolder>>;
+    using FolderList = FileResult<std::vector<BookmarkFolder>>;
 
     /// The top-level folders of the browser that "bookmarkSource" names, in its file's order; none
     /// for another number. A folder is identified by its title. An error, which is in the system
     /// log unless nothing is there, where its file can't be read. Any thread, as the readers below.
-    static Folders availableIdentifiers();
+    static FolderList availableIdentifiers();
     static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
     static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
 
@@ -39,19 +39,19 @@ public:
 
     /// Safari's top-level folders, folders of the same title included. A folder's bookmarks are its
     /// own and those of the folders right inside it.
-    static Folders readSafariBookmarks();
+    static FolderList readSafariBookmarks();
     /// Camino's top-level entries as folders, each with its own bookmarks and those of the folders
     /// right inside it; an entry without a title is passed over.
-    static Folders parseCaminoBookmarks();
+    static FolderList parseCaminoBookmarks();
     /// The folders of the default profile's "bookmarks.html". Only headings indented by four blanks
     /// are folders; bookmarks below other headings go to the last such folder.
-    static Folders parseFirefoxBookmarks();
+    static FolderList parseFirefoxBookmarks();
     /// A folder without a title has no bookmarks.
-    static Folders parseOmniWebBookmarks();
+    static FolderList parseOmniWebBookmarks();
     /// The folder of Firefox's first profile, absolute; missing where "profiles.ini" names none.
     static FileResult<QString> defaultFirefoxProfile();
 
 private:
-    static Folders foldersOf(Settings::BookmarkBrowser browser);
-    QByteArray bookmarkLines(const Folders &folders) const;
+    static FolderList foldersOf(Settings::BookmarkBrowser browser);
+    QByteArray bookmarkLines(const FolderList &folders) const;
 };

@@ -32,7 +32,7 @@ void addChild(const QVariantMap &child, BookmarkFolderMap &folders)
 
 } // namespace
 
-CVSyncBookmarks::Folders CVSyncBookmarks::parseCaminoBookmarks()
+CVSyncBookmarks::FolderList CVSyncBookmarks::parseCaminoBookmarks()
 {
     const QString path = StringTools::expandingTilde(
         QStringLiteral("~/Library/Application Support/Camino/bookmarks.plist"));

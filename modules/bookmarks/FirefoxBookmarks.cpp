@@ -40,7 +40,7 @@ FileResult<QString> CVSyncBookmarks::defaultFirefoxProfile()
     return StringTools::appendingPathComponent(folder, *path);
 }
 
-CVSyncBookmarks::Folders CVSyncBookmarks::parseFirefoxBookmarks()
+CVSyncBookmarks::FolderList CVSyncBookmarks::parseFirefoxBookmarks()
 {
     const FileResult<QString> profile = defaultFirefoxProfile();
     if (!profile)

@@ -43,7 +43,7 @@ std::optional<Bookmark> bookmarkOf(QStringView line)
 
 } // namespace
 
-CVSyncBookmarks::Folders CVSyncBookmarks::parseOmniWebBookmarks()
+CVSyncBookmarks::FolderList CVSyncBookmarks::parseOmniWebBookmarks()
 {
     const QString path = StringTools::expandingTilde(
         QStringLiteral("~/Library/Application Support/OmniWeb 5/Bookmarks.html"));

@@ -50,7 +50,7 @@ BookmarkFolder folderOf(const QVariantMap &node)
 
 } // namespace
 
-CVSyncBookmarks::Folders CVSyncBookmarks::readSafariBookmarks()
+CVSyncBookmarks::FolderList CVSyncBookmarks::readSafariBookmarks()
 {
     const QString path =
         StringTools::expandingTilde(QStringLiteral("~/Library/Safari/Bookmarks.plist"));

@@ -62,9 +62,8 @@ void stagePage(const ContactsPage &page, const QString &path)
 }
 
 /// By first name, then organization; nobody's name comes first.
-std::vector<Person> sortedPeople()
+std::vector<Person> sorted(std::vector<Person> people)
 {
-    std::vector<Person> people = CVSyncContacts::availableIdentifiers();
     std::ranges::stable_sort(people, [](const Person &first, const Person &second) {
         return std::tie(first.firstName, first.organization) <
                std::tie(second.firstName, second.organization);
@@ -94,7 +93,7 @@ QString CVSyncContacts::saveName()
     return QStringLiteral("Contacts");
 }
 
-std::vector<Person> CVSyncContacts::availableIdentifiers()
+People CVSyncContacts::availableIdentifiers()
 {
     return AddressBook::sharedAddressBook().people();
 }
@@ -118,7 +117,10 @@ std::vector<CVSyncItem> CVSyncContacts::itemsToSync()
 {
     std::vector<CVSyncItem> items;
     ContactsPage page;
-    for (const Person &person : sortedPeople()) {
+    People found = availableIdentifiers();
+    if (found.unreadable)
+        noteUnreadableLibrary(*found.unreadable);
+    for (const Person &person : sorted(std::move(found.people))) {
         const auto name = ContactsPage::displayName(person);
         if (!name)
             continue;

@@ -3,8 +3,6 @@
 #include "platform/people/AddressBook.h"
 #include "sync/ModuleKind.h"
 
-#include <vector>
-
 /// Puts the whole address book into "Caravel/Contacts" as one page with a small picture for each
 /// contact that has one. Page and pictures are made in the support folder, which must exist, and
 /// stay there: a picture is made anew only where the contact's own has changed.
@@ -17,7 +15,7 @@ public:
     static ModuleKind kind();
     static QString saveName();
     /// Everybody in the address book, in its order. Any thread; takes as long as people() of it.
-    static std::vector<Person> availableIdentifiers();
+    static People availableIdentifiers();
 
     QString moduleName() const override;
     QString rootSyncFolder() const override;

@@ -19,25 +19,27 @@ constexpr std::chrono::seconds serviceLimit{10};
 class DesktopAddressBook : public AddressBook
 {
 public:
-    std::vector<Person> people() override
+    People people() override
     {
-        std::vector<Person> people;
+        People everybody;
         QSet<QString> known;
-        add(evolutionPeople(serviceLimit), people, known);
-        add(vCardPeople(qEnvironmentVariable("HOME") + QStringLiteral("/.contacts")), people,
+        add(evolutionPeople(serviceLimit), everybody, known);
+        add(vCardPeople(qEnvironmentVariable("HOME") + QStringLiteral("/.contacts")), everybody,
             known);
-        return people;
+        return everybody;
     }
 
 private:
-    static void add(std::vector<Person> found, std::vector<Person> &people, QSet<QString> &known)
+    static void add(People found, People &everybody, QSet<QString> &known)
     {
-        for (Person &person : found) {
+        for (Person &person : found.people) {
             const qsizetype before = known.size();
             known.insert(person.uid);
             if (known.size() > before)
-                people.push_back(std::move(person));
+                everybody.people.push_back(std::move(person));
         }
+        if (found.unreadable)
+            everybody.unreadable = std::move(found.unreadable);
     }
 };
 

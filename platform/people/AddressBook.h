@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files/FileError.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -61,6 +63,14 @@ struct Person
     std::vector<Labelled<PostalAddress>> addresses;
 };
 
+struct People
+{
+    std::vector<Person> people; ///< in the book's order, each UID once
+    /// Why somebody may be missing: a part of the book is there, and could not be read. The path is
+    /// a file's, or the name of the desktop's book, empty for all of them.
+    std::optional<FileError> unreadable = {};
+};
+
 /// The user's address book. Every call may come from any thread; none throws.
 class AddressBook
 {
@@ -74,8 +84,7 @@ public:
     /// For tests: replaces the shared address book (not owned); nullptr restores the real one.
     static void setSharedAddressBook(AddressBook *book);
 
-    /// Everybody in the book, in its order, each UID once. Read anew in every call, which takes up
-    /// to ten seconds where the desktop's service hangs; what could not be read is said in the
-    /// system log and left out.
-    virtual std::vector<Person> people() = 0;
+    /// Everybody in the book. Read anew in every call, which takes up to ten seconds where the
+    /// desktop's service hangs; what could not be read is said in the system log and left out.
+    virtual People people() = 0;
 };

@@ -45,9 +45,14 @@ public:
     {
         const std::unique_ptr<GError, decltype(&g_error_free)> owned(error, &g_error_free);
         const std::scoped_lock lock(m_mutex);
-        if (!m_isAbandoned)
-            qCWarning(lcPlatform, "%s%s: %s", what, qUtf8Printable(which),
-                      error ? error->message : "no reason given");
+        if (m_isAbandoned)
+            return;
+        const char *const reason = error ? error->message : "no reason given";
+        qCWarning(lcPlatform, "%s%s: %s", what, qUtf8Printable(which), reason);
+        // Where there is no session, there is no service either.
+        if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
+            m_unreadable =
+                FileError{FileError::Operation::Read, which, 0, QString::fromUtf8(reason)};
     }
 
     void finish()
@@ -57,29 +62,34 @@ public:
         m_finished.notify_all();
     }
 
-    std::vector<Person> wait(std::chrono::milliseconds limit)
+    People wait(std::chrono::milliseconds limit)
     {
         std::unique_lock lock(m_mutex);
-        if (!m_finished.wait_for(lock, limit, [this] { return m_isFinished; })) {
-            qCWarning(lcPlatform,
-                      "The address book service took longer than %lld ms: "
-                      "contacts are missing",
-                      static_cast<long long>(limit.count()));
-            m_isAbandoned = true;
-            g_cancellable_cancel(m_cancellable.get());
-        }
-        std::vector<Person> all;
+        if (!m_finished.wait_for(lock, limit, [this] { return m_isFinished; }))
+            abandon(limit);
+        People all{{}, std::exchange(m_unreadable, {})};
         for (auto &[book, people] : std::exchange(m_people, {}))
-            std::ranges::move(people, std::back_inserter(all));
+            std::ranges::move(people, std::back_inserter(all.people));
         return all;
     }
 
 private:
+    void abandon(std::chrono::milliseconds limit)
+    {
+        const QString said =
+            QStringLiteral("The address book service took longer than %1 ms").arg(limit.count());
+        qCWarning(lcPlatform).noquote().nospace() << said << ": contacts are missing";
+        m_unreadable = FileError{FileError::Operation::Read, {}, 0, said};
+        m_isAbandoned = true;
+        g_cancellable_cancel(m_cancellable.get());
+    }
+
     const Ref<GCancellable> m_cancellable{g_cancellable_new()};
 
     std::mutex m_mutex; // guards what follows
     std::condition_variable m_finished;
     std::map<size_t, std::vector<Person>> m_people; // by book
+    std::optional<FileError> m_unreadable;
     bool m_isFinished = false;
     bool m_isAbandoned = false;
 };
@@ -120,9 +130,9 @@ void readBook(size_t book, ESource *source, Reading &reading)
     g_slist_free_full(contacts, g_object_unref);
 }
 
-GError *noThread()
+GError *because(const char *reason)
 {
-    return g_error_new_literal(G_IO_ERROR, G_IO_ERROR_FAILED, "there is no thread for it");
+    return g_error_new_literal(G_IO_ERROR, G_IO_ERROR_FAILED, reason);
 }
 
 /// Side by side, so that one whose server doesn't answer holds up none of the others.
@@ -137,11 +147,38 @@ void readSideBySide(GList *sources, Reading &reading)
             unread->count_down();
         });
         if (!isRead) {
-            reading.fail(cantRead, nameOf(source), noThread());
+            reading.fail(cantRead, nameOf(source), because("there is no thread for it"));
             unread->count_down();
         }
     }
     unread->wait();
+}
+
+/// One that runs has sources of its own, whatever the user enabled.
+bool listsAnything(ESourceRegistry *registry)
+{
+    GList *const all = e_source_registry_list_sources(registry, nullptr);
+    g_list_free_full(all, g_object_unref);
+    return all != nullptr;
+}
+
+bool hasService(GDBusConnection *bus, GCancellable *cancellable)
+{
+    constexpr char daemon[] = "org.freedesktop.DBus";
+    GVariant *const answer = g_dbus_connection_call_sync(
+        bus, daemon, "/org/freedesktop/DBus", daemon, "ListActivatableNames", nullptr,
+        G_VARIANT_TYPE("(as)"), G_DBUS_CALL_FLAGS_NONE, -1, cancellable, nullptr);
+    if (!answer)
+        return true; // nothing says that there is none
+    bool isListed = false;
+    GVariantIter *names = nullptr;
+    const char *name = nullptr;
+    g_variant_get(answer, "(as)", &names);
+    while (g_variant_iter_next(names, "&s", &name))
+        isListed = isListed || g_str_has_prefix(name, "org.gnome.evolution.dataserver.Sources");
+    g_variant_iter_free(names);
+    g_variant_unref(answer);
+    return isListed;
 }
 
 void readBooks(Reading &reading)
@@ -163,13 +200,16 @@ void readBooks(Reading &reading)
     }
     GList *const sources =
         e_source_registry_list_enabled(registry.get(), E_SOURCE_EXTENSION_ADDRESS_BOOK);
+    // To the library a service that hangs is like one that isn't there.
+    if (!sources && !listsAnything(registry.get()) && hasService(bus.get(), reading.cancellable()))
+        reading.fail(noService, {}, because("it lists nothing"));
     readSideBySide(sources, reading);
     g_list_free_full(sources, g_object_unref);
 }
 
 } // namespace
 
-std::vector<Person> evolutionPeople(std::chrono::milliseconds limit)
+People evolutionPeople(std::chrono::milliseconds limit)
 {
     // A thread that can be left behind: not every call of the library's can be cancelled.
     const auto reading = std::make_shared<Reading>();
@@ -178,8 +218,8 @@ std::vector<Person> evolutionPeople(std::chrono::milliseconds limit)
         reading->finish();
     });
     if (!isRead) {
-        reading->fail(noService, {}, noThread());
-        return {};
+        reading->fail(noService, {}, because("there is no thread for it"));
+        reading->finish();
     }
     return reading->wait(limit);
 }

@@ -27,12 +27,13 @@ std::optional<Person> personIn(const QByteArray &text)
     return person;
 }
 
-void addFile(const QString &path, std::vector<Person> &people)
+void addFile(const QString &path, People &everybody)
 {
     const auto text = FileManager::defaultManager().readFile(path, maximumFileBytes);
     if (!text) {
         qCWarning(lcPlatform).noquote()
             << "The contacts file can't be read, or is larger than 64 MiB:" << path;
+        everybody.unreadable = text.error();
         return;
     }
     const auto [cards, isCutOff] = VCardText::cardsOf(*text);
@@ -40,9 +41,12 @@ void addFile(const QString &path, std::vector<Person> &people)
         qCWarning(lcPlatform).noquote() << "The contacts file holds no card:" << path;
     else if (isCutOff)
         qCWarning(lcPlatform).noquote() << "The last card of the contacts file is cut off:" << path;
+    if (cards.empty() || isCutOff)
+        everybody.unreadable = FileError{FileError::Operation::Parse, path, 0,
+                                         QStringLiteral("a card is missing or cut off")};
     for (const QByteArray &card : cards) {
         if (auto person = personIn(card))
-            people.push_back(std::move(*person));
+            everybody.people.push_back(std::move(*person));
     }
 }
 
@@ -54,15 +58,15 @@ bool isCardFile(const FolderEntry &entry)
 
 } // namespace
 
-std::vector<Person> vCardPeople(const QString &folder)
+People vCardPeople(const QString &folder)
 {
-    std::vector<Person> people;
+    People everybody;
     const FileManager &files = FileManager::defaultManager();
     if (!files.exists(folder))
-        return people;
+        return everybody;
     for (const FolderEntry &entry : files.subpaths(folder)) {
         if (isCardFile(entry))
-            addFile(folder + u'/' + entry.path, people);
+            addFile(folder + u'/' + entry.path, everybody);
     }
-    return people;
+    return everybody;
 }

@@ -46,7 +46,7 @@ private:
 class CardFolder : public AddressBook
 {
 public:
-    std::vector<Person> people() override
+    People people() override
     {
         return vCardPeople(qEnvironmentVariable("HOME") + QStringLiteral("/.contacts"));
     }

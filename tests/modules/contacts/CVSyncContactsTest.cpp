@@ -14,8 +14,9 @@ namespace {
 class FixedAddressBook : public AddressBook
 {
 public:
-    std::vector<Person> people() override { return everybody; }
+    People people() override { return {everybody, unreadable}; }
     std::vector<Person> everybody;
+    std::optional<FileError> unreadable;
 };
 
 Person person(const char *uid, const char *first, const char *last, const char *organization = "")
@@ -108,7 +109,8 @@ TEST_F(CVSyncContactsTest, StagesThePageAndThePictures)
     EXPECT_EQ(items[1].destination, harness.stick(u"Caravel/Contacts/index.html"_s));
     EXPECT_EQ(items[1].description, u"Syncing Contact Index..."_s);
     book.everybody.clear();
-    EXPECT_EQ(wishes(), index);
+    book.unreadable = FileError{FileError::Operation::Read, u"Personal"_s, 0, {}};
+    EXPECT_EQ(wishes(), index + "\nunreadable: Personal");
     expectPage("contacts-none.html");
 }
 

@@ -98,7 +98,7 @@ TEST_F(CVSyncMusicTest, NumbersWhatIsPlayableInEachSelectedPlaylist)
                         "Trip/000. Unsorted - Untitled.wav < 9.wav");
     harness.set(u"firmwareVersion", 0);
     EXPECT_EQ(wishes(), "Trip/000. Unsorted - Untitled.mp3 < 0.mp3\n"
-                        "Trip/002. Unsorted - Untitled.mp3 < 10.mp3");
+                        "Trip/003. Unsorted - Untitled.mp3 < 10.mp3");
     harness.set(u"enabledMusic", QStringList());
     EXPECT_EQ(wishes(), "");
     EXPECT_EQ(wishesOf("garbage"), "") << "a library that nobody asks for";
@@ -152,8 +152,8 @@ TEST_F(CVSyncMusicTest, TakesWhatItCanOfLibrariesAndTheDropbox)
     };
     for (const auto &c : cases) {
         const SystemLogCapture log;
-        const char *const library = c.said ? "\nunreadable: iTunes Music Library.xml" : "";
-        EXPECT_EQ(wishesOf(c.file), dropped + library) << c.file.constData();
+        const char *const unreadable = c.said ? "\nunreadable: iTunes Music Library.xml" : "";
+        EXPECT_EQ(wishesOf(c.file), dropped + unreadable) << c.file.constData();
         EXPECT_EQ(log.contains(path), c.said != nullptr) << c.file.constData();
         EXPECT_TRUE(!c.said || log.contains(QLatin1String(c.said))) << joined(log.lines());
     }
