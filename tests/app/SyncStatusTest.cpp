@@ -26,13 +26,11 @@ protected:
     FakeStatusBar statusBar;
     FakeAlerts alerts;
     FakeSounds sounds;
-    int opened = 0;
     StatusMenu menu{harness.manager, {}};
     StatusIcon icon{statusBar, harness.manager};
-    SyncStatus status{{harness.manager, logger, plans, frontEnd, menu, icon, alerts, sounds,
-                       harness.clock, [this] {
-                           ++opened;
-                       }}};
+    SyncStatus status{
+        {harness.manager, logger, plans, frontEnd, menu, icon, alerts, sounds, harness.clock, [] {
+         }}};
     const SystemLogCapture system;
 
     void SetUp() override
@@ -66,30 +64,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(SyncStatusTest, FollowsTheDeviceAndTheRun)
-{
-    harness.mountStick();
-    EXPECT_EQ(texts(), "1.5 GB Available\nClick \"Sync Now\" to perform a sync.");
-    EXPECT_EQ(run(), "Sync was completed successfully.");
-    EXPECT_EQ(texts(), "Sync Successful\nLast Sync: Today 03:09 PM");
-    EXPECT_EQ(sounds.played, list("SyncCompleted"));
-    Settings::openOnMount.set(true);
-    harness.volumes.unmount(harness.stick());
-    EXPECT_EQ(texts(), "No PSP Connected\nConnect a PSP to perform a sync.");
-    harness.volumes.mount(harness.stick());
-    EXPECT_EQ(texts(), "1.5 GB Available\nLast Sync: Today 03:09 PM");
-    EXPECT_EQ(opened, 1);
-    harness.volumes.canEject = false;
-    harness.manager.eject();
-    EXPECT_EQ(texts(), "Eject Failed\nThe PSP may be in use by another application.");
-    Settings::useDetailedLogging.set(true);
-    harness.want(u"three"_s, "contents");
-    EXPECT_EQ(run(), "Preparing to Sync...\nOne moment, Caravel is gathering information...\n"
-                     "Cleaning Up...\nCaravel is removing unneeded files...\n"
-                     "Starting Sync...\nCaravel is copying selected files...\n"
-                     "Syncing Music...\nthree\nSync Successful\nLast Sync: Today 03:09 PM");
-}
 
 TEST_F(SyncStatusTest, SaysWhyARunEnded)
 {

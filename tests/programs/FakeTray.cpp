@@ -1,60 +1,29 @@
 #include "FakeTray.h"
 
+#include "platform/bus/RemoteObject.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QtEndian>
 
 namespace {
 
 const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
-const QString itemPath = QStringLiteral("/StatusNotifierItem");
-const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
-const QString menuInterface = QStringLiteral("com.canonical.dbusmenu");
+const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
-QVariantList call(const QString &service, const QString &path, const QString &interfaceName,
-                  const QString &method, const QVariantList &arguments)
-{
-    QDBusMessage message = QDBusMessage::createMethodCall(service, path, interfaceName, method);
-    message.setArguments(arguments);
-    return QDBusConnection::sessionBus().call(message).arguments();
-}
-
-FakeTray::MenuItem readItem(const QDBusArgument &layout)
+/// "Sync Now", or "(Sync Now)" where it is disabled.
+QString label(const QDBusArgument &item)
 {
     int id = 0;
     QVariantMap properties;
-    layout.beginStructure();
-    layout >> id >> properties;
-    layout.endStructure();
-    return {properties.value(QStringLiteral("label")).toString(),
-            properties.value(QStringLiteral("enabled"), true).toBool()};
-}
-
-QImage toImage(const QDBusArgument &pixmaps, int wantedWidth)
-{
-    QImage image;
-    pixmaps.beginArray();
-    while (!pixmaps.atEnd()) {
-        int width = 0;
-        int height = 0;
-        QByteArray pixels;
-        pixmaps.beginStructure();
-        pixmaps >> width >> height >> pixels;
-        pixmaps.endStructure();
-        if (width != wantedWidth || pixels.size() != qsizetype(4) * width * height)
-            continue;
-        image = QImage(width, height, QImage::Format_ARGB32);
-        const auto *bytes = reinterpret_cast<const uchar *>(pixels.constData());
-        for (int i = 0; i < width * height; ++i)
-            image.setPixel(
-                i % width, i / width,
-                qRgba(bytes[4 * i + 1], bytes[4 * i + 2], bytes[4 * i + 3], bytes[4 * i]));
-    }
-    pixmaps.endArray();
-    return image;
+    item.beginStructure();
+    item >> id >> properties;
+    item.endStructure();
+    const QString text = properties.value(QStringLiteral("label")).toString();
+    return properties.value(QStringLiteral("enabled"), true).toBool() ? text : u'(' + text + u')';
 }
 
 } // namespace
@@ -62,8 +31,7 @@ QImage toImage(const QDBusArgument &pixmaps, int wantedWidth)
 FakeTray::FakeTray()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
-                       QDBusConnection::ExportAllSlots);
+    bus.registerObject(watcherPath, this, QDBusConnection::ExportAllSlots);
     bus.registerService(watcherName);
 }
 
@@ -71,14 +39,7 @@ FakeTray::~FakeTray()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.unregisterService(watcherName);
-    bus.unregisterObject(QStringLiteral("/StatusNotifierWatcher"));
-}
-
-void FakeTray::RegisterStatusNotifierItem(const QString &service)
-{
-    m_item = service;
-    QDBusConnection::sessionBus().connect(m_item, itemPath, itemInterface,
-                                          QStringLiteral("NewIcon"), this, SLOT(countNewImage()));
+    bus.unregisterObject(watcherPath);
 }
 
 bool FakeTray::hasItem() const
@@ -89,25 +50,43 @@ bool FakeTray::hasItem() const
 
 QVariant FakeTray::property(const QString &name) const
 {
-    const QVariantList answer =
-        call(m_item, itemPath, QStringLiteral("org.freedesktop.DBus.Properties"),
-             QStringLiteral("Get"), {itemInterface, name});
-    return answer.isEmpty() ? QVariant() : answer.first().value<QDBusVariant>().variant();
+    RemoteObject item(m_item, QStringLiteral("/StatusNotifierItem"),
+                      QStringLiteral("org.freedesktop.DBus.Properties"));
+    const QVariantList arguments{QStringLiteral("org.kde.StatusNotifierItem"), name};
+    return item.call(QStringLiteral("Get"), arguments, std::chrono::seconds(30))
+        .value.value_or(QVariant());
 }
 
 QImage FakeTray::image() const
 {
-    return toImage(property(QStringLiteral("IconPixmap")).value<QDBusArgument>(), 22);
+    constexpr int size = 22;
+    for (const QVariant &pixmap : property(QStringLiteral("IconPixmap")).toList()) {
+        const QVariantList parts = pixmap.toList(); // width, height, ARGB with the alpha first
+        QByteArray pixels = parts.value(2).toByteArray();
+        if (parts[0] != size || pixels.size() != qsizetype(4) * size * size)
+            continue;
+        qFromBigEndian<quint32>(pixels.constData(), pixels.size() / 4, pixels.data());
+        return QImage(reinterpret_cast<const uchar *>(pixels.constData()), size, size,
+                      QImage::Format_ARGB32)
+            .copy();
+    }
+    return {};
 }
 
-QList<FakeTray::MenuItem> FakeTray::menu() const
+QVariantList FakeTray::callMenu(const QString &method, const QVariantList &arguments) const
 {
-    const QString path = property(QStringLiteral("Menu")).value<QDBusObjectPath>().path();
-    const QVariantList answer =
-        call(m_item, path, menuInterface, QStringLiteral("GetLayout"), {0, -1, QStringList()});
-    QList<MenuItem> items;
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(m_item, property(QStringLiteral("Menu")).toString(),
+                                       QStringLiteral("com.canonical.dbusmenu"), method);
+    message.setArguments(arguments);
+    return QDBusConnection::sessionBus().call(message).arguments();
+}
+
+QStringList FakeTray::menu() const
+{
+    const QVariantList answer = callMenu(QStringLiteral("GetLayout"), {0, -1, QStringList()});
     if (answer.size() != 2)
-        return items;
+        return {};
     const auto layout = answer[1].value<QDBusArgument>();
     int id = 0;
     QVariantMap properties;
@@ -115,20 +94,13 @@ QList<FakeTray::MenuItem> FakeTray::menu() const
     layout.beginStructure();
     layout >> id >> properties >> children;
     layout.endStructure();
+    QStringList items;
     for (const QVariant &child : children)
-        items.append(readItem(child.value<QDBusArgument>()));
+        items.append(label(child.value<QDBusArgument>()));
     return items;
-}
-
-QString FakeTray::menuItem(int index) const
-{
-    const MenuItem item = menu().value(index);
-    return item.enabled ? item.label : u'(' + item.label + u')';
 }
 
 void FakeTray::sendMenuEvent(int id, const QString &event) const
 {
-    const QString path = property(QStringLiteral("Menu")).value<QDBusObjectPath>().path();
-    call(m_item, path, menuInterface, QStringLiteral("Event"),
-         {id, event, QVariant::fromValue(QDBusVariant(0)), 0U});
+    callMenu(QStringLiteral("Event"), {id, event, QVariant::fromValue(QDBusVariant(0)), 0U});
 }

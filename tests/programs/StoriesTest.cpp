@@ -173,16 +173,15 @@ protected:
             frontEnd.isOpen = words[0] == u"opens";
         return {};
     }
-    /// "flood until TEXT" is the status: more calls than can be answered.
-    QString flood(const QString &text)
+    /// "flood until COMMAND" succeeds: more calls than can be answered, without a pause.
+    QString flood(const QString &command)
     {
-        return waitFor([&] {
-            for (int i = 0; i < 1500; ++i)
+        const auto flooded = [&] {
+            for (int i = 0; i < 150; ++i)
                 frontEnd.helper.send(Protocol::musicItems.key());
-            return ask({Protocol::statusText.key()}) == text;
-        })
-                   ? QString()
-                   : never();
+            return programs.shell(command).status == 0;
+        };
+        return waitFor(flooded) ? QString() : never();
     }
     /// "ask METHOD [true|false|{}|TEXT…]" the helper.
     QString ask(const QStringList &words)
@@ -204,7 +203,7 @@ protected:
         if (words[0] == u"comes")
             tray.emplace();
         if (words[0] == u"chooses")
-            tray->choose(words[1].toInt());
+            tray->sendMenuEvent(words[1].toInt() + 1, QStringLiteral("clicked"));
         if (words[0] == u"opens" || words[0] == u"closes")
             tray->sendMenuEvent(0, words[0] == u"opens" ? QStringLiteral("opened")
                                                         : QStringLiteral("closed"));
@@ -215,7 +214,8 @@ protected:
             return {};
         if (!waitFor([&] { return tray->hasItem() == isShown; }))
             return never();
-        return isShown ? shownInTray() : QString();
+        return isShown ? (QStringList(shownIcon()) + tray->menu()).join(QStringLiteral(" | "))
+                       : QString();
     }
     /// Nothing while it moves.
     QString shownIcon() const
@@ -226,13 +226,6 @@ protected:
                 return QString::fromLatin1(name);
         }
         return {};
-    }
-    QString shownInTray() const
-    {
-        QStringList shown{shownIcon()};
-        for (int i = 0; i < tray->menu().size(); ++i)
-            shown.append(tray->menuItem(i));
-        return shown.join(QStringLiteral(" | "));
     }
     /// "notifications come" to be taken, "notifications show" the next.
     QString notificationActs(const QStringList &words)

@@ -2,13 +2,12 @@
 
 #include "platform/files/FileManager.h"
 
-#include <atomic>
 #include <cerrno>
 #include <functional>
 #include <optional>
 #include <utility>
 
-/// The real files, with faults of the test's choice, and a count of what was asked of the disk.
+/// The real files, with faults of the test's choice.
 class FailingFileManager : public FileManager
 {
 public:
@@ -19,26 +18,9 @@ public:
     std::function<void()> onFull;        ///< at the first write that finds no room
     QString readOnlyBelow;               ///< nothing below can be made or removed
     bool waitsForLocks = true;
-    mutable std::atomic<int> statusCalls = 0;
-    mutable std::atomic<int> listings = 0;
     int closed = 0; ///< the flushed ones too
     int flushed = 0;
 
-    FileStatus status(const QString &path) const override
-    {
-        ++statusCalls;
-        return FileManager::status(path);
-    }
-    FileStatus linkStatus(const QString &path) const override
-    {
-        ++statusCalls;
-        return FileManager::linkStatus(path);
-    }
-    std::vector<FolderEntry> subpathsWithSizes(const QString &folder) const override
-    {
-        ++listings;
-        return FileManager::subpathsWithSizes(folder);
-    }
     FileResult<> createFolder(const QString &path) override
     {
         if (isReadOnly(path))

@@ -50,14 +50,6 @@ std::string RecordingDelegate::stepsFrom(QStringView step) const
     return joined(steps);
 }
 
-bool RecordingDelegate::shouldUnmountPSP()
-{
-    // Asked on the run's thread; the list belongs to the main thread.
-    performOnMainThread(
-        nullptr, [this] { note(u"shouldUnmountPSP"_s); }, CallMode::Wait);
-    return answerUnmount;
-}
-
 void RecordingDelegate::syncError(const ErrorInfo &error)
 {
     errors.push_back(error);

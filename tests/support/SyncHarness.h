@@ -24,11 +24,9 @@ public:
     QStringList mountedRemovableMedia() const override;
     bool unmountAndEject(const QString &path) override
     {
-        if (canEject)
-            unmount(path);
-        return canEject;
+        unmount(path);
+        return true;
     }
-    std::atomic<bool> canEject = true;
 
 private:
     mutable std::mutex m_mutex;
@@ -41,7 +39,6 @@ class FakeNotifications : public DistributedNotificationCenter
 public:
     void post(const QString &name) override
     {
-        posted.append(name);
         for (const auto &observer : m_observers[name])
             observer();
     }
@@ -49,7 +46,6 @@ public:
     {
         m_observers[name].push_back(std::move(tell));
     }
-    QStringList posted;
 
 private:
     std::map<QString, std::vector<std::function<void()>>> m_observers;
@@ -78,8 +74,6 @@ public:
     QStringList events; ///< "name" or "name argument"; written on the main thread but the questions
     std::function<void(const QString &event)> onEvent;
     std::vector<ErrorInfo> errors;
-    std::atomic<bool> answerSyncOnMount = true;
-    std::atomic<bool> answerUnmount = true;
 
     /// The events from one on, without the chunks', which come as often as chunks do.
     std::string stepsFrom(QStringView step) const;
@@ -93,11 +87,7 @@ public:
     void pspDidMount(const QString &) override { note(u"pspDidMount"_s); }
     void pspDidUnmount() override { note(u"pspDidUnmount"_s); }
     void foundUnformattedMemoryStick() override { note(u"foundUnformattedMemoryStick"_s); }
-    bool shouldSyncOnMount() override
-    {
-        note(u"shouldSyncOnMount"_s);
-        return answerSyncOnMount;
-    }
+    bool shouldSyncOnMount() override { return true; }
     void syncWillStart() override { note(u"syncWillStart"_s); }
     void syncWillCleanUp() override { note(u"syncWillCleanUp"_s); }
     void syncNotEnoughFreeSpace(quint64 n) override { note(u"syncNotEnoughFreeSpace %1"_s.arg(n)); }
@@ -119,7 +109,7 @@ public:
     }
     void syncError(const ErrorInfo &error) override;
     void finalizeDidStart() override { note(u"finalizeDidStart"_s); }
-    bool shouldUnmountPSP() override;
+    bool shouldUnmountPSP() override { return true; }
     void pspWillUnmount() override { note(u"pspWillUnmount"_s); }
     void pspUnmountFailed() override { note(u"pspUnmountFailed"_s); }
     void syncDidFinish(bool done) override

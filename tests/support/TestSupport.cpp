@@ -8,8 +8,6 @@
 #include <QFileInfo>
 #include <QTimer>
 
-#include <malloc.h>
-
 #include <mutex>
 
 namespace {
@@ -71,12 +69,6 @@ NoThreads::NoThreads()
 NoThreads::~NoThreads()
 {
     ::pthread_setattr_default_np(&m_before);
-}
-
-qint64 residentBytes()
-{
-    ::malloc_trim(0);
-    return readFile(u"/proc/self/statm"_s).split(' ').value(1).toLongLong() * 4096;
 }
 
 QStringList treeOf(const QString &folder)

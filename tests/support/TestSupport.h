@@ -59,9 +59,6 @@ private:
     pthread_attr_t m_before;
 };
 
-/// The memory of this process that is in use and in place.
-qint64 residentBytes();
-
 /// Paths of everything below a folder, relative and sorted, folders with a trailing slash.
 QStringList treeOf(const QString &folder);
 

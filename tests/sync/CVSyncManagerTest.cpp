@@ -1,4 +1,4 @@
-// Detection, mount state, estimate, the device icon, and the selection that counts.
+// Detection, mount state, estimate, and the selection that counts.
 
 #include "platform/lists/NumberArchive.h"
 #include "platform/lists/PropertyList.h"
@@ -12,8 +12,6 @@
 #include <QScopeGuard>
 
 #include <gtest/gtest.h>
-
-#include <sys/xattr.h>
 
 TEST(Detection, TellsSticksFromOtherVolumes)
 {
@@ -100,23 +98,6 @@ TEST(Detection, ReadsTheStickItsSizes)
     EXPECT_EQ(Settings::lastSyncSize(), 7U) << "a stick that was never synced says nothing";
 }
 
-TEST(SyncOnMount, AsksOnlyForSticksThatWereSyncedBefore)
-{
-    for (const auto &[syncedBefore, wanted] :
-         {std::pair(true, true), {true, false}, {false, true}, {false, false}}) {
-        SyncHarness harness;
-        harness.mountStick(syncedBefore);
-        harness.volumes.unmount(harness.stick());
-        harness.delegate.events.clear();
-        harness.delegate.answerSyncOnMount = wanted;
-        Settings::syncOnMount.set(true);
-        harness.volumes.mount(harness.stick());
-        EXPECT_EQ(harness.delegate.events.contains(u"shouldSyncOnMount"), syncedBefore);
-        EXPECT_EQ(harness.manager.isSyncing(), syncedBefore && wanted);
-        SyncHarness::settle();
-    }
-}
-
 TEST(SyncOnMount, WaitsWhileThePreferencesCannotBeRead)
 {
     SyncHarness harness;
@@ -194,20 +175,6 @@ TEST(Threads, ThatCannotStartEndARunAndAnEstimateAtOnce)
     EXPECT_EQ(joined(harness.delegate.events),
               "syncWillStart\nsyncDidFinish false\nnewSyncBytesEstimate 0");
     EXPECT_TRUE(harness.run());
-}
-
-TEST(Icon, IsTheMonthsAndMarksTheVolume)
-{
-    ListHarness harness;
-    writeFile(harness.folder / u"resources/PSP3.icns"_s, "march");
-    writeFile(harness.stick(u".VolumeIcon.icns"_s), "february");
-    harness.mountStick();
-    EXPECT_TRUE(harness.run());
-    EXPECT_EQ(readFile(harness.stick(u".VolumeIcon.icns"_s)), "march");
-    unsigned char info[32] = {};
-    if (::getxattr(qPrintable(harness.stick()), "user.com.apple.FinderInfo", info, sizeof info) < 0)
-        GTEST_SKIP() << "skipped: this file system takes no extended attributes";
-    EXPECT_EQ(info[8], 0x04);
 }
 
 TEST(Selection, LiesInThePreferencesAndOnSyncedSticks)

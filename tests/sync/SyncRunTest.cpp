@@ -161,25 +161,6 @@ TEST_F(SyncRunTest, EndsOnceAfterACancelAnywhere)
     EXPECT_EQ(harness.clock.pauses, 2) << "the rest is cut short";
 }
 
-TEST_F(SyncRunTest, EjectsAfterwardsWhereItMay)
-{
-    Settings::unmountAfterSync.set(true);
-    harness.delegate.answerUnmount = false;
-    EXPECT_TRUE(harness.run());
-    EXPECT_EQ(stepsFrom(u"finalizeDidStart"),
-              "finalizeDidStart\nshouldUnmountPSP\nsyncDidFinish true");
-    harness.delegate.answerUnmount = true;
-    harness.volumes.canEject = false;
-    EXPECT_TRUE(harness.run());
-    EXPECT_EQ(stepsFrom(u"shouldUnmountPSP"),
-              "shouldUnmountPSP\npspWillUnmount\npspUnmountFailed\nsyncDidFinish true");
-    harness.volumes.canEject = true;
-    EXPECT_TRUE(harness.run()) << "the announcement of its own eject cancels nothing";
-    EXPECT_EQ(stepsFrom(u"shouldUnmountPSP"),
-              "shouldUnmountPSP\npspWillUnmount\npspDidUnmount\nsyncDidFinish true");
-    EXPECT_FALSE(harness.manager.canSync());
-}
-
 TEST_F(SyncRunTest, WritesNothingWhereTheStickWas)
 {
     const SystemLogCapture log;
@@ -273,17 +254,4 @@ TEST_F(SyncRunTest, ReportsAStickThatFailsAndPutsItRightNextTime)
     files.writableBytes.reset();
     EXPECT_TRUE(harness.run());
     EXPECT_EQ(readFile(harness.place(u"big"_s)).size(), 2 * chunk + 100);
-}
-
-TEST_F(SyncRunTest, AsksTheDiskLittleWhenEverythingIsInPlace)
-{
-    constexpr int count = 1000;
-    for (int i = 0; i < count; ++i)
-        harness.want(u"%1/%2"_s.arg(i % 20).arg(i), "contents");
-    EXPECT_TRUE(harness.run());
-    files.statusCalls = 0;
-    files.listings = 0;
-    EXPECT_TRUE(harness.run());
-    EXPECT_LE(files.statusCalls, 2 * count + 50);
-    EXPECT_EQ(files.listings, 1);
 }

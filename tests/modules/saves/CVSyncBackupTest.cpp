@@ -150,20 +150,3 @@ TEST_F(CVSyncBackupTest, LosesNothingWhenItCannotRestore)
     EXPECT_EQ(restore(identifier(60)), Restored::NoStick) << "a mount point that was left";
     EXPECT_EQ(onStick(), "first");
 }
-
-TEST_F(CVSyncBackupTest, MovesBackupsToTheTrash)
-{
-    EXPECT_TRUE(harness.run());
-    putSave("second");
-    pass(60);
-    EXPECT_TRUE(harness.run());
-    const SystemLogCapture log;
-    for (const char *bad : {"", ".", "..", "GAME/..", "/", "GAME/", "NONE"})
-        EXPECT_FALSE(CVSyncBackup::deleteBackupWithIdentifier(QLatin1String(bad))) << bad;
-    EXPECT_EQ(history(), "0: first\n60: second");
-    EXPECT_TRUE(CVSyncBackup::deleteBackupWithIdentifier(identifier(0)));
-    EXPECT_EQ(history(), "60: second");
-    EXPECT_TRUE(CVSyncBackup::deleteBackupWithIdentifier(u"GAME"_s));
-    EXPECT_TRUE(CVSyncBackup::availableIdentifiers().isEmpty());
-    EXPECT_FALSE(treeOf(harness.home(u".local/share/Trash/files"_s)).isEmpty());
-}

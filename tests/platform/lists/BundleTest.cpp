@@ -42,16 +42,4 @@ TEST(Bundle, ReadsItsInfo)
     EXPECT_FALSE(Bundle(folder / "none").exists());
 }
 
-TEST(Workspace, StartsABundlesExecutable)
-{
-    const TemporaryFolder folder;
-    const QString started = folder / "started";
-    const QString script = folder / "b/Contents/bin/tool";
-    writeFile(script, "#!/bin/sh\ntouch '" + started.toUtf8() + "'\n");
-    QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    writeInfo(folder / "b", "<string>tool</string>", "<string>1</string>");
-    EXPECT_TRUE(Workspace::openFile(folder / "b"));
-    EXPECT_TRUE(waitFor([&] { return QFile::exists(started); }));
-}
-
 } // namespace

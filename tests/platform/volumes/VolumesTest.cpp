@@ -71,33 +71,4 @@ TEST_F(FolderVolumesTest, FolderMadeLaterItsVolumesAndTheirEvents)
     EXPECT_THAT(events(1), ElementsAre("+back"));
 }
 
-TEST_F(FolderVolumesTest, EjectsFromAnyThreadAnnouncedFirstAndOnce)
-{
-    writeFile(path("stick/MEMSTICK.IND"), "x");
-    events(1);
-    bool ejected = false;
-    ASSERT_TRUE(Workers::start([&] { ejected = m_volumes.unmountAndEject(path("stick")); }));
-    EXPECT_TRUE(Workers::serveUntilFinished(std::chrono::seconds(60)));
-    EXPECT_TRUE(ejected);
-    EXPECT_THAT(events(2), ElementsAre("?stick", "-stick"));
-    EXPECT_THAT(m_volumes.mountedRemovableMedia(), IsEmpty());
-    EXPECT_EQ(readFile(path(".ejected/stick/MEMSTICK.IND")), "x");
-}
-
-TEST_F(FolderVolumesTest, RefusesWhatIsNoVolumeOrWouldReplaceAnEjectedOne)
-{
-    insert("stick/sub");
-    insert(".ejected/stick");
-    events(1);
-    const SystemLogCapture log;
-    for (const char *name : {"stick", "stick/sub", "none", ".ejected", "stick/..", ""}) {
-        const auto before = log.lines().size();
-        EXPECT_FALSE(m_volumes.unmountAndEject(path(name))) << name;
-        EXPECT_EQ(log.lines().size(), before + 1) << name;
-    }
-    EXPECT_FALSE(m_volumes.unmountAndEject(m_folder));
-    EXPECT_THAT(events(0), IsEmpty());
-    EXPECT_TRUE(QFile::exists(path("stick/sub")));
-}
-
 } // namespace
