@@ -100,6 +100,8 @@ QString reasonText(Reason reason)
         return QStringLiteral("missing");
     case Reason::Link:
         return QStringLiteral("link");
+    case Reason::TooLarge:
+        return QStringLiteral("too large");
     case Reason::Companion:
         return QStringLiteral("companion");
     }

@@ -144,6 +144,7 @@ void SyncStatus::syncWillStart()
 {
     m_saidFilled = false;
     m_services.plans.forget();
+    m_loggedErrors.clear();
     m_services.icon.startSyncAnimation();
     show(localized("Preparing to Sync..."),
          localized("One moment, Caravel is gathering information..."));
@@ -213,10 +214,12 @@ void SyncStatus::syncError(const ErrorInfo &info)
         return;
     }
     CVSyncManager &manager = m_services.manager;
-    if (manager.pspIsMounted() && manager.pspFreeSpace().value_or(0) == 0)
+    if (manager.pspIsMounted() && manager.pspFreeSpace().value_or(0) == 0) {
         memoryStickFilled();
-    else
-        m_services.logger.log(QStringLiteral("Unexpected error: %@"), error.description());
+        return;
+    }
+    m_loggedErrors.insert(error.path);
+    m_services.logger.log(QStringLiteral("Unexpected error: %@"), error.description());
 }
 
 void SyncStatus::memoryStickFilled()
@@ -232,28 +235,68 @@ void SyncStatus::memoryStickFilled()
             AlertStyle::Critical);
 }
 
-void SyncStatus::syncDidFinish(bool completed)
+void SyncStatus::syncDidFinish(const RunReport &report)
 {
     m_services.icon.stopSyncAnimation();
     m_services.frontEnd.updateSyncBytes();
-    m_services.frontEnd.syncDidFinish(completed);
-    const bool brief = !Settings::useDetailedLogging();
-    if (completed) {
-        if (brief)
-            m_services.logger.log(QStringLiteral("Sync was completed successfully."));
-        setStatusText(localized("Sync Successful"));
-        setStatusSubText(lastSyncText());
-        if (Settings::playSyncCompletionSound())
-            m_services.sounds.play(QStringLiteral("SyncCompleted"));
-    } else {
-        if (brief)
-            m_services.logger.log(localized("Sync was cancelled."));
-        setStatusText(localized("Sync Cancelled"));
-        setStatusSubText(localized("You must re-sync to ensure the PSP is up to date."));
-    }
+    m_services.frontEnd.syncDidFinish(report.isComplete);
+    if (report.isComplete && report.hiddenFiles > 0)
+        m_services.logger.log(QStringLiteral("Files in deeper folders than the PSP shows: %@"),
+                              QString::number(report.hiddenFiles));
+    if (!report.isComplete)
+        syncWasCancelled(report);
+    else if (report.failures() > 0)
+        syncWasIncomplete(report);
+    else
+        syncWasSuccessful();
     UserDefaults::standard().synchronize();
     m_services.manager.refreshSyncBytesEstimate();
     notifyUserInterface();
+}
+
+void SyncStatus::syncWasSuccessful()
+{
+    if (!Settings::useDetailedLogging())
+        m_services.logger.log(QStringLiteral("Sync was completed successfully."));
+    setStatusText(localized("Sync Successful"));
+    setStatusSubText(lastSyncText());
+    if (Settings::playSyncCompletionSound())
+        m_services.sounds.play(QStringLiteral("SyncCompleted"));
+}
+
+void SyncStatus::syncWasIncomplete(const RunReport &report)
+{
+    const QStringList counts{QString::number(report.failures()),
+                             QString::number(report.placeable())};
+    const QString text = QStringLiteral("%@ of %@ files could not be copied.");
+    if (!Settings::useDetailedLogging())
+        m_services.logger.log(filled(text, counts));
+    setStatusText(localized("Sync Incomplete"));
+    setStatusSubText(filled(localized("%@ of %@ files could not be copied."), counts));
+    logLeftOut(report);
+}
+
+void SyncStatus::logLeftOut(const RunReport &report)
+{
+    for (const RunReport::LeftOut &item : report.leftOut) {
+        if (item.reason != PlannedItem::Reason::Missing && !m_loggedErrors.contains(item.path))
+            m_services.logger.log(
+                filled(QStringLiteral("Not copied: %@ (%@)"), {item.path, item.text}));
+    }
+}
+
+void SyncStatus::syncWasCancelled(const RunReport &report)
+{
+    if (!Settings::useDetailedLogging())
+        m_services.logger.log(localized("Sync was cancelled."));
+    setStatusText(localized("Sync Cancelled"));
+    setStatusSubText(localized("You must re-sync to ensure the PSP is up to date."));
+    if (report.isStickLost)
+        doAlert(localized("PSP lost during sync!"),
+                localized("The PSP was disconnected, or its Memory Stick can't be written any "
+                          "more, before the sync was complete.\n\nYou must re-sync to ensure the "
+                          "PSP is up to date."),
+                AlertStyle::Critical);
 }
 
 void SyncStatus::newSyncBytesEstimate(quint64 bytes)

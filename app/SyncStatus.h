@@ -3,6 +3,7 @@
 #include "app/FrontEnd.h"
 #include "sync/CVSyncManagerDelegate.h"
 
+#include <QSet>
 #include <QString>
 
 #include <atomic>
@@ -70,7 +71,7 @@ public:
     bool shouldUnmountPSP() override;
     void pspWillUnmount() override;
     void pspUnmountFailed() override;
-    void syncDidFinish(bool completed) override;
+    void syncDidFinish(const RunReport &report) override;
     void newSyncBytesEstimate(quint64 bytes) override;
 
 private:
@@ -78,10 +79,16 @@ private:
     void notifyUserInterface();
     QString lastSyncText() const;
     void memoryStickFilled();
+    void syncWasCancelled(const RunReport &report);
+    void syncWasIncomplete(const RunReport &report);
+    void syncWasSuccessful();
+    void logLeftOut(const RunReport &report);
 
     const Services m_services;
     QString m_statusText;
     QString m_statusSubText;
-    bool m_saidFilled = false; // in the active run
+    // In the active run
+    bool m_saidFilled = false;
+    QSet<QString> m_loggedErrors; // by path
     std::atomic<bool> m_isInteractive = false;
 };

@@ -69,7 +69,7 @@ void SyncFollower::stateRead(const HelperState &state)
     // one's place it never is, and the texts tell.
     constexpr int patience = 3;
     if (m_started && ++m_readingsSinceEnd >= patience)
-        conclude(state, HelperClient::isHelperText(state.statusText, "Sync Successful"));
+        conclude(state, !HelperClient::isHelperText(state.statusText, "Sync Cancelled"));
 }
 
 void SyncFollower::checkStarted()
@@ -98,7 +98,8 @@ void SyncFollower::conclude(const HelperState &state, bool completed)
     Output::print(Output::printable(state.statusText));
     if (!state.statusSubText.isEmpty())
         Output::print(Output::printable(state.statusSubText));
-    finish(completed ? Done : Refused);
+    const bool isWhole = !HelperClient::isHelperText(state.statusText, "Sync Incomplete");
+    finish(completed && isWhole ? Done : Refused);
 }
 
 void SyncFollower::alert(const QString &title, const QString &message, int style)

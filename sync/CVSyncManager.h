@@ -109,7 +109,7 @@ private:
     void _sync(const QString &volume, std::optional<VolumeIdentity> identity);
     void setRunVolume(const QString &volume);
     bool endRun();
-    void finishRun();
+    void finishRun(RunReport report);
 
     // What a run asks for and tells
     void setPlan(std::shared_ptr<const SyncPlan> plan) override;

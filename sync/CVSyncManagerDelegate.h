@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sync/ErrorInfo.h"
+#include "sync/RunReport.h"
 
 #include <QString>
 
@@ -46,9 +47,9 @@ public:
     virtual bool shouldUnmountPSP() = 0;
     virtual void pspWillUnmount() = 0;
     virtual void pspUnmountFailed() = 0;
-    /// Last call of a run, exactly one: true when it completed, false when it was cancelled. For
-    /// a run that the system had no thread for, false is the only call.
-    virtual void syncDidFinish(bool completed) = 0;
+    /// Last call of a run, exactly one. For a run that the system had no thread for it is, with an
+    /// empty report, the only one after the first.
+    virtual void syncDidFinish(const RunReport &report) = 0;
 
     /// An estimate finished with so many bytes.
     virtual void newSyncBytesEstimate(quint64 bytes) = 0;

@@ -31,7 +31,7 @@ void CVSyncManager::sync()
     if (Workers::start([this, volume, identity] { _sync(volume, identity); }))
         return;
     m_shouldCancelSync = true; // ends like one that was cancelled at once
-    finishRun();
+    finishRun({});
 }
 
 void CVSyncManager::close()
@@ -82,20 +82,19 @@ void CVSyncManager::cancelSync()
 
 void CVSyncManager::_sync(const QString &volume, std::optional<VolumeIdentity> identity)
 {
-    SyncRun(*this, {m_catalogue, m_services.clock, m_services.resourceFolder},
-            StickEditor(volume, identity))
-        .run();
-    finishRun();
+    finishRun(SyncRun(*this, {m_catalogue, m_services.clock, m_services.resourceFolder},
+                      StickEditor(volume, identity))
+                  .run());
 }
 
-void CVSyncManager::finishRun()
+void CVSyncManager::finishRun(RunReport report)
 {
     setRunVolume({});
     setPlan(nullptr);
-    const bool completed = endRun();
-    if (completed)
+    report.isComplete = endRun();
+    if (report.isComplete)
         Settings::lastSync.set(m_services.clock.now());
-    tell([completed](CVSyncManagerDelegate &delegate) { delegate.syncDidFinish(completed); });
+    tell([&report](CVSyncManagerDelegate &delegate) { delegate.syncDidFinish(report); });
 }
 
 // Ends the run and takes back a cancel in one step: a cancel that comes later finds no run, and

@@ -8,8 +8,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 /// A folder that a run's clean-up walks.
@@ -53,6 +55,12 @@ public:
     /// such library, or nothing of it is selected.
     const std::optional<FileError> &unreadableLibrary() const { return m_unreadableLibrary; }
 
+    /// How many levels of folders below its own the PSP shows; nothing: all.
+    virtual std::optional<int> shownLevels() const { return std::nullopt; }
+
+    /// Asked while the items are gathered; true ends that early. False unless set.
+    void setShouldStop(std::function<bool()> shouldStop) { m_shouldStop = std::move(shouldStop); }
+
     /// Who places the items; null: the stick's editor. Owned by the module.
     virtual ItemPlacer *placer();
 
@@ -62,12 +70,16 @@ protected:
     bool isAnythingSelected() const { return !m_selected.isEmpty(); }
     /// For itemsToSync(), of a library that the selection needs; one that is missing is no error.
     void noteUnreadableLibrary(const FileError &error);
+    /// What is gathered then is thrown away.
+    bool shouldStop() const { return m_shouldStop && m_shouldStop(); }
+    const std::function<bool()> &shouldStopQuestion() const { return m_shouldStop; }
 
 private:
     const QString m_volume;
     const QString m_saveName;
     const QSet<QString> m_selected;
     std::optional<FileError> m_unreadableLibrary;
+    std::function<bool()> m_shouldStop;
 };
 
 using ModuleList = std::vector<std::unique_ptr<CVSyncModule>>;

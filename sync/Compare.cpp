@@ -54,6 +54,8 @@ private:
             planned.isStranger = isStranger(planned.item.destination);
             planned.freedBytes = inClusters(measured.destination.size);
         }
+        if (planned.isCopied() || planned.action == Action::InPlace)
+            m_plan.hiddenFiles += isHidden(planned.item.destination);
         m_plan.items.push_back(std::move(planned));
     }
 
@@ -69,6 +71,8 @@ private:
             tellOfLink(measured.link);
             return leaveOut(Reason::Link);
         }
+        if (m_input.takesStickSpace && planned.item.size > m_names.largestFile())
+            return leaveOut(Reason::TooLarge);
         if (measured.destination.exists() && !goesBeforehand(planned.item.destination))
             planned.action =
                 isInPlace(measured, planned.item.size) ? Action::InPlace : Action::Replace;
@@ -81,7 +85,14 @@ private:
     {
         if (measured.destination.isFolder())
             return measured.isFolder && measured.isEqualTree;
-        return !measured.isFolder && measured.destination.size == size;
+        return !measured.isFolder && !measured.isDamaged && measured.destination.size == size;
+    }
+
+    bool isHidden(const QString &destination) const
+    {
+        return m_input.shownLevels &&
+               QStringView(destination).mid(m_input.root.size() + 1).count(u'/') >
+                   *m_input.shownLevels;
     }
 
     /// Whether an earlier item replaces what lies there, or a folder that it lies in.
@@ -115,7 +126,9 @@ private:
 
     bool isOwn(const QString &path) const
     {
-        return m_input.lastIndex && m_input.lastIndex->contains(indexKey(path));
+        const QString key = indexKey(path);
+        return (m_input.lastIndex && m_input.lastIndex->contains(key)) ||
+               m_input.unfinished.contains(key);
     }
 
     bool isStranger(const QString &path) const { return !isOwn(path); }

@@ -19,6 +19,7 @@ struct MeasuredItem
     bool isFolder = false;
     FileStatus destination = {}; ///< links not followed
     bool isEqualTree = false;    ///< both are folders with the same contents
+    bool isDamaged = false;      ///< both are files of one size with other contents
     QString link = {};           ///< on the way to the destination; empty: none
 };
 
@@ -44,6 +45,9 @@ struct KindInput
     std::vector<StickFolder> folders;
     /// Keys, relative to the volume, of what the last index lists; nothing where there is none.
     std::optional<QSet<QString>> lastIndex;
+    QSet<QString> unfinished = {};  ///< such keys of what an interrupted run was to place
+    std::optional<int> shownLevels; ///< of folders in the kind's own; nothing: all
+    QString root;                   ///< the kind's own folder
 };
 
 /// The rules of a run, and nothing else: no disk, no settings, no time.

@@ -14,6 +14,7 @@ struct RunReport
         QString path; ///< absolute, where it would have gone
         QString source;
         PlannedItem::Reason reason = PlannedItem::Reason::None; ///< None: it failed
+        QString text; ///< why, for logs; the system's words where it failed
     };
 
     unsigned copied = 0;
@@ -21,5 +22,12 @@ struct RunReport
     unsigned removed = 0; ///< files; emptied folders don't count
     quint64 copiedBytes = 0;
     std::vector<LeftOut> leftOut; ///< of what was wanted; what a cancel left out isn't among it
+    unsigned hiddenFiles = 0;     ///< in deeper folders than the PSP shows
     bool isComplete = false;      ///< the run was not cancelled
+    bool isStickLost = false;     ///< that cancelled it: it went, or turned read-only
+
+    /// Of what was left out, what exists and could not be placed.
+    size_t failures() const;
+    /// What was to be placed and exists.
+    size_t placeable() const { return copied + replaced + failures(); }
 };

@@ -23,11 +23,28 @@ StickEditor::StickEditor(QString volume, std::optional<VolumeIdentity> identity)
 
 bool StickEditor::isPresent()
 {
-    if (m_identity && VolumeIdentity::of(m_volume) == m_identity)
-        return true;
+    return (!m_isLost && m_identity && VolumeIdentity::of(m_volume) == m_identity) || lose();
+}
+
+bool StickEditor::lose()
+{
+    m_isLost = true;
     if (m_whenGone)
         m_whenGone();
     return false;
+}
+
+bool StickEditor::isLostBy(const FileError &error)
+{
+    if (!StickFiles::isOnVolume(error.path, m_volume) || error.number == 0)
+        return false;
+    if (!isPresent())
+        return true;
+    const auto space = files().volumeSpace(m_volume);
+    if (error.number == ENODEV || error.number == EROFS || !space || space->isReadOnly ||
+        (error.number == EIO && files().entries(m_volume).empty()))
+        lose();
+    return m_isLost;
 }
 
 // A link among the folders leads off the stick: what lies behind it is the user's own.
@@ -64,6 +81,7 @@ bool StickEditor::mayChange(Operation operation, const QString &path, FileOperat
     const auto obstacle = obstacleTo(operation, path);
     if (obstacle && obstacle->number != ENODEV && handler)
         handler->fileManagerShouldProceedAfterError(*obstacle);
+    m_isToFlush |= !obstacle;
     return !obstacle;
 }
 
@@ -79,6 +97,7 @@ FileResult<> StickEditor::makeFolders(const QString &path)
             return made;
     }
     m_links.remove(path);
+    m_isToFlush = true;
     return files().createFolder(path);
 }
 
@@ -125,8 +144,14 @@ CopyOutcome StickEditor::place(const CVSyncItem &item, FileOperationHandler &han
         return {};
     const QString folder = PathComponents::folderOf(item.destination);
     // What is wrong with the folder is said of the file that can't be made in it.
-    if (m_lastFolder != folder)
-        std::ignore = makeFolders(folder);
+    if (m_lastFolder != folder) {
+        if (const auto made = makeFolders(folder); !made) {
+            FileError error = made.error();
+            error.path = item.destination;
+            handler.fileManagerShouldProceedAfterError(error);
+            return {};
+        }
+    }
     m_lastFolder = folder;
     const CopyOutcome outcome = FileManagerTools::copyPath(item.source, item.destination, handler);
     // Other systems keep a file's resource fork beside it under this name.
@@ -147,6 +172,7 @@ void StickEditor::setIcon(const QString &icon)
             return;
         files().remove(path, nullptr);
     }
+    m_isToFlush = true;
     files().copy(icon, path, nullptr);
     FinderInfo::setCustomIconFlag(m_volume);
     Workspace::noteFileSystemChanged(m_volume);
@@ -154,5 +180,6 @@ void StickEditor::setIcon(const QString &icon)
 
 void StickEditor::flush()
 {
-    files().flush(m_volume);
+    if (std::exchange(m_isToFlush, false))
+        files().flush(m_volume);
 }

@@ -23,11 +23,15 @@ public:
 
     const QString &volume() const { return m_volume; }
 
-    /// Called each time that the stick is found gone.
+    /// Called each time that the stick is found gone, or no longer to be written.
     void setWhenGone(std::function<void()> whenGone) { m_whenGone = std::move(whenGone); }
 
-    /// Whether that very stick still lies at its path.
+    /// Whether that very stick still lies at its path. One that was lost once stays it.
     bool isPresent();
+
+    /// Whether a failure says that the stick has gone or has turned read-only, rather than that one
+    /// of its files can't be had. It is lost then.
+    bool isLostBy(const FileError &error);
 
     /// Makes the folder and every missing one on the way; what is there already is fine.
     FileResult<> makeFolders(const QString &path);
@@ -48,7 +52,7 @@ public:
     /// the file to take it from.
     void setIcon(const QString &icon);
 
-    /// Writes what is buffered to the device.
+    /// Writes what is buffered to the device, where anything was changed.
     void flush();
 
     /// The first folder on the way to the path, itself left out, that is a link; empty: none. What
@@ -60,10 +64,13 @@ private:
     bool mayChange(FileError::Operation operation, const QString &path,
                    FileOperationHandler *handler);
     QString linkAtOrAbove(const QString &folder);
+    bool lose();
 
     const QString m_volume;
     const std::optional<VolumeIdentity> m_identity;
     std::function<void()> m_whenGone;
+    bool m_isLost = false;
+    bool m_isToFlush = false;
     QHash<QString, QString> m_links; // per folder, the link at or above it
     QString m_lastFolder;            // that something was copied into
 };

@@ -22,6 +22,11 @@ QString syncIndex(const QString &volume, const QString &moduleSaveName)
     return caravelFolder(volume) + u'/' + moduleSaveName + QStringLiteral("SyncIndex.plist");
 }
 
+QString unfinished(const QString &volume)
+{
+    return caravelFolder(volume) + QStringLiteral("/Unfinished");
+}
+
 QString selectionProfile(const QString &volume, const QString &moduleSaveName)
 {
     return caravelFolder(volume) + u'/' + moduleSaveName + QStringLiteral(".plist");

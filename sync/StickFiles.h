@@ -18,6 +18,10 @@ QString lastSyncSize(const QString &volume);
 /// List of the volume-relative paths that a module placed or found in place in the last run.
 QString syncIndex(const QString &volume, const QString &moduleSaveName);
 
+/// List of the volume-relative paths that a run is to place, in their order: there from before its
+/// first change until its indexes are written.
+QString unfinished(const QString &volume);
+
 /// List of the identifiers selected for this stick.
 QString selectionProfile(const QString &volume, const QString &moduleSaveName);
 

@@ -79,8 +79,11 @@ StickNames StickNames::of(const QString &volume)
 {
     static constexpr std::array fatLike{u"vfat", u"msdos", u"exfat", u"ntfs", u"ntfs3", u"fuseblk"};
     const QString type = files().fileSystemType(volume);
-    return StickNames(volume, {std::ranges::find(fatLike, QStringView(type)) != fatLike.end(),
-                               tellsCaseApart(volume)});
+    Policy policy{.isFatLike = std::ranges::find(fatLike, QStringView(type)) != fatLike.end(),
+                  .tellsCaseApart = tellsCaseApart(volume)};
+    if (type == u"vfat" || type == u"msdos")
+        policy.largestFile = std::numeric_limits<quint32>::max();
+    return StickNames(volume, policy);
 }
 
 QString StickNames::destination(const QString &path) const

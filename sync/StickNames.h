@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <limits>
+
 /// What the stick's file system makes of names: which it can't hold, and which it takes for one.
 /// Fixed for a run. Any thread.
 class StickNames
@@ -13,6 +15,7 @@ public:
         /// component's end, can't be kept, and dots there are ignored when names are compared.
         bool isFatLike = false;
         bool tellsCaseApart = true;
+        quint64 largestFile = std::numeric_limits<quint64>::max(); ///< bytes
     };
 
     /// Names stay as they are on a volume of the default policy.
@@ -30,6 +33,9 @@ public:
     /// The same for all paths that the stick takes for one. Paths that were written by an earlier
     /// version of the system keep their key, so nothing becomes "_" here.
     QString key(const QString &path) const;
+
+    /// Bytes; a larger file is never begun.
+    quint64 largestFile() const { return m_policy.largestFile; }
 
     /// Whether two paths that differ may be one to the stick.
     bool confusesPaths() const { return m_policy.isFatLike || !m_policy.tellsCaseApart; }

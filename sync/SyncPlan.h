@@ -20,8 +20,9 @@ struct PlannedItem
     };
     enum class Reason {
         None,
-        Missing, ///< the source doesn't exist
-        Link,    ///< a link lies on the way to the destination
+        Missing,  ///< the source doesn't exist
+        Link,     ///< a link lies on the way to the destination
+        TooLarge, ///< for the stick's file system
         /// The source is other systems' "._" file, which never goes along; what lies at its
         /// destination in another size goes all the same.
         Companion,
@@ -63,6 +64,8 @@ struct KindPlan
     quint64 syncEstimateSize = 0;
     /// Bytes of what is to be copied.
     quint64 syncQueueSize = 0;
+    /// Of what is copied or in place, files in deeper folders than the PSP shows.
+    unsigned hiddenFiles = 0;
 
     QStringList inPlace(const QString &volume) const;
     /// Of the stick's clusters that the copies take; a kind that goes elsewhere takes none.
@@ -75,9 +78,13 @@ struct KindPlan
 /// that nobody carries out is a preview.
 struct SyncPlan
 {
-    QString volume;         ///< mount path of the stick
+    QString volume = {};    ///< mount path of the stick
     VolumeSpace space = {}; ///< of the stick, when the plan was made
     std::vector<KindPlan> kinds = {};
+    /// False where planning was cut short: there are no kinds then.
+    bool isComplete = true;
+    /// Relative to the volume: what a run that was interrupted was to place; empty: none was.
+    QStringList unfinished = {};
 
     quint64 syncBytesTotal() const;
     quint64 syncBytesEstimate() const;

@@ -3,6 +3,7 @@
 #include "platform/lists/PropertyList.h"
 #include "sync/CVSyncModule.h"
 #include "sync/StickFiles.h"
+#include "util/FileManagerTools.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
 
@@ -11,6 +12,9 @@
 #include <utility>
 
 namespace {
+
+// How many of the files that an interrupted run placed last are compared by their contents.
+constexpr int mayBeDamaged = 16;
 
 MeasuredItem measured(CVSyncItem item)
 {
@@ -117,11 +121,21 @@ SyncPlanner::SyncPlanner(QString volume, ShouldStop shouldStop)
 SyncPlan SyncPlanner::plan(const ModuleList &modules)
 {
     SyncPlan plan{.volume = m_volume, .space = m_space};
+    const QString unfinished = StickFiles::unfinished(m_volume);
+    if (files().linkStatus(unfinished).exists())
+        plan.unfinished = PropertyList::readStringArray(unfinished).valueOr({});
+    std::vector<KindInput> inputs;
     for (const auto &module : modules) {
+        module->setShouldStop(m_shouldStop);
+        inputs.push_back(look(*module, plan.unfinished));
         if (m_shouldStop())
-            break;
-        plan.kinds.push_back(planOf(*module));
+            return {.isComplete = false};
     }
+    compareLastPlaced(inputs, plan.unfinished);
+    if (m_shouldStop())
+        return {.isComplete = false};
+    for (KindInput &input : inputs)
+        plan.kinds.push_back(Compare::plan(std::move(input), m_names));
     return plan;
 }
 
@@ -136,7 +150,7 @@ quint64 SyncPlanner::estimate(CVSyncModule &module)
     return bytes;
 }
 
-KindPlan SyncPlanner::planOf(CVSyncModule &module)
+KindInput SyncPlanner::look(CVSyncModule &module, const QStringList &unfinished)
 {
     KindInput input;
     input.volume = m_volume;
@@ -148,8 +162,40 @@ KindPlan SyncPlanner::planOf(CVSyncModule &module)
     input.items = measureItems(module, input.folders);
     input.lastIndex =
         readLastIndex(StickFiles::syncIndex(m_volume, module.moduleSaveName()), m_names);
+    for (const QString &path : unfinished)
+        input.unfinished.insert(m_names.key(path));
+    input.shownLevels = module.shownLevels();
+    input.root = module.rootSyncFolder();
     input.clusterSize = m_space.clusterSize;
-    return Compare::plan(std::move(input), m_names);
+    return input;
+}
+
+// Each file is on the device before the next is begun: after an interruption only the last ones can
+// have the right size and other contents.
+void SyncPlanner::compareLastPlaced(std::vector<KindInput> &inputs,
+                                    const QStringList &unfinished) const
+{
+    if (unfinished.isEmpty())
+        return;
+    QHash<QString, MeasuredItem *> placed;
+    for (KindInput &input : inputs) {
+        for (MeasuredItem &item : input.items) {
+            if (item.exists && !item.isFolder && item.destination.kind == FileStatus::Kind::File &&
+                item.destination.size == item.item.size)
+                placed.insert(
+                    m_names.key(StickFiles::relativeToVolume(item.item.destination, m_volume)),
+                    &item);
+        }
+    }
+    int left = mayBeDamaged;
+    for (qsizetype i = unfinished.size(); i-- > 0 && left > 0 && !m_shouldStop();) {
+        MeasuredItem *const item = placed.take(m_names.key(unfinished[i]));
+        if (!item)
+            continue;
+        --left;
+        const QString source = FileManagerTools::pathByResolvingAliasesInPath(item->item.source);
+        item->isDamaged = !files().contentsEqual(source, item->item.destination, m_shouldStop);
+    }
 }
 
 std::vector<StickFolder> SyncPlanner::listFolders(const CVSyncModule &module)
@@ -188,8 +234,9 @@ std::vector<MeasuredItem> SyncPlanner::measureItems(CVSyncModule &module,
         if (!last.exists || !last.link.isEmpty())
             continue;
         last.destination = listing.statusOf(last.item.destination);
-        last.isEqualTree = last.isFolder && last.destination.isFolder() &&
-                           files().contentsEqual(last.item.destination, last.item.source);
+        last.isEqualTree =
+            last.isFolder && last.destination.isFolder() &&
+            files().contentsEqual(last.item.destination, last.item.source, m_shouldStop);
     }
     return items;
 }

@@ -15,7 +15,7 @@
 class SyncPlanner
 {
 public:
-    /// True ends the planning early; what is planned by then is thrown away by the caller.
+    /// True ends the planning early; what is planned by then is thrown away.
     using ShouldStop = std::function<bool()>;
 
     SyncPlanner(QString volume, ShouldStop shouldStop);
@@ -26,7 +26,8 @@ public:
     static quint64 estimate(CVSyncModule &module);
 
 private:
-    KindPlan planOf(CVSyncModule &module);
+    KindInput look(CVSyncModule &module, const QStringList &unfinished);
+    void compareLastPlaced(std::vector<KindInput> &inputs, const QStringList &unfinished) const;
     std::vector<StickFolder> listFolders(const CVSyncModule &module);
     std::vector<MeasuredItem> measureItems(CVSyncModule &module,
                                            const std::vector<StickFolder> &folders);

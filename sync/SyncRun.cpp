@@ -25,8 +25,10 @@ SyncRun::SyncRun(SyncRunHost &host, Services services, StickEditor stick)
 {
     m_stick.setWhenGone([this] {
         if (!std::exchange(m_saidGone, true)) {
-            qCWarning(lcSync).noquote() << "The stick at" << m_stick.volume()
-                                        << "is gone; the sync ends and nothing is written there";
+            qCWarning(lcSync).noquote()
+                << "The stick at" << m_stick.volume()
+                << "is gone or read-only; the sync ends and nothing is written there";
+            m_report.isStickLost = !m_host.shouldCancelSync();
         }
         m_host.cancelSync();
     });
@@ -51,7 +53,7 @@ void SyncRun::start()
     const QString caravel = StickFiles::caravelFolder(m_stick.volume());
     if (!m_stick.isPresent())
         return;
-    if (const auto made = m_stick.makeFolders(caravel); !made)
+    if (const auto made = m_stick.makeFolders(caravel); !made && !m_stick.isLostBy(made.error()))
         qCWarning(lcSync).noquote() << "Can't create the folder" << caravel;
     const QString restore = StickFiles::restoreFolder(m_stick.volume());
     if (files().linkStatus(restore).exists())
@@ -77,16 +79,26 @@ void SyncRun::recordSizes()
     quint64 size = m_plan->syncBytesEstimate();
     if (m_host.shouldCancelSync())
         size -= std::min(m_host.syncBytesLeft(), size);
-    Settings::lastSyncSize.set(size);
+    if (m_plan->isComplete)
+        Settings::lastSyncSize.set(size);
     // Of a stick that is gone the last known free space is still the best guess.
     if (m_stick.isPresent()) {
         if (const auto space = files().volumeSpace(m_stick.volume()))
             Settings::lastFreeSpace.set(space->free);
-        const QString path = StickFiles::lastSyncSize(m_stick.volume());
-        if (const auto written = m_stick.write(path, NumberArchive::encode(size)); !written)
-            qCWarning(lcSync).noquote() << "Can't write" << path << ":" << written.error().text;
+        if (m_plan->isComplete)
+            write(StickFiles::lastSyncSize(m_stick.volume()), NumberArchive::encode(size));
     }
     m_host.setSyncBytes(1, 0);
+}
+
+// One of our own files.
+void SyncRun::write(const QString &path, const QByteArray &contents)
+{
+    if (!m_stick.isPresent())
+        return;
+    const auto written = m_stick.write(path, contents);
+    if (!written && !m_stick.isLostBy(written.error()))
+        qCWarning(lcSync).noquote() << "Can't write" << path << ":" << written.error().text;
 }
 
 void SyncRun::ejectStick()
@@ -104,6 +116,9 @@ bool SyncRun::fileManagerCopiedBytes(quint64 bytes, const QString &)
 
 bool SyncRun::fileManagerShouldProceedAfterError(const FileError &error)
 {
-    m_host.syncModuleError(error);
+    m_lastError = error;
+    // What is wrong with the stick as a whole is said once, at the end.
+    if (!m_stick.isLostBy(error))
+        m_host.syncModuleError(error);
     return true;
 }

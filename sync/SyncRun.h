@@ -65,13 +65,16 @@ private:
 
     void pause();
     void makePlan();
+    void markUnfinished();
     void removeReplaced(const KindPlan &kind);
     void cleanUp(const KindPlan &kind, ItemPlacer *placer);
     void removePlanned(const PlannedRemoval &removal);
     void copyKind(const KindPlan &kind, ItemPlacer &placer);
     void copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringList &index);
-    void leaveOut(const PlannedItem &planned);
-    void writeIndex(const KindPlan &kind);
+    void record(const PlannedItem &planned, const CopyOutcome &outcome);
+    void leaveOut(const CVSyncItem &item, PlannedItem::Reason reason);
+    QStringList indexOf(const KindPlan &kind) const;
+    void write(const QString &path, const QByteArray &contents);
 
     bool fileManagerCopiedBytes(quint64 bytes, const QString &toPath) override;
     bool fileManagerShouldProceedAfterError(const FileError &error) override;
@@ -85,5 +88,6 @@ private:
     std::shared_ptr<const SyncPlan> m_plan = std::make_shared<SyncPlan>();
     QHash<QString, QStringList> m_indexes; // syncIndex: per save name, relative to the volume
     QStringList m_notRemoved;              // paths; their folders stay
+    FileError m_lastError;                 // of the item that is being placed
     RunReport m_report;
 };

@@ -22,7 +22,7 @@ void SyncRun::copyKind(const KindPlan &kind, ItemPlacer &placer)
     QStringList &index = m_indexes[kind.saveName];
     for (const PlannedItem &planned : kind.items) {
         if (planned.action == PlannedItem::Action::LeaveOut)
-            leaveOut(planned);
+            leaveOut(planned.item, planned.reason);
         if (!planned.isCopied())
             continue;
         std::ignore = m_stick.isPresent(); // a stick that is gone cancels the run
@@ -30,6 +30,8 @@ void SyncRun::copyKind(const KindPlan &kind, ItemPlacer &placer)
             return;
         if (files().exists(planned.item.source))
             copyItem(planned, placer, index);
+        else
+            leaveOut(planned.item, PlannedItem::Reason::Missing);
     }
 }
 
@@ -37,19 +39,42 @@ void SyncRun::copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringLi
 {
     m_host.syncModuleWillProcessItem(planned.item);
     if (m_stick.isPresent()) {
-        const CopyOutcome outcome = placer.place(planned.item, *this);
-        m_report.copiedBytes += outcome.bytes;
-        if (outcome.isComplete())
-            ++(planned.action == PlannedItem::Action::Replace ? m_report.replaced
-                                                              : m_report.copied);
-        else
-            leaveOut(planned);
+        m_lastError = {};
+        record(planned, placer.place(planned.item, *this));
         index.append(StickFiles::relativeToVolume(planned.item.destination, m_stick.volume()));
     }
     m_host.syncModuleDidProcessItem(planned.item);
 }
 
-void SyncRun::leaveOut(const PlannedItem &planned)
+void SyncRun::record(const PlannedItem &planned, const CopyOutcome &outcome)
 {
-    m_report.leftOut.push_back({planned.item.destination, planned.item.source, planned.reason});
+    m_report.copiedBytes += outcome.bytes;
+    if (outcome.isComplete())
+        ++(planned.action == PlannedItem::Action::Replace ? m_report.replaced : m_report.copied);
+    else if (!files().exists(planned.item.source))
+        leaveOut(planned.item, PlannedItem::Reason::Missing);
+    else if (!m_host.shouldCancelSync())
+        leaveOut(planned.item, PlannedItem::Reason::None);
+}
+
+void SyncRun::leaveOut(const CVSyncItem &item, PlannedItem::Reason reason)
+{
+    using Reason = PlannedItem::Reason;
+    QString text;
+    switch (reason) {
+    case Reason::Missing:
+        text = QStringLiteral("missing");
+        break;
+    case Reason::Link:
+        text = QStringLiteral("a link lies on the way");
+        break;
+    case Reason::TooLarge:
+        text = QStringLiteral("larger than the stick takes files");
+        break;
+    default:
+        // Nothing is overwritten; what was to go first may have stayed.
+        text = m_lastError.text.isEmpty() ? QStringLiteral("something else lies there")
+                                          : m_lastError.text;
+    }
+    m_report.leftOut.push_back({item.destination, item.source, reason, text});
 }

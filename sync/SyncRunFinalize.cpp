@@ -1,7 +1,6 @@
 // Cancelled or not, each kind's index says what of it lies on the stick.
 
 #include "platform/lists/PropertyList.h"
-#include "sync/Log.h"
 #include "sync/StickFiles.h"
 #include "sync/SyncRun.h"
 
@@ -10,17 +9,23 @@ void SyncRun::finalize()
     m_host.setIsIndeterminate(true);
     m_host.tell([](CVSyncManagerDelegate &delegate) { delegate.finalizeDidStart(); });
     for (const KindPlan &kind : m_plan->kinds)
-        writeIndex(kind);
+        write(StickFiles::syncIndex(m_stick.volume(), kind.saveName),
+              PropertyList::toXml(indexOf(kind)));
+    const QString unfinished = StickFiles::unfinished(m_stick.volume());
+    if (m_plan->isComplete && m_stick.isPresent() && files().linkStatus(unfinished).exists())
+        m_stick.remove(unfinished, nullptr);
     m_host.setIsIndeterminate(false);
 }
 
-void SyncRun::writeIndex(const KindPlan &kind)
+QStringList SyncRun::indexOf(const KindPlan &kind) const
 {
-    if (!m_stick.isPresent())
-        return;
-    const QString path = StickFiles::syncIndex(m_stick.volume(), kind.saveName);
-    const QByteArray index = PropertyList::toXml(m_indexes.value(kind.saveName));
-    if (const auto written = m_stick.write(path, index); !written)
-        qCWarning(lcSync).noquote()
-            << "Can't write the index" << path << ":" << written.error().text;
+    QStringList index = m_indexes.value(kind.saveName);
+    // What is still to be removed stays ours.
+    for (const PlannedRemoval &removal : kind.removals) {
+        if (removal.isUnwantedFile && !removal.isStranger &&
+            (m_host.shouldCancelSync() || m_notRemoved.contains(removal.path)) &&
+            files().linkStatus(removal.path).exists())
+            index.append(StickFiles::relativeToVolume(removal.path, m_stick.volume()));
+    }
+    return index;
 }

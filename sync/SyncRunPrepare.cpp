@@ -1,7 +1,9 @@
 // Everything is looked at and planned; then what will be replaced goes, so that the clean-up and
 // the test of the free space count without it.
 
+#include "platform/lists/PropertyList.h"
 #include "sync/Log.h"
+#include "sync/StickFiles.h"
 #include "sync/SyncPlanner.h"
 #include "sync/SyncRun.h"
 #include "util/Settings.h"
@@ -27,6 +29,14 @@ void SyncRun::prepare()
     for (const KindPlan &kind : m_plan->kinds) {
         for (const FileError &error : kind.errors)
             m_host.syncModuleError(error);
+        m_report.hiddenFiles += kind.hiddenFiles;
+    }
+    if (!m_host.shouldCancelSync())
+        markUnfinished();
+    // Until here nothing of the media was touched, and nothing will be after a cancel.
+    if (m_host.shouldCancelSync())
+        m_plan = std::make_shared<const SyncPlan>(SyncPlan{.isComplete = false});
+    for (const KindPlan &kind : m_plan->kinds) {
         m_indexes.insert(kind.saveName, kind.inPlace(m_stick.volume()));
         removeReplaced(kind);
     }
@@ -38,10 +48,27 @@ void SyncRun::makePlan()
 {
     m_host.setSyncBytes(0, 0);
     m_modules = modulesTakingPart(m_services.catalogue, m_stick.volume());
-    // A cancel is looked for when the plan stands: every module has its index written at the end.
-    m_plan = std::make_shared<const SyncPlan>(
-        SyncPlanner(m_stick.volume(), [] { return false; }).plan(m_modules));
+    m_plan = std::make_shared<const SyncPlan>(SyncPlanner(m_stick.volume(), [this] {
+                                                  return m_host.shouldCancelSync();
+                                              }).plan(m_modules));
     m_host.setPlan(m_plan);
+}
+
+void SyncRun::markUnfinished()
+{
+    // What an earlier run was to place stays ours until an index lists it.
+    QStringList paths = m_plan->unfinished;
+    const qsizetype before = paths.size();
+    for (const KindPlan &kind : m_plan->kinds) {
+        for (const PlannedItem &planned : kind.items) {
+            if (planned.isCopied() &&
+                StickFiles::isOnVolume(planned.item.destination, m_stick.volume()))
+                paths.append(
+                    StickFiles::relativeToVolume(planned.item.destination, m_stick.volume()));
+        }
+    }
+    if (paths.size() > before)
+        write(StickFiles::unfinished(m_stick.volume()), PropertyList::toXml(paths));
 }
 
 void SyncRun::removeReplaced(const KindPlan &kind)

@@ -122,7 +122,7 @@ std::vector<CVSyncItem> CVSyncContacts::itemsToSync()
         noteUnreadableLibrary(*found.unreadable);
     for (const Person &person : sorted(std::move(found.people))) {
         const auto name = ContactsPage::displayName(person);
-        if (!name)
+        if (!name || shouldStop())
             continue;
         const QString hash = QMMD5Hasher::hashFromString(person.uid);
         QString picture;

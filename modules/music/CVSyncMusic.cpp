@@ -127,6 +127,8 @@ void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items)
         naming.beginPlaylist(name);
         int position = 0;
         for (const std::int64_t id : playlist.tracks) {
+            if (shouldStop())
+                return;
             const auto track = library->track(id);
             if (!track || !isPlayable(*track, firmware))
                 continue;

@@ -27,6 +27,7 @@ public:
     QString rootSyncFolder() const override;
     bool shouldClearUnsyncedFiles() const override;
     std::vector<CVSyncItem> itemsToSync() override;
+    std::optional<int> shownLevels() const override { return 1; }
 
 private:
     void addLibraryItems(std::vector<CVSyncItem> &items);

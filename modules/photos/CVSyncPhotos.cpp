@@ -126,7 +126,7 @@ void CVSyncPhotos::addAlbumItems(std::vector<CVSyncItem> &items)
         return;
     }
     for (const PhotoLibrary::Album &album : library->albums()) {
-        if (album.name && isSelected(*album.name))
+        if (album.name && isSelected(*album.name) && !shouldStop())
             addAlbum(*library, album, items);
     }
 }

@@ -25,6 +25,7 @@ public:
     QString rootSyncFolder() const override;
     bool shouldClearUnsyncedFiles() const override;
     std::vector<CVSyncItem> itemsToSync() override;
+    std::optional<int> shownLevels() const override { return 1; }
 
 private:
     void addAlbumItems(std::vector<CVSyncItem> &items);

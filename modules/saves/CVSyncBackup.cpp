@@ -91,12 +91,14 @@ std::vector<CVSyncItem> CVSyncBackup::itemsToSync()
         return items;
     for (const FolderEntry &entry : files().entries(folder)) {
         const QString &name = entry.path;
-        if (name == u".DS_Store")
+        if (name == u".DS_Store" || shouldStop())
             continue;
         const Backup previous{name,
                               QString::number(BackupHistory::latestTimestampOf(name), 'f', 0)};
         const QString source = folder + u'/' + name;
-        if (!files().contentsEqual(previous.folder(), source))
+        // What a link leads to is no save of the PSP's own.
+        if (files().linkStatus(source).kind != FileStatus::Kind::Link &&
+            !files().contentsEqual(previous.folder(), source, shouldStopQuestion()))
             items.emplace_back(source, BackupHistory::newFolder(name, m_clock) + u'/' + name, name);
     }
     return items;

@@ -53,6 +53,13 @@ bool isSelfOrParent(const char *name)
     return name[0] == '.' && (name[1] == 0 || (name[1] == '.' && name[2] == 0));
 }
 
+int openForReading(int at, const char *path, int flags)
+{
+    // So that reading a stick writes nothing to it; only a file's owner may ask for that.
+    const int file = ::openat(at, path, O_RDONLY | O_CLOEXEC | O_NOATIME | flags);
+    return file < 0 && errno == EPERM ? ::openat(at, path, O_RDONLY | O_CLOEXEC | flags) : file;
+}
+
 } // namespace
 
 QByteArray native(const QString &path)
@@ -83,7 +90,7 @@ int Descriptor::release()
 
 int openRegularFile(const char *path)
 {
-    Descriptor file(::open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    Descriptor file(openForReading(AT_FDCWD, path, O_NONBLOCK | O_NOCTTY));
     struct stat status;
     if (!file || ::fstat(file.get(), &status) != 0)
         return -1;
@@ -132,7 +139,7 @@ std::optional<std::vector<Entry>> entriesOf(Descriptor folder, Sizes sizes)
 Descriptor openFolder(int at, const char *path, Links links)
 {
     const int follow = links == Links::Refuse ? O_NOFOLLOW : 0;
-    return Descriptor(::openat(at, path, O_RDONLY | O_DIRECTORY | O_CLOEXEC | follow));
+    return Descriptor(openForReading(at, path, O_DIRECTORY | follow));
 }
 
 bool renameExclusively(const char *source, const char *destination)

@@ -260,7 +260,7 @@ std::optional<VolumeSpace> FileManager::volumeSpace(const QString &path) const
         return std::nullopt;
     return VolumeSpace{quint64(space.f_blocks) * space.f_frsize,
                        quint64(space.f_bavail) * space.f_frsize,
-                       std::max<quint64>(space.f_frsize, 1)};
+                       std::max<quint64>(space.f_frsize, 1), (space.f_flag & ST_RDONLY) != 0};
 }
 
 QString FileManager::fileSystemType(const QString &path) const

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -58,6 +59,7 @@ struct VolumeSpace
     quint64 size = 0;
     quint64 free = 0;
     quint64 clusterSize = 1; ///< what the smallest file takes
+    bool isReadOnly = false; ///< as it is mounted now
 };
 
 /// What tells that a file is still the one that was looked at before.
@@ -105,8 +107,10 @@ public:
 
     /// Whether two files, or two folder trees entry by entry, hold the same bytes. Links are
     /// compared by their targets' texts and never followed. Sizes are compared before contents.
-    /// False when anything can't be read.
-    virtual bool contentsEqual(const QString &first, const QString &second) const;
+    /// False when anything can't be read, and when `shouldStop`, which is asked between the blocks
+    /// of a file, says true.
+    virtual bool contentsEqual(const QString &first, const QString &second,
+                               const std::function<bool()> &shouldStop = {}) const;
 
     /// Makes one folder (0755 less the umask); fails where something is there.
     virtual FileResult<> createFolder(const QString &path);

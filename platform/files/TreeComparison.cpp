@@ -19,6 +19,11 @@ constexpr size_t compareBlock = 128U << 10;
 class Comparer
 {
 public:
+    explicit Comparer(const std::function<bool()> &shouldStop)
+        : m_shouldStop(shouldStop)
+    {
+    }
+
     bool equal(const std::string &first, const std::string &second)
     {
         struct stat one;
@@ -71,6 +76,8 @@ private:
         char *const left = m_blocks.data();
         char *const right = left + compareBlock;
         for (;;) {
+            if (m_shouldStop && m_shouldStop())
+                return false;
             const ssize_t count = readBlock(one.get(), left);
             if (count < 0 || count != readBlock(two.get(), right))
                 return false;
@@ -97,12 +104,14 @@ private:
         return static_cast<ssize_t>(filled);
     }
 
+    const std::function<bool()> &m_shouldStop;
     std::vector<char> m_blocks;
 };
 
 } // namespace
 
-bool FileManager::contentsEqual(const QString &first, const QString &second) const
+bool FileManager::contentsEqual(const QString &first, const QString &second,
+                                const std::function<bool()> &shouldStop) const
 {
-    return Comparer().equal(Trees::nativeText(first), Trees::nativeText(second));
+    return Comparer(shouldStop).equal(Trees::nativeText(first), Trees::nativeText(second));
 }

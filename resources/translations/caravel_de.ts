@@ -302,5 +302,25 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <source>No PSP is connected. Nothing was changed.</source>
         <translation>Es ist keine PSP angeschlossen. Nichts wurde geändert.</translation>
     </message>
+    <message>
+        <source>Sync Incomplete</source>
+        <translation>Synchronisierung unvollständig</translation>
+    </message>
+    <message>
+        <source>%@ of %@ files could not be copied.</source>
+        <translation>%@ von %@ Dateien konnten nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>PSP lost during sync!</source>
+        <translation>PSP während der Synchronisierung verloren!</translation>
+    </message>
+    <message>
+        <source>The PSP was disconnected, or its Memory Stick can&apos;t be written any more, before the sync was complete.
+
+You must re-sync to ensure the PSP is up to date.</source>
+        <translation>Die PSP wurde getrennt, oder auf ihren Memory Stick kann nicht mehr geschrieben werden, bevor die Synchronisierung abgeschlossen war.
+
+Sie müssen erneut synchronisieren, damit die PSP auf dem neuesten Stand ist.</translation>
+    </message>
 </context>
 </TS>

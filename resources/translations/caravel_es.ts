@@ -302,5 +302,25 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <source>No PSP is connected. Nothing was changed.</source>
         <translation>No hay ninguna PSP conectada. No se ha cambiado nada.</translation>
     </message>
+    <message>
+        <source>Sync Incomplete</source>
+        <translation>Sincronización incompleta</translation>
+    </message>
+    <message>
+        <source>%@ of %@ files could not be copied.</source>
+        <translation>No se pudieron copiar %@ de %@ archivos.</translation>
+    </message>
+    <message>
+        <source>PSP lost during sync!</source>
+        <translation>¡Se perdió la PSP durante la sincronización!</translation>
+    </message>
+    <message>
+        <source>The PSP was disconnected, or its Memory Stick can&apos;t be written any more, before the sync was complete.
+
+You must re-sync to ensure the PSP is up to date.</source>
+        <translation>La PSP se desconectó, o ya no se puede escribir en su Memory Stick, antes de que terminara la sincronización.
+
+Debe sincronizar de nuevo para que la PSP esté actualizada.</translation>
+    </message>
 </context>
 </TS>

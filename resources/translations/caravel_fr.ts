@@ -302,5 +302,25 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <source>No PSP is connected. Nothing was changed.</source>
         <translation>Aucune PSP n’est connectée. Rien n’a été modifié.</translation>
     </message>
+    <message>
+        <source>Sync Incomplete</source>
+        <translation>Synchronisation incomplète</translation>
+    </message>
+    <message>
+        <source>%@ of %@ files could not be copied.</source>
+        <translation>%@ fichiers sur %@ n’ont pas pu être copiés.</translation>
+    </message>
+    <message>
+        <source>PSP lost during sync!</source>
+        <translation>PSP perdue pendant la synchronisation !</translation>
+    </message>
+    <message>
+        <source>The PSP was disconnected, or its Memory Stick can&apos;t be written any more, before the sync was complete.
+
+You must re-sync to ensure the PSP is up to date.</source>
+        <translation>La PSP a été déconnectée, ou il n’est plus possible d’écrire sur son Memory Stick, avant la fin de la synchronisation.
+
+Vous devez relancer la synchronisation pour que la PSP soit à jour.</translation>
+    </message>
 </context>
 </TS>

@@ -302,5 +302,25 @@ Please deselect some media to ensure the sync can be completed.</source>
         <source>No PSP is connected. Nothing was changed.</source>
         <translation>PSP が接続されていません。何も変更されていません。</translation>
     </message>
+    <message>
+        <source>Sync Incomplete</source>
+        <translation>同期は不完全です</translation>
+    </message>
+    <message>
+        <source>%@ of %@ files could not be copied.</source>
+        <translation>ファイル %@ 個（%@ 個中）をコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>PSP lost during sync!</source>
+        <translation>同期中に PSP が失われました！</translation>
+    </message>
+    <message>
+        <source>The PSP was disconnected, or its Memory Stick can&apos;t be written any more, before the sync was complete.
+
+You must re-sync to ensure the PSP is up to date.</source>
+        <translation>同期が完了する前に、PSP が取り外されたか、メモリースティックに書き込めなくなりました。
+
+PSP を最新の状態にするには、もう一度同期してください。</translation>
+    </message>
 </context>
 </TS>

@@ -76,13 +76,27 @@ TEST_F(SyncStatusTest, SaysWhyARunEnded)
     EXPECT_TRUE(sounds.played.isEmpty());
     files.freeBytes = 3ULL << 29;
     files.readOnlyBelow = harness.stick(u"PSP"_s);
-    EXPECT_EQ(run(),
-              "Unexpected error: Couldn't create: STICK/PSP/MUSIC/one (Read-only file system)\n"
-              "Unexpected error: Couldn't create: STICK/PSP/MUSIC/two (Read-only file system)\n"
-              "Sync was completed successfully.");
-    EXPECT_TRUE(alerts.titles.isEmpty());
+    EXPECT_EQ(run(), "Sync was cancelled.");
+    EXPECT_EQ(joined(alerts.titles), "PSP lost during sync!") << "it can't be written any more";
+    files.refusal = EACCES;
+    QFile::link(harness.home({}), harness.stick(u"PSP/LINK"_s));
+    harness.wishes.items = [this] {
+        return std::vector<CVSyncItem>{
+            {harness.sources / u"one"_s, harness.place(u"one"_s), {}},
+            {harness.sources / u"two"_s, harness.stick(u"PSP/LINK/two"_s), {}},
+            {harness.sources / u"gone"_s, harness.place(u"gone"_s), {}}};
+    };
+    EXPECT_EQ(run(), "Unexpected error: Couldn't create: STICK/PSP/MUSIC/one (Permission denied)\n"
+                     "2 of 2 files could not be copied.\n"
+                     "Not copied: STICK/PSP/LINK/two (a link lies on the way)");
+    EXPECT_EQ(texts(), "Sync Incomplete\n2 of 2 files could not be copied.");
+    EXPECT_TRUE(alerts.titles.isEmpty() && sounds.played.isEmpty());
+    harness.wishes.items = [this] {
+        return std::vector<CVSyncItem>{{harness.sources / u"one"_s, harness.place(u"one"_s), {}}};
+    };
     files.readOnlyBelow.clear();
-    files.writableBytes = 4;
+    writeFile(harness.sources / u"one"_s, QByteArray(5000, 'l'));
+    files.writableBytes = 1000;
     files.onFull = [this] {
         files.freeBytes = 0;
     };

@@ -17,6 +17,7 @@ public:
     size_t largestWrite = SIZE_MAX;      ///< longer ones are cut short
     std::function<void()> onFull;        ///< at the first write that finds no room
     QString readOnlyBelow;               ///< nothing below can be made or removed
+    int refusal = EROFS;                 ///< why
     bool waitsForLocks = true;
     int closed = 0; ///< the flushed ones too
     int flushed = 0;
@@ -24,7 +25,7 @@ public:
     FileResult<> createFolder(const QString &path) override
     {
         if (isReadOnly(path))
-            return FileError::of(FileError::Operation::Create, path, EROFS);
+            return FileError::of(FileError::Operation::Create, path, refusal);
         return FileManager::createFolder(path);
     }
     int createForWriting(const QString &path, Existing existing) override
@@ -80,7 +81,7 @@ public:
     FileResult<> writeAtomically(const QString &path, const QByteArray &contents) override
     {
         if (isReadOnly(path))
-            return FileError::of(FileError::Operation::Write, path, EROFS);
+            return FileError::of(FileError::Operation::Write, path, refusal);
         return FileManager::writeAtomically(path, contents);
     }
     std::optional<VolumeSpace> volumeSpace(const QString &path) const override
@@ -96,12 +97,12 @@ private:
     {
         const bool below = !readOnlyBelow.isEmpty() && path.startsWith(readOnlyBelow + u'/');
         if (below)
-            errno = EROFS;
+            errno = refusal;
         return below;
     }
-    static bool refuse(const QString &path, FileOperationHandler *handler)
+    bool refuse(const QString &path, FileOperationHandler *handler) const
     {
-        const FileError error = FileError::of(FileError::Operation::Remove, path, EROFS);
+        const FileError error = FileError::of(FileError::Operation::Remove, path, refusal);
         if (handler)
             handler->fileManagerShouldProceedAfterError(error);
         return false;

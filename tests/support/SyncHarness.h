@@ -112,9 +112,11 @@ public:
     bool shouldUnmountPSP() override { return true; }
     void pspWillUnmount() override { note(u"pspWillUnmount"_s); }
     void pspUnmountFailed() override { note(u"pspUnmountFailed"_s); }
-    void syncDidFinish(bool done) override
+    RunReport report; ///< of the last run
+    void syncDidFinish(const RunReport &finished) override
     {
-        note(done ? u"syncDidFinish true"_s : u"syncDidFinish false"_s);
+        report = finished;
+        note(report.isComplete ? u"syncDidFinish true"_s : u"syncDidFinish false"_s);
     }
     void newSyncBytesEstimate(quint64 n) override { note(u"newSyncBytesEstimate %1"_s.arg(n)); }
 

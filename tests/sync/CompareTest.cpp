@@ -13,7 +13,8 @@ const QString root = u"/stick/M"_s; // the kind's folder
 
 /// Places are below the kind's folder, words of this form: "a/x=5" is a file of five bytes, "a/=5"
 /// a folder, "a/==5" one that holds the same on both sides, "x@" a link; what is wanted without a
-/// size is missing, and "x<._y=5" names the source. The index is null where there is none.
+/// size is missing, and "x<._y=5" names the source. The index is null where there is none; of its
+/// words those with a "+" are what an interrupted run was to place.
 ///
 /// Settings: "keeps" (clears nothing), "own" (only what is ours), "fat", "caseless", "elsewhere"
 /// (takes no space of the stick), "bytes" (the plan's are shown: estimate, queue, clusters of 100),
@@ -98,7 +99,7 @@ std::vector<MeasuredItem> measured(const Case &c, const StickFolder &folder,
 QString shown(const PlannedItem &planned)
 {
     const char *const actions[] = {"copy", "replace", "inPlace", "leaveOut"};
-    const char *const reasons[] = {"", " missing", " link", " companion"};
+    const char *const reasons[] = {"", " missing", " link", " too large", " companion"};
     return QLatin1String(actions[static_cast<int>(planned.action)]) +
            QLatin1String(reasons[static_cast<int>(planned.reason)]) +
            (planned.isStranger ? u"! "_s : u" "_s) + planned.item.destination.mid(root.size() + 1);
@@ -107,7 +108,8 @@ QString shown(const PlannedItem &planned)
 std::string planOf(const Case &c)
 {
     const QStringList settings = list(c.settings);
-    const StickNames names(volume, {settings.contains(u"fat"), !settings.contains(u"caseless")});
+    const bool isFat = settings.contains(u"fat");
+    const StickNames names(volume, {isFat, !settings.contains(u"caseless"), isFat ? 1000U : 9999U});
     StickFolder folder{root, settings.contains(u"own"), {}, {}};
     for (const QString &word : list(c.stick))
         add(folder.entries, Place(word));
@@ -123,8 +125,11 @@ std::string planOf(const Case &c)
     if (c.index) {
         input.lastIndex.emplace();
         for (const QString &word : list(c.index))
-            input.lastIndex->insert(names.key(u"/M/"_s + word));
+            (word.startsWith(u'+') ? input.unfinished : *input.lastIndex)
+                .insert(names.key(u"/M/"_s + QString(word).remove(u'+')));
     }
+    input.root = root;
+    input.shownLevels = 1;
     QStringList lines;
     const KindPlan plan = Compare::plan(input, names);
     for (const PlannedItem &planned : plan.items)
@@ -136,6 +141,8 @@ std::string planOf(const Case &c)
                      (removal.isStranger ? u"! "_s : u" "_s) + removal.path.mid(root.size() + 1));
     for (const FileError &error : plan.errors)
         lines.append(u"link at "_s + error.path);
+    if (plan.hiddenFiles > 0)
+        lines.append(u"%1 hidden"_s.arg(plan.hiddenFiles));
     SyncPlan all;
     all.kinds.push_back(plan);
     if (settings.contains(u"bytes"))
@@ -172,6 +179,10 @@ TEST(Compare, PlansByTheRules)
         {"a link on the way", "A/x=5 A/y=5 B/z=5", "A@", "",
          "leaveOut link A/x, leaveOut link A/y, copy B/z, remove! A, link at /stick/M/A"},
         {"a linked folder of the kind", "", "x=5", "x", "link at /stick/M", "linked"},
+        {"larger than the stick takes", "x=1001 y=1000 z=1001", "z=5", "z",
+         "leaveOut too large x, copy y, leaveOut too large z, 3002 1000 1000", "bytes fat"},
+        {"deeper than the PSP shows", "A/x=1 A/B/y=1 A/B/z=1 A/B/m", "A/B/z=1", "",
+         "copy A/x, copy A/B/y, inPlace A/B/z, leaveOut missing A/B/m, 2 hidden"},
         {"in what is replaced before", "s=5 s/f=6", "s/f=6", "", "replace! s, copy s/f"},
 
         {"unwanted", "x=1", "B/C/old=3 x=1 z=1", "z",
@@ -180,6 +191,8 @@ TEST(Compare, PlansByTheRules)
         {"a kind that clears nothing", "", "A/old=3 E/ x=1", "x", "rmdir E", "keeps"},
         {"only ours", "w=1", "A/own=1 A/other=1 B/own=2", "A/own B/own w",
          "copy w, remove B/own, rmdir B, remove A/own", "own"},
+        {"ours by an interrupted run", "w=1", "x=1 y=1 w=2", "x +y +w",
+         "replace w, remove y, remove x", "own"},
         {"all counts as ours without an index", "", "A/x=1", nullptr, "remove! A/x, rmdir A",
          "own"},
         {"an empty index makes none ours", "", "A/x=1", "", "", "own"},

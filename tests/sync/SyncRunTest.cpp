@@ -1,5 +1,6 @@
 // The order of a run's callbacks, its cancel points, and sticks that fail in the middle.
 
+#include "platform/lists/PropertyList.h"
 #include "support/FailingFileManager.h"
 #include "support/ListModule.h"
 #include "util/Settings.h"
@@ -64,9 +65,11 @@ TEST_F(SyncRunTest, TellsEveryStepInOrder)
     EXPECT_EQ(harness.clock.pauses, 5);
     EXPECT_EQ(harness.placed(), "big\nsmall");
     EXPECT_EQ(Settings::lastSync(), harness.clock.current);
-    EXPECT_TRUE(harness.run()) << "with everything in place";
+    files.readOnlyBelow = harness.folder / u"volumes"_s;
+    EXPECT_TRUE(harness.run()) << "with everything in place nothing is written";
     EXPECT_EQ(events(), "syncWillStart\nsyncWillCleanUp\nsyncDidStart\n"
                         "syncWillProcessModule Music\nfinalizeDidStart\nsyncDidFinish true");
+    files.readOnlyBelow.clear();
     EXPECT_EQ(harness.index(u"Music"_s), list("/PSP/MUSIC/big /PSP/MUSIC/small"));
     EXPECT_EQ(harness.lastSyncSizeOnStick(), quint64(2 * chunk + 105));
     EXPECT_EQ(Settings::lastSyncSize(), quint64(2 * chunk + 105));
@@ -152,6 +155,18 @@ TEST_F(SyncRunTest, EndsOnceAfterACancelAnywhere)
         EXPECT_EQ(harness.placed(), "big\nsmall") << c.at;
         Settings::lastSync.set({});
     }
+    // Before the replacements are removed it costs nothing.
+    writeFile(harness.sources / u"small"_s, "larger than before");
+    const auto items = harness.wishes.items;
+    harness.wishes.items = [&] {
+        harness.manager.cancelSync();
+        return items();
+    };
+    EXPECT_FALSE(harness.run());
+    EXPECT_EQ(readFile(harness.place(u"small"_s)), "small");
+    EXPECT_EQ(harness.index(u"Music"_s), list("/PSP/MUSIC/big /PSP/MUSIC/small"));
+    EXPECT_EQ(Settings::lastSyncSize(), quint64(2 * chunk + 105));
+    harness.wishes.items = items;
     harness.clock.pauses = 0;
     harness.clock.onSleep = [this](int pause) {
         if (pause == 2)
@@ -233,6 +248,12 @@ TEST_F(SyncRunTest, NeverFollowsALinkOnTheStick)
 TEST_F(SyncRunTest, ReportsAStickThatFailsAndPutsItRightNextTime)
 {
     files.readOnlyBelow = harness.stick();
+    EXPECT_FALSE(harness.run()) << "one that has turned read-only";
+    EXPECT_EQ(stepsFrom(u"syncWillCancel"),
+              "syncWillCancel\nsyncWillCleanUp\nsyncDidStart\nfinalizeDidStart\n"
+              "syncDidFinish false");
+    EXPECT_TRUE(harness.delegate.report.isStickLost);
+    files.refusal = EACCES;
     EXPECT_TRUE(harness.run()) << "a run ends by itself whatever fails";
     EXPECT_EQ(stepsFrom(u"syncError"),
               "syncError Couldn't remove\nsyncDidStart\nsyncWillProcessModule Music\n"
@@ -243,6 +264,8 @@ TEST_F(SyncRunTest, ReportsAStickThatFailsAndPutsItRightNextTime)
         EXPECT_TRUE(error.value(u"Path"_s).toString().startsWith(harness.stick()));
         EXPECT_FALSE(error.value(u"Reason"_s).toString().isEmpty());
     }
+    EXPECT_EQ(harness.delegate.report.failures(), 2U);
+    EXPECT_EQ(harness.delegate.report.placeable(), 2U);
     files.readOnlyBelow.clear();
     files.writableBytes = chunk + 10;
     when("syncError", [this] { harness.manager.cancelSync(); });
@@ -254,4 +277,29 @@ TEST_F(SyncRunTest, ReportsAStickThatFailsAndPutsItRightNextTime)
     files.writableBytes.reset();
     EXPECT_TRUE(harness.run());
     EXPECT_EQ(readFile(harness.place(u"big"_s)).size(), 2 * chunk + 100);
+}
+
+TEST_F(SyncRunTest, ComparesWhatAnInterruptedRunPlacedLast)
+{
+    QVariantList unfinished;
+    for (int i = 0; i < 20; ++i) {
+        const QString name = u"file %1"_s.arg(i, 2, 10, QChar(u'0'));
+        harness.want(name, "right");
+        if (i != 19)
+            harness.put(name, i == 18 ? "right" : "wrong");
+        unfinished.append(u"/PSP/MUSIC/"_s + name);
+    }
+    const QString mark = harness.stick(u".caravel/Unfinished"_s);
+    writeFile(mark, PropertyList::toXml(unfinished));
+    when("syncDidStart", [&] {
+        const QStringList left = PropertyList::readStringArray(mark).valueOr({});
+        EXPECT_EQ(left.size(), 20 + 2 + 15 + 1);
+        EXPECT_EQ(left[20], u"/PSP/MUSIC/big"_s);
+    });
+    EXPECT_TRUE(harness.run());
+    EXPECT_EQ(harness.delegate.report.replaced, 15U);
+    EXPECT_EQ(harness.delegate.report.copied, 3U);
+    EXPECT_EQ(readFile(harness.place(u"file 02"_s)), "wrong") << "its copy was flushed before";
+    EXPECT_EQ(readFile(harness.place(u"file 03"_s)), "right");
+    EXPECT_FALSE(QFile::exists(mark));
 }
