@@ -10,7 +10,6 @@
 #include "platform/core/Localized.h"
 #include "platform/core/MainThread.h"
 #include "platform/desktop/Workspace.h"
-#include "platform/files/FileManager.h"
 #include "platform/lists/UserDefaults.h"
 #include "protocol/Protocol.h"
 #include "util/FileManagerTools.h"
@@ -120,7 +119,7 @@ void CaravelHelperController::setUp()
 {
     logDetail(QStringLiteral("Setting up status item..."));
     m_status.setStatusText(localized("No PSP Connected"));
-    removeLeftovers();
+    CVSyncMovies::removeLeftovers();
     changeStartOnLogin();
     m_manager.detectPSP();
 }
@@ -138,17 +137,6 @@ void CaravelHelperController::changeStartOnLogin()
     else
         m_icon.remove();
     m_loginItems.setStartOnLogin(startOnLogin);
-}
-
-// Of a conversion that was interrupted.
-void CaravelHelperController::removeLeftovers()
-{
-    FileManager &files = FileManager::defaultManager();
-    for (const char *ending : {".MP4", ".MP4.part", ".THM.part"}) {
-        const QString leftover = CVSyncMovies::convertedFile(QString::fromLatin1(ending));
-        if (files.linkStatus(leftover).exists())
-            files.remove(leftover, nullptr);
-    }
 }
 
 void CaravelHelperController::createFolders()

@@ -88,7 +88,6 @@ private:
     void initialize();
     void setUp();
     void createFolders();
-    void removeLeftovers();
     bool mayChangeBackups();
     void restoreFailed(const QString &identifier, const QString &whatIsThere);
     void helperDidStart();

@@ -1,5 +1,6 @@
 #include "modules/movies/CVSyncMovies.h"
 
+#include "modules/movies/ConvertedMovie.h"
 #include "platform/core/Localized.h"
 #include "platform/desktop/Workspace.h"
 #include "sync/ErrorLog.h"
@@ -9,8 +10,6 @@
 #include "util/Folders.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
-
-#include <map>
 
 namespace {
 
@@ -40,34 +39,6 @@ QString titleOf(const QString &identifier)
 bool isIdentifier(const QString &text)
 {
     return PathComponents::count(text) == 2;
-}
-
-bool moveReported(const QString &source, const QString &destination)
-{
-    ErrorLog errors;
-    return files().move(source, destination, &errors);
-}
-
-// A free name in the support folder: what an earlier movie of that title left there stays.
-QString keptFile(const QString &title, const QString &ending)
-{
-    const QString path = Folders::support() + u'/' + PathComponents::safe(title, ending) + ending;
-    QString free = path;
-    for (int number = 1; files().linkStatus(free).exists(); ++number)
-        free = PathComponents::numbered(path, number);
-    return free;
-}
-
-void keepConverted(const QString &title)
-{
-    for (const QString &ending : {QStringLiteral(".MP4"), QStringLiteral(".THM")}) {
-        const QString source = CVSyncMovies::convertedFile(ending);
-        if (!files().exists(source))
-            continue;
-        const QString kept = keptFile(title, ending);
-        if (moveReported(source, kept))
-            qCWarning(lcModules).noquote() << "The converted movie is kept as" << kept;
-    }
 }
 
 // A movie that waits for its conversion goes by the path of its source.
@@ -101,18 +72,15 @@ QString CVSyncMovies::saveName()
 
 QStringList CVSyncMovies::availableIdentifiers()
 {
-    // Byte order: a movie's last title is the one that counts.
-    std::map<int, QString> titles; // by the folder's place in the listing
-    const std::vector<FolderEntry> entries = files().subpaths(libraryRoot());
-    for (const FolderEntry &entry : entries) {
-        const bool isTitle =
-            entry.parent >= 0 && entries[static_cast<size_t>(entry.parent)].parent < 0;
-        if (isTitle && !entry.path.startsWith(u".DS_Store/"))
-            titles[entry.parent] = entry.path;
-    }
     QStringList identifiers;
-    for (const auto &[parent, path] : titles)
-        identifiers.append(path);
+    const QString root = libraryRoot() + u'/';
+    for (const FolderEntry &entry : files().entries(libraryRoot())) {
+        if (entry.path == u".DS_Store" || !(entry.isFolder || entry.isLink))
+            continue;
+        const std::vector<FolderEntry> titles = files().entries(root + entry.path);
+        if (!titles.empty()) // in byte order: a movie's last title is the one that counts
+            identifiers.append(entry.path + u'/' + titles.back().path);
+    }
     return identifiers;
 }
 
@@ -132,32 +100,24 @@ QString CVSyncMovies::fileOf(const QString &identifier, const QString &ending)
     return libraryRoot() + u'/' + identifier + u'/' + idOf(identifier) + ending;
 }
 
-QString CVSyncMovies::convertedFile(const QString &ending)
-{
-    return Folders::support() + QStringLiteral("/CONVERT") + ending;
-}
-
-std::optional<QString> CVSyncMovies::moveConvertedMovieNamed(const QString &title)
+StoredMovie CVSyncMovies::moveConvertedMovieNamed(const QString &title)
 {
     const auto id = nextAvailableMovieId();
     if (!id) {
         qCWarning(lcModules) << "The movie library is full";
-        keepConverted(title);
-        return std::nullopt;
+        return {.identifier = {}, .keptAs = ConvertedMovie::keep(title)};
     }
     const QString identifier = *id + u'/' + PathComponents::safe(title);
-    const QString folder = libraryRoot() + u'/' + identifier;
-    FileManagerTools::createPath(folder);
-    const QString movie = convertedFile(QStringLiteral(".MP4"));
-    if (files().exists(movie) && !moveReported(movie, fileOf(identifier, QStringLiteral(".MP4")))) {
-        files().remove(libraryRoot() + u'/' + *id, nullptr);
-        keepConverted(title);
-        return std::nullopt;
-    }
-    const QString thumbnail = convertedFile(QStringLiteral(".THM"));
-    if (files().exists(thumbnail))
-        moveReported(thumbnail, fileOf(identifier, QStringLiteral(".THM")));
-    return identifier;
+    if (ConvertedMovie::moveInto(libraryRoot() + u'/' + identifier, *id, libraryRoot()))
+        return {.identifier = identifier, .keptAs = {}};
+    if (const QString folder = libraryRoot() + u'/' + *id; files().linkStatus(folder).exists())
+        files().remove(folder, nullptr);
+    return {.identifier = {}, .keptAs = ConvertedMovie::keep(title)};
+}
+
+void CVSyncMovies::removeLeftovers()
+{
+    ConvertedMovie::removeLeftovers(libraryRoot());
 }
 
 bool CVSyncMovies::deleteMovieWithIdentifier(const QString &identifier)
@@ -173,7 +133,7 @@ bool CVSyncMovies::renameMovieWithIdentifier(const QString &identifier, const QS
                                              const QString &forPSP)
 {
     const QString folder = libraryRoot() + u'/' + identifier;
-    if (!isIdentifier(identifier) || !files().linkStatus(folder).isFolder() ||
+    if (!isIdentifier(identifier) || !files().status(folder).isFolder() ||
         !PathComponents::isName(newName)) {
         qCWarning(lcModules).noquote().nospace()
             << "The movie \"" << identifier << "\" can't be renamed to \"" << newName << '"';
@@ -182,7 +142,8 @@ bool CVSyncMovies::renameMovieWithIdentifier(const QString &identifier, const QS
     const QString renamed = idOf(identifier) + u'/' + newName;
     if (renamed == identifier)
         return true;
-    if (!moveReported(folder, libraryRoot() + u'/' + renamed))
+    ErrorLog errors;
+    if (!files().move(folder, libraryRoot() + u'/' + renamed, &errors))
         return false;
     ModuleSelection::rename(identifier, renamed, saveName(), forPSP);
     return true;

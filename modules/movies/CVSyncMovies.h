@@ -5,10 +5,19 @@
 #include <optional>
 #include <vector>
 
+/// Where a converted movie ended up.
+struct StoredMovie
+{
+    std::optional<QString> identifier; ///< of the library; nothing where it isn't there
+    /// Full path of the movie that was kept outside of the library; empty too where even that
+    /// failed, and it is lost.
+    QString keptAs;
+};
+
 /// Puts the chosen movies and the movie dropbox into "MP_ROOT", and keeps the library of converted
 /// movies: "Movies/<id>/<title>/<id>.MP4" and ".THM" in the documents folder, ids "M4V00001" to
 /// "M4V99999". A movie's identifier is "<id>/<title>". The library's operations run on the main
-/// thread, where a run may be reading it meanwhile.
+/// thread where nothing else is said; a run may be reading it meanwhile.
 class CVSyncMovies : public CVSyncModule
 {
 public:
@@ -18,7 +27,7 @@ public:
     static ModuleKind kind();
     static QString saveName();
 
-    /// The library's movies in byte order of their ids. Any thread.
+    /// The library's movies in byte order of their ids; a folder may be a link to one. Any thread.
     static QStringList availableIdentifiers();
     /// The lowest free id; nothing where all are taken.
     static std::optional<QString> nextAvailableMovieId();
@@ -27,13 +36,12 @@ public:
     /// the library's form.
     static QString fileOf(const QString &identifier, const QString &ending);
 
-    /// Where the converter leaves its result: "CONVERT" + ending (".MP4", ".THM") in the support
-    /// folder.
-    static QString convertedFile(const QString &ending);
-    /// Moves the converter's result into the library under a new id and returns the new identifier.
-    /// Where that can't be done the finished files are kept in the support folder under the title,
-    /// and nothing is answered.
-    static std::optional<QString> moveConvertedMovieNamed(const QString &title);
+    /// Moves the converter's result into the library under a new id. Where that can't be done the
+    /// finished files are kept in the support folder under the title. Any thread, one call at a
+    /// time: the library may lie on another disk.
+    static StoredMovie moveConvertedMovieNamed(const QString &title);
+    /// Removes what an interrupted conversion or move into the library left, but a thumbnail.
+    static void removeLeftovers();
 
     /// Moves the movie's folder to the Trash; false, said in the system log, where it can't.
     static bool deleteMovieWithIdentifier(const QString &identifier);

@@ -11,6 +11,7 @@ namespace {
 
 // The duration stands at the output's beginning; a converter that talks on and on fills no memory.
 constexpr qsizetype longestBuffer = 1 << 20;
+constexpr qsizetype longestLine = 4096;
 
 // Leading blanks are passed over and whatever follows the digits; 0 for what is no number.
 qint64 leadingInteger(QByteArrayView text)
@@ -70,10 +71,11 @@ QString ConversionProgress::initialText()
     return localized("Conversion in progress...");
 }
 
-bool ConversionProgress::take(const QByteArray &chunk)
+bool ConversionProgress::take(const QByteArray &chunk, bool isRunning)
 {
+    readLines(chunk);
     const QByteArrayView start = "frame=";
-    if (!chunk.startsWith(start)) {
+    if (!isRunning || !chunk.startsWith(start)) {
         append(chunk);
         return false;
     }
@@ -93,6 +95,24 @@ bool ConversionProgress::take(const QByteArray &chunk)
                        .replace(QStringLiteral("%i"), QString::number(percent))
                        .replace(QStringLiteral("%%"), QStringLiteral("%"));
     return true;
+}
+
+void ConversionProgress::readLines(const QByteArray &chunk)
+{
+    const QByteArrayView reason = "convert.sh: ";
+    const QByteArrayView warning = "Warning: ";
+    for (const char c : chunk) {
+        if (c != '\n' && c != '\r') {
+            if (m_line.size() < longestLine)
+                m_line += c;
+            continue;
+        }
+        if (m_line.startsWith(reason))
+            m_reason = m_line.mid(reason.size());
+        if (m_line.startsWith(warning))
+            m_warning = m_line.mid(warning.size());
+        m_line.clear();
+    }
 }
 
 void ConversionProgress::append(const QByteArray &chunk)

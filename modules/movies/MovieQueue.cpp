@@ -1,8 +1,10 @@
 #include "modules/movies/MovieQueue.h"
 
 #include "modules/movies/CVSyncMovies.h"
+#include "modules/movies/ConvertedMovie.h"
 #include "platform/core/Clock.h"
 #include "platform/core/Localized.h"
+#include "platform/core/MainThread.h"
 #include "platform/desktop/Sounds.h"
 #include "sync/CVSyncManager.h"
 #include "sync/Log.h"
@@ -10,13 +12,13 @@
 #include "util/PathComponents.h"
 #include "util/QMLogger.h"
 #include "util/Settings.h"
+#include "util/StringTools.h"
 #include "util/TextFormat.h"
 
+#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -31,8 +33,8 @@ QStringList argumentsFor(const QString &source)
     };
     return {source,
             PathComponents::stemOf(source),
-            CVSyncMovies::convertedFile(QStringLiteral(".MP4")),
-            CVSyncMovies::convertedFile(QStringLiteral(".THM")),
+            ConvertedMovie::file(ConvertedMovie::movieEnding),
+            ConvertedMovie::file(ConvertedMovie::thumbnailEnding),
             QString::number(Settings::movieConvertVideoResolution()),
             QString::number(Settings::movieConvertVideoQuality()),
             QString::number(Settings::movieConvertAudioQuality()),
@@ -41,6 +43,17 @@ QStringList argumentsFor(const QString &source)
             QString::number(Settings::volumeBoost()),
             QStringLiteral("0"),
             QString()};
+}
+
+/// A path as a selection can name it, of the same file: a step up leaves the folder that a link
+/// leads to.
+QString inNormalForm(const QString &path)
+{
+    const QFileInfo file(path);
+    const bool goesUp = path.split(u'/').contains(QStringLiteral(".."));
+    const QString folder = goesUp ? QFileInfo(file.path()).canonicalFilePath() : QString();
+    return StringTools::standardizingPath(folder.isEmpty() ? path
+                                                           : folder + u'/' + file.fileName());
 }
 
 // The movie of a row that came back; the end where it is none of these.
@@ -57,7 +70,7 @@ MovieQueue::MovieQueue(Services services, QObject *parent)
     : QObject(parent)
     , m_services(std::move(services))
 {
-    m_movieQueueTimer.setInterval(1s);
+    m_movieQueueTimer.setInterval(m_services.tick);
     connect(&m_movieQueueTimer, &QTimer::timeout, this, &MovieQueue::manageMovieQueue);
 }
 
@@ -76,39 +89,36 @@ void MovieQueue::select(const QStringList &identifiers) const
     CVSyncMovies::setSelectedIdentifiers(identifiers, m_services.manager.pspVolume());
 }
 
-void MovieQueue::refreshEnabled()
-{
-    const QStringList selected = selection();
-    for (QueuedMovie &movie : m_moviesQueue)
-        movie.isEnabled = selected.contains(movie.source);
-}
-
 QVariantList MovieQueue::moviesItems()
 {
     QVariantList rows;
-    const QStringList selected = selection();
+    const QStringList chosen = selection();
+    const QSet<QString> selected(chosen.begin(), chosen.end());
     for (const QString &identifier : CVSyncMovies::availableIdentifiers()) {
-        const QString movie = CVSyncMovies::fileOf(identifier, QStringLiteral(".MP4"));
-        if (!identifier.endsWith(u"/.DS_Store") && FileManager::defaultManager().exists(movie))
+        const QString movie = CVSyncMovies::fileOf(identifier, ConvertedMovie::movieEnding);
+        if (!identifier.endsWith(u"/.DS_Store") && files().exists(movie))
             rows.append(MovieRows::libraryRow(identifier, selected.contains(identifier)));
     }
-    refreshEnabled();
-    for (const QList<QueuedMovie> &movies : {m_moviesQueue, m_moviesFailed}) {
-        for (const QueuedMovie &movie : movies)
-            rows.append(MovieRows::row(movie));
+    for (QueuedMovie &movie : m_moviesQueue) {
+        movie.isEnabled = selected.contains(movie.source);
+        rows.append(MovieRows::row(movie));
     }
+    for (const QueuedMovie &movie : m_moviesFailed)
+        rows.append(MovieRows::row(movie));
     return rows;
 }
 
 void MovieQueue::addMoviesFromArray(const QStringList &paths)
 {
     QStringList selected = selection();
+    const qsizetype before = selected.size();
     QSet<QString> known(selected.begin(), selected.end());
     const qint64 now = m_services.clock.now().toSecsSinceEpoch();
-    for (const QString &path : paths) {
+    for (const QString &given : paths) {
+        const QString path = given.startsWith(u'/') ? inNormalForm(given) : QString();
         const QString title = PathComponents::stemOf(path);
-        if (!path.startsWith(u'/') || title.isEmpty()) {
-            qCWarning(lcModules).noquote() << "Not the full path of a movie:" << path;
+        if (title.isEmpty()) {
+            qCWarning(lcModules).noquote() << "Not the full path of a movie:" << given;
             continue;
         }
         m_moviesQueue.append(
@@ -117,7 +127,8 @@ void MovieQueue::addMoviesFromArray(const QStringList &paths)
             selected.append(path);
         known.insert(path);
     }
-    select(selected);
+    if (selected.size() > before)
+        select(selected);
     manageMovieQueue();
     m_services.delegate.reloadMoviesView();
 }
@@ -129,7 +140,7 @@ void MovieQueue::removeMovieItem(const QVariantMap &row)
         if (queued == m_moviesQueue.begin() && isConvertingMovie()) {
             m_movieQueueDidAbort = true;
             m_convertTask->terminate();
-        } else if (queued != m_moviesQueue.begin() || !m_convertTask) {
+        } else if (queued != m_moviesQueue.begin() || !isBusy()) {
             m_moviesQueue.erase(queued);
         } else {
             m_movieQueueDidAbort = true; // it has just ended, and leaves the queue in a moment
@@ -174,13 +185,14 @@ void MovieQueue::manageMovieQueue()
     }
     if (!m_movieQueueTimer.isActive())
         m_movieQueueTimer.start();
-    if (!m_convertTask)
+    if (!isBusy())
         startHead();
 }
 
 void MovieQueue::queueRanEmpty()
 {
     m_movieQueueTimer.stop();
+    m_saidReason.clear();
     m_services.sounds.play(QStringLiteral("ConvertCompleted"));
     CVSyncManager &manager = m_services.manager;
     if (manager.pspIsMounted() && Settings::syncOnMount() && !manager.isFirstSync())
@@ -196,11 +208,10 @@ void MovieQueue::startHead()
     m_progress = ConversionProgress(Settings::movieConvertVideoQuality());
     m_movieQueueDidAbort = false;
     // What an interrupted conversion left must not pass for this one's result.
-    for (const QString &ending : {QStringLiteral(".MP4"), QStringLiteral(".THM")}) {
-        const QString leftover = CVSyncMovies::convertedFile(ending);
-        if (FileManager::defaultManager().linkStatus(leftover).exists())
-            FileManager::defaultManager().remove(leftover, nullptr);
-    }
+    CVSyncMovies::removeLeftovers();
+    const QString thumbnail = ConvertedMovie::file(ConvertedMovie::thumbnailEnding);
+    if (files().linkStatus(thumbnail).exists())
+        files().remove(thumbnail, nullptr);
     m_convertTask = std::make_unique<ChildProcess>();
     connect(m_convertTask.get(), &ChildProcess::output, this, &MovieQueue::movieConversionOutput);
     connect(m_convertTask.get(), &ChildProcess::ended, this, &MovieQueue::movieConversionCompleted);
@@ -214,7 +225,7 @@ void MovieQueue::movieConversionOutput(const QByteArray &chunk)
 {
     if (Settings::useDetailedLogging())
         qCInfo(lcModules).noquote() << QString::fromUtf8(chunk);
-    if (m_progress.take(chunk))
+    if (m_progress.take(chunk, isConvertingMovie()))
         m_percentConverted = m_progress.text();
 }
 
@@ -223,32 +234,21 @@ void MovieQueue::movieConversionCompleted(int exitStatus, const QString &error)
     m_convertTask.release()->deleteLater(); // it is in the middle of its signal
     if (m_moviesQueue.isEmpty())
         return;
-    refreshEnabled();
-    const QueuedMovie movie = m_moviesQueue.takeFirst();
-    if (exitStatus == 0)
-        storeConverted(movie);
-    else if (!m_movieQueueDidAbort)
-        fail(movie, error);
+    if (exitStatus == 0) {
+        storeHead();
+        return;
+    }
+    QueuedMovie movie = m_moviesQueue.takeFirst();
+    if (!m_movieQueueDidAbort)
+        fail(std::move(movie), error);
+    headIsDone();
+}
+
+void MovieQueue::headIsDone()
+{
     m_percentConverted = ConversionProgress::initialText();
     m_services.delegate.stopConversionAnimation();
     m_services.delegate.reloadMoviesView();
-}
-
-void MovieQueue::storeConverted(const QueuedMovie &movie)
-{
-    if (Settings::useDetailedLogging())
-        m_services.logger.log(QStringLiteral("Movie conversion completed: %@"), movie.title);
-    const auto identifier = CVSyncMovies::moveConvertedMovieNamed(movie.title);
-    if (!identifier) {
-        m_services.delegate.movieAlert(
-            localized("Movie could not be stored!"),
-            filled(localized("The movie \"%@\" was converted, but there is no place for it in the "
-                             "movie library. It is kept in the folder %@."),
-                   {movie.title, Folders::support()}));
-        return;
-    }
-    if (movie.isEnabled)
-        select(selection() << *identifier);
 }
 
 void MovieQueue::fail(QueuedMovie movie, const QString &error)
@@ -256,6 +256,79 @@ void MovieQueue::fail(QueuedMovie movie, const QString &error)
     m_services.logger.log(QStringLiteral("Movie conversion failed: %@"), movie.title);
     if (!error.isEmpty())
         qCWarning(lcModules).noquote() << "The converter can't be started:" << error;
+    QString reason = m_progress.reason();
+    if (!error.isEmpty())
+        reason = filled(localized("The converter can't be started: %@"), {error});
+    else if (reason.isEmpty())
+        reason = localized("The converter gave no reason.");
+    m_services.logger.log(QStringLiteral("Reason: %@"), reason);
+    // What stops one movie of a long queue often stops all of them.
+    if (std::exchange(m_saidReason, reason) != reason)
+        m_services.delegate.movieAlert(
+            localized("Movie could not be converted!"),
+            filled(localized("The movie \"%@\" could not be converted:\n\n%@"),
+                   {movie.title, reason}));
+    movie.state = QueuedMovie::State::Failed;
+    m_moviesFailed.append(std::move(movie));
+}
+
+// The library may lie on another disk.
+void MovieQueue::storeHead()
+{
+    m_isStoring = true;
+    const auto store = [this, title = m_moviesQueue.first().title] {
+        const StoredMovie stored = CVSyncMovies::moveConvertedMovieNamed(title);
+        performOnMainThread(
+            this, [this, stored] { headIsStored(stored); }, CallMode::DontWait);
+    };
+    if (!Workers::start(store))
+        store();
+}
+
+void MovieQueue::headIsStored(const StoredMovie &stored)
+{
+    m_isStoring = false;
+    QueuedMovie movie = m_moviesQueue.takeFirst();
+    if (Settings::useDetailedLogging())
+        m_services.logger.log(QStringLiteral("Movie conversion completed: %@"), movie.title);
+    if (!m_progress.warning().isEmpty())
+        warn(movie, m_progress.warning());
+    if (stored.identifier) {
+        if (movie.isEnabled)
+            select(selection() << *stored.identifier);
+        // It may have got another title meanwhile.
+        CVSyncMovies::renameMovieWithIdentifier(
+            *stored.identifier, PathComponents::safe(movie.title), m_services.manager.pspVolume());
+    } else {
+        notStored(std::move(movie), stored.keptAs);
+    }
+    headIsDone();
+}
+
+void MovieQueue::warn(const QueuedMovie &movie, const QString &warning)
+{
+    m_services.logger.log(QStringLiteral("Movie is not complete: %@"), movie.title);
+    m_services.logger.log(QStringLiteral("Reason: %@"), warning);
+    m_services.delegate.movieAlert(
+        localized("Movie is not complete!"),
+        filled(localized("The movie \"%@\" was converted, but not all of it is there:\n\n%@"),
+               {movie.title, warning}));
+}
+
+void MovieQueue::notStored(QueuedMovie movie, const QString &keptAs)
+{
+    const QString kept =
+        localized("The movie \"%@\" was converted, but there is no place for it in the "
+                  "movie library. It is kept in the folder %@.");
+    const QString lost =
+        localized("The movie \"%@\" was converted, but neither the movie library nor "
+                  "the folder %@ could take it. It has to be converted again.");
+    m_services.delegate.movieAlert(
+        localized("Movie could not be stored!"),
+        filled(keptAs.isEmpty() ? lost : kept, {movie.title, Folders::support()}));
+    if (!keptAs.isEmpty())
+        return;
+    m_services.logger.log(QStringLiteral("Movie conversion failed: %@"), movie.title);
     movie.state = QueuedMovie::State::Failed;
     m_moviesFailed.append(std::move(movie));
 }

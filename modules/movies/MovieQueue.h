@@ -8,12 +8,14 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include <chrono>
 #include <memory>
 
 class Clock;
 class CVSyncManager;
 class QMLogger;
 class Sounds;
+struct StoredMovie;
 
 /// What the queue tells a front-end. Main thread.
 class MovieQueueDelegate
@@ -44,13 +46,16 @@ public:
         const Clock &clock;
         MovieQueueDelegate &delegate;
         QString resourceFolder; ///< holds "convert.sh"
+        /// At most so long the queue waits from one movie's end to what comes next.
+        std::chrono::milliseconds tick = std::chrono::seconds(1);
     };
     explicit MovieQueue(Services services, QObject *parent = nullptr);
     ~MovieQueue() override;
 
     /// Rows of the library, of the queue, and of what failed.
     QVariantList moviesItems();
-    /// Queues movies by the absolute paths of their sources; others are said in the system log.
+    /// Queues movies by the absolute paths of their sources, which their rows have in normal form;
+    /// others are said in the system log.
     void addMoviesFromArray(const QStringList &paths);
     /// Takes a row out of the queue or of what failed (ending its conversion), or moves the
     /// library's movie to the Trash.
@@ -68,9 +73,13 @@ private:
     void startHead();
     void movieConversionOutput(const QByteArray &chunk);
     void movieConversionCompleted(int exitStatus, const QString &error);
-    void storeConverted(const QueuedMovie &movie);
+    bool isBusy() const { return m_convertTask || m_isStoring; }
     void fail(QueuedMovie movie, const QString &error);
-    void refreshEnabled();
+    void storeHead();
+    void headIsStored(const StoredMovie &stored);
+    void warn(const QueuedMovie &movie, const QString &warning);
+    void notStored(QueuedMovie movie, const QString &keptAs);
+    void headIsDone();
     void queueRanEmpty();
     QStringList selection() const;
     void select(const QStringList &identifiers) const;
@@ -81,6 +90,8 @@ private:
     QTimer m_movieQueueTimer;
     std::unique_ptr<ChildProcess> m_convertTask; // while one runs or has just ended
     ConversionProgress m_progress{0};
+    bool m_isStoring = false; // a worker has what the converter left
     bool m_movieQueueDidAbort = false;
+    QString m_saidReason; // why the last one failed, while the queue isn't empty
     QString m_percentConverted = ConversionProgress::initialText();
 };

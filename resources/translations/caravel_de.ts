@@ -215,6 +215,42 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <translation>Konvertierung läuft, %i%% abgeschlossen...</translation>
     </message>
     <message>
+        <source>The movie "%@" could not be converted:
+
+%@</source>
+        <translation>Der Film „%@“ konnte nicht konvertiert werden:
+
+%@</translation>
+    </message>
+    <message>
+        <source>Movie could not be converted!</source>
+        <translation>Film konnte nicht konvertiert werden!</translation>
+    </message>
+    <message>
+        <source>The converter gave no reason.</source>
+        <translation>Der Konverter nannte keinen Grund.</translation>
+    </message>
+    <message>
+        <source>The converter can't be started: %@</source>
+        <translation>Der Konverter kann nicht gestartet werden: %@</translation>
+    </message>
+    <message>
+        <source>Movie is not complete!</source>
+        <translation>Film ist nicht vollständig!</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but not all of it is there:
+
+%@</source>
+        <translation>Der Film „%@“ wurde konvertiert, ist aber nicht vollständig:
+
+%@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but neither the movie library nor the folder %@ could take it. It has to be converted again.</source>
+        <translation>Der Film „%@“ wurde konvertiert, aber weder die Filmsammlung noch der Ordner %@ konnte ihn aufnehmen. Er muss noch einmal konvertiert werden.</translation>
+    </message>
+    <message>
         <source>Movie could not be stored!</source>
         <translation>Film konnte nicht abgelegt werden!</translation>
     </message>

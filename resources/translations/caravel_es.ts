@@ -215,6 +215,42 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <translation>Conversión en curso, %i%% completado...</translation>
     </message>
     <message>
+        <source>The movie "%@" could not be converted:
+
+%@</source>
+        <translation>No se pudo convertir la película «%@»:
+
+%@</translation>
+    </message>
+    <message>
+        <source>Movie could not be converted!</source>
+        <translation>No se pudo convertir la película</translation>
+    </message>
+    <message>
+        <source>The converter gave no reason.</source>
+        <translation>El conversor no indicó el motivo.</translation>
+    </message>
+    <message>
+        <source>The converter can't be started: %@</source>
+        <translation>No se puede iniciar el conversor: %@</translation>
+    </message>
+    <message>
+        <source>Movie is not complete!</source>
+        <translation>La película no está completa</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but not all of it is there:
+
+%@</source>
+        <translation>La película «%@» se convirtió, pero no está completa:
+
+%@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but neither the movie library nor the folder %@ could take it. It has to be converted again.</source>
+        <translation>La película «%@» se convirtió, pero ni la biblioteca de películas ni la carpeta %@ pudieron guardarla. Hay que convertirla otra vez.</translation>
+    </message>
+    <message>
         <source>Movie could not be stored!</source>
         <translation>No se pudo guardar la película</translation>
     </message>

@@ -215,6 +215,42 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <translation>Conversion en cours, %i%% effectués...</translation>
     </message>
     <message>
+        <source>The movie "%@" could not be converted:
+
+%@</source>
+        <translation>Impossible de convertir le film « %@ » :
+
+%@</translation>
+    </message>
+    <message>
+        <source>Movie could not be converted!</source>
+        <translation>Impossible de convertir le film !</translation>
+    </message>
+    <message>
+        <source>The converter gave no reason.</source>
+        <translation>Le convertisseur n’a donné aucune raison.</translation>
+    </message>
+    <message>
+        <source>The converter can't be started: %@</source>
+        <translation>Impossible de lancer le convertisseur : %@</translation>
+    </message>
+    <message>
+        <source>Movie is not complete!</source>
+        <translation>Le film n’est pas complet !</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but not all of it is there:
+
+%@</source>
+        <translation>Le film « %@ » a été converti, mais il n’est pas complet :
+
+%@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but neither the movie library nor the folder %@ could take it. It has to be converted again.</source>
+        <translation>Le film « %@ » a été converti, mais ni la bibliothèque de films ni le dossier %@ n’ont pu l’accueillir. Il faut le convertir à nouveau.</translation>
+    </message>
+    <message>
         <source>Movie could not be stored!</source>
         <translation>Impossible de ranger le film !</translation>
     </message>

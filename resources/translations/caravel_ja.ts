@@ -215,6 +215,42 @@ Please deselect some media to ensure the sync can be completed.</source>
         <translation>変換中、%i%% 完了...</translation>
     </message>
     <message>
+        <source>The movie "%@" could not be converted:
+
+%@</source>
+        <translation>ムービー「%@」を変換できませんでした：
+
+%@</translation>
+    </message>
+    <message>
+        <source>Movie could not be converted!</source>
+        <translation>ムービーを変換できませんでした</translation>
+    </message>
+    <message>
+        <source>The converter gave no reason.</source>
+        <translation>コンバータから理由は示されませんでした。</translation>
+    </message>
+    <message>
+        <source>The converter can't be started: %@</source>
+        <translation>コンバータを起動できません：%@</translation>
+    </message>
+    <message>
+        <source>Movie is not complete!</source>
+        <translation>ムービーは完全ではありません</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but not all of it is there:
+
+%@</source>
+        <translation>ムービー「%@」は変換されましたが、全体ではありません：
+
+%@</translation>
+    </message>
+    <message>
+        <source>The movie "%@" was converted, but neither the movie library nor the folder %@ could take it. It has to be converted again.</source>
+        <translation>ムービー「%@」は変換されましたが、ムービーライブラリにもフォルダ %@ にも保存できませんでした。もう一度変換する必要があります。</translation>
+    </message>
+    <message>
         <source>Movie could not be stored!</source>
         <translation>ムービーを保存できませんでした</translation>
     </message>

@@ -73,7 +73,7 @@ int restore(const HelperHarness &harness)
 
 int store()
 {
-    return CVSyncMovies::moveConvertedMovieNamed(QStringLiteral("New Film")) ? 0 : 1;
+    return CVSyncMovies::moveConvertedMovieNamed(QStringLiteral("New Film")).identifier ? 0 : 1;
 }
 
 } // namespace

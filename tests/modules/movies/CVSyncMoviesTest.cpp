@@ -1,5 +1,7 @@
 #include "modules/movies/CVSyncMovies.h"
 
+#include "modules/movies/ConvertedMovie.h"
+
 #include "support/SyncHarness.h"
 #include "util/Settings.h"
 
@@ -10,8 +12,8 @@
 
 namespace {
 
-const QString mp4 = u".MP4"_s;
-const QString thm = u".THM"_s;
+using ConvertedMovie::movieEnding;
+using ConvertedMovie::thumbnailEnding;
 
 class CVSyncMoviesTest : public testing::Test
 {
@@ -24,19 +26,28 @@ protected:
 
     static std::string add(const char *title)
     {
-        writeFile(CVSyncMovies::convertedFile(mp4), "movie");
-        writeFile(CVSyncMovies::convertedFile(thm), "thumbnail");
+        writeFile(ConvertedMovie::file(movieEnding), "movie");
+        writeFile(ConvertedMovie::file(thumbnailEnding), "thumbnail");
         return CVSyncMovies::moveConvertedMovieNamed(QLatin1String(title))
-            .value_or(u"none"_s)
+            .identifier.value_or(u"none"_s)
             .toStdString();
     }
 };
 
-/// A library in which every id is taken, or a disk that takes no more.
-class FullFileManager : public FileManager
+/// A library on another disk, in which every id may be taken, and that may take no more.
+class OtherDisk : public FileManager
 {
 public:
     bool noIds = false;
+    QString full = u"/Movies/M4V"_s; // what can't be moved to
+    QStringList moves;
+    std::optional<FileStamp> stamp(const QString &path) const override
+    {
+        auto stamp = FileManager::stamp(path);
+        if (stamp)
+            stamp->device += path.contains(u"/Documents/");
+        return stamp;
+    }
     FileStatus linkStatus(const QString &path) const override
     {
         return noIds && path.contains(u"/Movies/M4V") ? FileStatus{FileStatus::Kind::Folder, 0}
@@ -45,8 +56,8 @@ public:
     bool move(const QString &source, const QString &destination,
               FileOperationHandler *handler) override
     {
-        return !destination.contains(u"/Movies/") &&
-               FileManager::move(source, destination, handler);
+        moves.append(destination.section(u'/', -1));
+        return !destination.contains(full) && FileManager::move(source, destination, handler);
     }
 };
 
@@ -60,7 +71,7 @@ TEST_F(CVSyncMoviesTest, KeepsTheLibrary)
     EXPECT_EQ(add(".."), "M4V00003/_") << "no title leads out of the library";
     EXPECT_EQ(readFile(library + u"/M4V00002/Clip/M4V00002.MP4"_s), "movie");
     EXPECT_EQ(readFile(library + u"/M4V00002/Clip/M4V00002.THM"_s), "thumbnail");
-    EXPECT_FALSE(QFile::exists(CVSyncMovies::convertedFile(mp4)));
+    EXPECT_FALSE(QFile::exists(ConvertedMovie::file(movieEnding)));
 
     EXPECT_TRUE(CVSyncMovies::deleteMovieWithIdentifier(u"M4V00002/Clip"_s));
     EXPECT_TRUE(
@@ -68,7 +79,10 @@ TEST_F(CVSyncMoviesTest, KeepsTheLibrary)
     writeFile(library + u"/a file"_s, "no movie");
     writeFile(library + u"/.DS_Store"_s, "");
     QDir().mkpath(library + u"/M4V00009"_s);
-    EXPECT_EQ(CVSyncMovies::availableIdentifiers(), list("M4V00001/Clip M4V00003/_"));
+    QDir().mkpath(harness.home(u"elsewhere/Linked"_s));
+    QFile::link(harness.home(u"elsewhere"_s), library + u"/M4V00010"_s);
+    EXPECT_EQ(CVSyncMovies::availableIdentifiers(),
+              list("M4V00001/Clip M4V00003/_ M4V00010/Linked"));
     EXPECT_EQ(CVSyncMovies::nextAvailableMovieId(), u"M4V00002"_s);
     const QStringList before = treeOf(library);
     for (const char *bad : {"", "M4V00001", "../Clip", "M4V00001/..", "/etc/x", "M4V00077/Clip"})
@@ -78,14 +92,18 @@ TEST_F(CVSyncMoviesTest, KeepsTheLibrary)
 
 TEST_F(CVSyncMoviesTest, LosesNothingThatItCantStore)
 {
-    FullFileManager files;
+    OtherDisk files;
     FileManager::setDefaultManager(&files);
     EXPECT_EQ(add("Holiday"), "none");
+    EXPECT_EQ(joined(files.moves), "CONVERT.MP4.part\nM4V00001.MP4\nCONVERT.MP4\nHoliday.MP4\n"
+                                   "Holiday.THM");
     files.noIds = true;
     EXPECT_EQ(add("Holiday"), "none");
     EXPECT_EQ(joined(treeOf(harness.home(u"Library/Application Support/Caravel"_s))),
               "Holiday.1.MP4\nHoliday.1.THM\nHoliday.MP4\nHoliday.THM");
-    EXPECT_TRUE(CVSyncMovies::availableIdentifiers().isEmpty());
+    files.full = u"/"_s;
+    EXPECT_EQ(CVSyncMovies::moveConvertedMovieNamed(u"Lost"_s).keptAs, QString());
+    EXPECT_EQ(treeOf(library), QStringList());
     FileManager::setDefaultManager(nullptr);
 }
 

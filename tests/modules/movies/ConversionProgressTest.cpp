@@ -50,7 +50,7 @@ TEST(ConversionProgress, LearnsTheDurationAndCountsFrames)
         ConversionProgress progress(c.quality);
         bool wasProgress = false;
         for (const QByteArray &chunk : c.chunks)
-            wasProgress = progress.take(chunk);
+            wasProgress = progress.take(chunk, true);
         EXPECT_TRUE(wasProgress) << c.what;
         EXPECT_EQ(progress.totalFrames(), c.totalFrames) << c.what;
         EXPECT_EQ(progress.text().toStdString(),
@@ -59,4 +59,19 @@ TEST(ConversionProgress, LearnsTheDurationAndCountsFrames)
                       : "Conversion in progress, " + std::to_string(c.percent) + "% completed...")
             << c.what;
     }
+}
+
+TEST(ConversionProgress, ReadsWhatWentWrong)
+{
+    const QByteArray line(1 << 13, 'x');
+    ConversionProgress progress(2);
+    for (const QByteArray &chunk :
+         {QByteArray("Duration: 00:01:00.0, start: 0\nOutput\nconvert.sh"), QByteArray(": first\n"),
+          QByteArray("frame=1 q=1\rWarning: it is\rconvert.sh: the disk is full\n"), line + '\n',
+          QByteArray("not convert.sh: this\nconvert.sh: unfinished")})
+        progress.take(chunk, true);
+    EXPECT_EQ(progress.reason(), QLatin1String("the disk is full"));
+    EXPECT_EQ(progress.warning(), QLatin1String("it is"));
+    EXPECT_FALSE(progress.take("frame=900 q=1", false)) << "it is over";
+    EXPECT_EQ(progress.text(), QLatin1String("Conversion in progress..."));
 }
