@@ -1,11 +1,14 @@
 #!/bin/bash
-# Converts one movie to what a PSP plays: H.264 with AAC in an MP4, and a 160x120 JPEG beside it.
+# Converts one movie to what a PSP plays, and makes a 160x120 JPEG of it. The movie is MPEG-4 video of
+# the Simple Profile, or H.264 at the two larger sizes, with AAC, in the PSP's own kind of MP4: brand
+# "MSNV", boxes "PROF" and "USMT". The console doesn't list a plain one.
 #
 # convert.sh SOURCE TITLE MOVIE THUMBNAIL RESOLUTION VIDEO-QUALITY AUDIO-QUALITY UNUSED
 #            DEINTERLACE VOLUME UNUSED UNUSED
 #
-#   RESOLUTION     0 = 320x240, 1 = 368x208, 2 = 480x272, 3 = 720x480: the picture fits inside
-#   VIDEO-QUALITY  0 = 14.97 frames per second, 1 to 3 = 29.97, at rising rates
+#   RESOLUTION     0 = 320x240, 1 = 368x208, 2 = 480x272, 3 = 720x480: the picture fits inside.
+#                  Firmware before 3.30 doesn't show 2 and 3
+#   VIDEO-QUALITY  0 = 14.985 frames per second, 1 to 3 = 29.97, at rising rates
 #   AUDIO-QUALITY  0 to 3, at rising rates
 #   DEINTERLACE    1 = yes
 #   VOLUME         per cent, 0 to 1000
@@ -15,8 +18,9 @@
 # ", start: ", so the duration has exactly one decimal, and nothing that comes from a file or an
 # argument is printed before it.
 #
-# Exits 0 when MOVIE is complete; the thumbnail alone may be missing then. Otherwise it says why
-# in one line and exits with another status. MOVIE and THUMBNAIL are written under the name
+# Exits 0 when MOVIE is complete; the thumbnail alone may be missing then, and a line "Warning: ..."
+# says where the source had less than it promised. Otherwise it says why in one line that begins
+# with "convert.sh: " and exits with another status. MOVIE and THUMBNAIL are written under the name
 # "….part" and renamed at the end. TERM, INT and HUP end it at once and leave nothing behind.
 
 set -u
@@ -25,13 +29,13 @@ unset FFREPORT
 
 # By resolution.
 readonly widths=(320 368 480 720) heights=(240 208 272 480)
-# By resolution and video quality: kbit/s that the rate stays below over some seconds, with a
-# buffer of one second's worth. 2 Mbit/s is about what a PSP plays without stutter.
+# By resolution and video quality: kbit/s that the rate stays below, H.264 over some seconds. The
+# Simple Profile plays up to 768, H.264 to about 2 Mbit/s.
 readonly peak_rates=(256 384 576 768 256 384 576 768 384 640 960 1408 768 1216 1600 2000)
 # By video quality. 720x480 at 30000/1001 is the most that level 3.0 permits. A key frame every
 # three seconds keeps the PSP's seeking quick.
-readonly rate_factors=(28 25 22 20) frame_rates=(1497/100 30000/1001 30000/1001 30000/1001)
-readonly rate_names=(14.97 29.97 29.97 29.97) key_intervals=(45 90 90 90)
+readonly rate_factors=(28 25 22 20) frame_rates=(15000/1001 30000/1001 30000/1001 30000/1001)
+readonly rate_names=(14.985 29.97 29.97 29.97) key_intervals=(45 90 90 90)
 # By audio quality: kbit/s.
 readonly audio_rates=(64 96 128 160)
 readonly audio_rate=48000
@@ -93,7 +97,7 @@ end_of_child() {
 remember_error() {
     case $1 in
         '' | 'Conversion failed!' | *'Last message repeated'*) ;;
-        *) last_error=$1 ;;
+        *) last_error=${1#\[*@ 0x*\] } ;; # without which of ffmpeg's parts says it
     esac
 }
 
@@ -274,8 +278,8 @@ announce() {
     local seconds=$((duration / 10)) note
     say 'Duration: %02d:%02d:%02d.%d, start: 0.000000\n' \
         $((seconds / 3600)) $((seconds / 60 % 60)) $((seconds % 60)) $((duration % 10))
-    say 'Output: %dx%d at %s frames per second, H.264 to %d kbit/s, AAC %d kbit/s\n' \
-        "$width" "$height" "${rate_names[video_quality]}" "$peak_rate" "${audio_rates[audio_quality]}"
+    say 'Output: %dx%d at %s frames per second, %s to %d kbit/s, AAC %d kbit/s\n' "$width" "$height" \
+        "${rate_names[video_quality]}" "$codec" "$peak_rate" "${audio_rates[audio_quality]}"
     for note in ${notes[@]+"${notes[@]}"}; do
         say 'Note: %s\n' "$note"
     done
@@ -300,6 +304,21 @@ audio_filters() {
     ((volume <= 100)) || printf ',alimiter=limit=0.98:level=disabled'
 }
 
+# Sets codec and encoder. Neither has B frames, and Main profile without weighted prediction decodes
+# in order on every firmware.
+choose_codec() {
+    peak_rate=${peak_rates[resolution * 4 + video_quality]}
+    if ((resolution <= 1)); then
+        codec=MPEG-4
+        encoder=(-c:v mpeg4 -tag:v mp4v -profile:v 0 -level:v 3 -mbd rd -b:v "$((peak_rate * 7 / 8))k"
+            -bufsize "$((peak_rate / 2))k" -rc_init_occupancy "$((peak_rate / 8))k")
+    else
+        codec=H.264
+        encoder=(-c:v libx264 -tag:v avc1 -preset fast -profile:v main -level:v 3.0 -refs 2
+            -x264-params weightp=0 -crf "${rate_factors[video_quality]}" -bufsize "${peak_rate}k")
+    fi
+}
+
 # Sets command. A source without sound gets a silent track, of 2 kbit/s: the PSP's player is made
 # for movies with sound and runs by its clock.
 build_command() {
@@ -312,13 +331,10 @@ build_command() {
         command+=(-f lavfi -i "anullsrc=channel_layout=stereo:sample_rate=$audio_rate"
             -map "0:$video" -map 1:a -shortest)
     fi
-    # Main profile without B frames and weighted prediction decodes in order on every firmware.
     command+=(-map_metadata -1 -map_chapters -1 -metadata "title=$title" -filter:v "$(video_filters)"
-        -c:v libx264 -tag:v avc1 -preset fast -profile:v main -level:v 3.0 -bf 0 -refs 2
-        -x264-params weightp=0 -g "${key_intervals[video_quality]}" -crf "${rate_factors[video_quality]}"
-        -maxrate "${peak_rate}k" -bufsize "${peak_rate}k"
+        "${encoder[@]}" -bf 0 -slices 1 -g "${key_intervals[video_quality]}" -maxrate "${peak_rate}k"
         -c:a aac -profile:a aac_low -b:a "${audio_rates[audio_quality]}k" -ar "$audio_rate" -ac 2
-        -f mp4 "file:$movie_part")
+        -f psp "file:$movie_part")
 }
 
 # ffmpeg's progress comes as "key=value" lines, a block at a time, each closed by "progress=". They
@@ -372,7 +388,8 @@ make_movie() {
 note_early_end() {
     made=$(tenths "$(stream_value 0 duration)") || made=0
     ((made + 20 >= duration || made * 20 >= duration * 19)) ||
-        say 'Note: the source ends after %d of %d seconds: %s\n' $((made / 10)) $((duration / 10)) "$last_error"
+        say 'Warning: the source ends after %d of %d seconds%s\n' $((made / 10)) $((duration / 10)) \
+            "${last_error:+: $last_error}"
 }
 
 # Takes the most telling of some frames after the given second.
@@ -416,7 +433,7 @@ main() {
     probe_source
     fit_picture
     find_duration
-    peak_rate=${peak_rates[resolution * 4 + video_quality]}
+    choose_codec
     announce
     build_command
     make_movie
