@@ -11,7 +11,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -35,8 +37,16 @@ FolderVolumes::FolderVolumes(const QString &folder, QObject *parent)
     , m_folder(QDir::cleanPath(QDir().absoluteFilePath(folder)))
 {
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FolderVolumes::rescan);
+    connect(&m_volumesWatcher, &QFileSystemWatcher::directoryChanged, this,
+            [this](const QString &volume) {
+                m_changed.insert(volume);
+                m_rest.start(std::chrono::seconds(1));
+            });
+    m_rest.setSingleShot(true);
+    connect(&m_rest, &QTimer::timeout, this, &FolderVolumes::announceAgain);
     watch();
     m_known = scan();
+    watch(m_known, {});
 }
 
 std::vector<FolderVolumes::Volume> FolderVolumes::scan() const
@@ -116,9 +126,32 @@ void FolderVolumes::watch()
     }
 }
 
+void FolderVolumes::watch(const std::vector<Volume> &volumes, const std::vector<Volume> &watched)
+{
+    for (const Volume &volume : volumes) {
+        if (std::ranges::find(watched, volume) != watched.end())
+            continue;
+        // Of another folder that was there before.
+        if (m_volumesWatcher.directories().contains(volume.path))
+            m_volumesWatcher.removePath(volume.path);
+        m_volumesWatcher.addPath(volume.path);
+    }
+}
+
 void FolderVolumes::rescan()
 {
     watch();
     const std::vector<Volume> now = scan();
-    announceChanges(*this, std::exchange(m_known, now), now);
+    const std::vector<Volume> before = std::exchange(m_known, now);
+    watch(now, before);
+    announceChanges(*this, before, now);
+}
+
+void FolderVolumes::announceAgain()
+{
+    const QSet<QString> changed = std::exchange(m_changed, {});
+    for (const Volume &volume : scan()) {
+        if (changed.contains(volume.path))
+            Q_EMIT didMount(volume.path);
+    }
 }

@@ -22,6 +22,7 @@ public:
 
 Q_SIGNALS:
     // All on the main thread, each with the mount path.
+    /// Also for one that is mounted already, when what lies in it has changed.
     void didMount(const QString &path);
     /// Before an announced unmount. A volume that is pulled out is not announced.
     void willUnmount(const QString &path);

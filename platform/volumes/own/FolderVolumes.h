@@ -4,13 +4,17 @@
 #include "platform/volumes/Volumes.h"
 
 #include <QFileSystemWatcher>
+#include <QSet>
+#include <QTimer>
 
 #include <vector>
 
 /// Each folder directly inside one folder is a mounted removable volume, in byte order of names,
 /// hidden ones left out; a link to a folder counts as one. For emulators' memory-stick folders and
-/// for tests. Ejecting moves a volume to ".ejected/NAME" inside the folder, announced first; it is
-/// refused while that name is taken.
+/// for tests. What is copied in comes bit by bit: whenever something has come to a volume's own
+/// folder, or gone from it, and a second has passed, the volume is announced once more. Ejecting
+/// moves a volume to ".ejected/NAME" inside the folder, announced first; it is refused while that
+/// name is taken.
 class FolderVolumes : public Volumes
 {
     Q_OBJECT
@@ -34,11 +38,16 @@ private:
     std::vector<Volume> scan() const;
     bool moveAside(const QString &path) const;
     void watch();
+    void watch(const std::vector<Volume> &volumes, const std::vector<Volume> &watched);
     void rescan();
+    void announceAgain();
 
     const QString m_folder;
 
     // Main thread.
-    QFileSystemWatcher m_watcher;
+    QFileSystemWatcher m_watcher; // of the folder
+    QFileSystemWatcher m_volumesWatcher;
     std::vector<Volume> m_known;
+    QSet<QString> m_changed; // volumes that are announced again when all have been at rest
+    QTimer m_rest;
 };

@@ -69,6 +69,9 @@ TEST_F(FolderVolumesTest, FolderMadeLaterItsVolumesAndTheirEvents)
     EXPECT_THAT(events(2), ElementsAre("-stick", "-z link"));
     insert("back");
     EXPECT_THAT(events(1), ElementsAre("+back"));
+    // The stick is copied in.
+    writeFile(path("back/MEMSTICK.IND"), {});
+    EXPECT_THAT(events(1), ElementsAre("+back"));
 }
 
 } // namespace
