@@ -24,7 +24,7 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs exfat-fuse mount util-linux xvfb jq procps
     evolution-data-server
     # The demo's sound files, and the helper at run time
-    ffmpeg
+    ffmpeg qt6-image-formats-plugins
 )
 while (($#)); do
     case $1 in

@@ -52,7 +52,8 @@ void stagePicture(const QByteArray &image, const QString &path, const QString &p
     if (!rendered.problem.isEmpty())
         qCWarning(lcModules).noquote().nospace() << "The picture of the contact \"" << person
                                                  << "\" can't be shown: " << rendered.problem;
-    writePicture(path, rendered.jpeg);
+    if (!before || *before != rendered.jpeg)
+        writePicture(path, rendered.jpeg);
 }
 
 void stagePage(const ContactsPage &page, const QString &path)

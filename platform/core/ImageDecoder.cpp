@@ -8,6 +8,14 @@ namespace {
 constexpr qint64 maximumPixels = 64'000'000;
 constexpr int maximumMegabytes = 512; // of the largest image, at eight bytes a pixel
 
+/// Where it is too large, its size.
+QString tooLarge(QSize size)
+{
+    return qint64(size.width()) * size.height() > maximumPixels
+               ? QStringLiteral("it has %1 by %2 pixels").arg(size.width()).arg(size.height())
+               : QString();
+}
+
 } // namespace
 
 QImage ImageDecoder::decoded(const QByteArray &bytes, QString *problem)
@@ -22,13 +30,15 @@ QImage ImageDecoder::decoded(const QByteArray &bytes, QString *problem)
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (qint64(size.width()) * size.height() > maximumPixels) {
-        *problem = QStringLiteral("it has %1 by %2 pixels").arg(size.width()).arg(size.height());
+    if (!reader.canRead()) {
+        *problem = QStringLiteral("its format is unknown");
         return {};
     }
-    const QImage image = size.isEmpty() ? QImage() : reader.read();
-    if (image.isNull())
-        *problem = size.isEmpty() ? QStringLiteral("its format is unknown") : reader.errorString();
-    return image;
+    *problem = tooLarge(reader.size());
+    if (!problem->isEmpty())
+        return {};
+    // Some formats tell their size only now; the limit above holds for these too.
+    const QImage image = reader.read();
+    *problem = image.isNull() ? reader.errorString() : tooLarge(image.size());
+    return problem->isEmpty() ? image : QImage();
 }

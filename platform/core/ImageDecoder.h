@@ -9,7 +9,7 @@ namespace ImageDecoder {
 
 /// The image in any format that Qt decodes, turned upright as its metadata say. Null, with the
 /// reason stored, for what is no such image and for one of more than 64 megapixels, which isn't
-/// decoded at all. Any thread.
+/// decoded at all where its format tells the size before. Any thread.
 QImage decoded(const QByteArray &bytes, QString *problem);
 
 } // namespace ImageDecoder

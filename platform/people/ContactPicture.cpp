@@ -9,9 +9,12 @@
 
 namespace {
 
+// Pictures from before this name carry one even where they are grey.
+const QString markKey = QStringLiteral("Made of");
+
 QString markLine(const QString &mark)
 {
-    return QStringLiteral("Source: ") + mark;
+    return markKey + QStringLiteral(": ") + mark;
 }
 
 QByteArray encoded(const QImage &image)
@@ -36,7 +39,9 @@ ContactPicture::Rendered ContactPicture::render(const QByteArray &image, const Q
         painter.drawImage(
             0, 0, source.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
-    canvas.setText(QStringLiteral("Source"), mark);
+    // A grey one is tried again: the decoder may come with the next update.
+    if (!source.isNull())
+        canvas.setText(markKey, mark);
     result.jpeg = encoded(canvas);
     return result;
 }

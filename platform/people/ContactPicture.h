@@ -16,7 +16,7 @@ struct Rendered
 
 /// The whole image, in any format that Qt decodes, stretched to 64 by 64 pixels as a JPEG that
 /// carries the mark (plain ASCII) as a comment. An image that can't be decoded, or that has more
-/// than 64 megapixels (it isn't decoded then), becomes a plain light grey picture. Any thread.
+/// than 64 megapixels, becomes a plain light grey picture without a mark. Any thread.
 Rendered render(const QByteArray &image, const QString &mark);
 
 /// Whether the bytes are a complete picture of render() that carries the mark.
