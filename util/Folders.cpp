@@ -7,7 +7,10 @@ namespace Folders {
 
 QString documents()
 {
-    const QString parent = StringTools::expandingTilde(Settings::caravelFolder());
+    QString parent = StringTools::expandingTilde(Settings::caravelFolder());
+    if (!parent.startsWith(u'/'))
+        parent =
+            StringTools::expandingTilde(QString::fromUtf8(Settings::caravelFolder.defaultValue));
     return StringTools::appendingPathComponent(StringTools::standardizingPath(parent),
                                                QStringLiteral("Caravel"));
 }

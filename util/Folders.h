@@ -5,7 +5,8 @@
 /// The folders on the computer that are ours.
 namespace Folders {
 
-/// The documents folder: the setting `CaravelFolder`, "~" expanded, with "Caravel" appended.
+/// The documents folder: the setting `CaravelFolder`, "~" expanded, with "Caravel" appended. A
+/// setting that is no absolute path then counts as its default.
 QString documents();
 
 /// "~/Library/Application Support/Caravel", "~" expanded.

@@ -15,7 +15,7 @@ namespace {
 constexpr quint64 fileLimit = 1ULL << 20; // bytes
 constexpr quint64 headerSize = 20;
 constexpr quint64 entrySize = 16;
-constexpr quint64 longestText = 511;
+constexpr quint64 longestText = 511; // a key's too: in a file that overlaps them all they add up
 const QByteArray magic("\0PSF", 4);
 
 /// Numbers and pieces of a file; nothing is read outside of it.
@@ -105,7 +105,7 @@ void readValue(const Bytes &file, quint64 entry, quint64 dataTable, Entry &read)
 Entry readEntry(const Bytes &file, quint64 entry, quint64 keyTable, quint64 dataTable)
 {
     Entry read;
-    const auto key = file.text(keyTable + file.le16(entry), fileLimit);
+    const auto key = file.text(keyTable + file.le16(entry), longestText);
     if (!key)
         return read;
     read.key = QString::fromLatin1(*key);
