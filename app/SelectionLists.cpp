@@ -75,17 +75,20 @@ QSet<QString> toSet(const std::optional<QStringList> &selection)
     return selection ? QSet<QString>(selection->begin(), selection->end()) : QSet<QString>();
 }
 
-QVariantMap row(const QString &name, const Kind &kind, qsizetype size,
+// What has no name is shown, and can't be selected.
+QVariantMap row(const std::optional<QString> &name, const Kind &kind, qsizetype size,
                 const QSet<QString> &selected)
 {
     QVariantMap row{
-        {QStringLiteral("identifier"), name},
-        {QStringLiteral("name"), name},
         {QStringLiteral("icon"), kind.icon},
         {QStringLiteral("order"), kind.order},
         {QStringLiteral("size"), static_cast<int>(size)},
     };
-    if (selected.contains(name))
+    if (!name)
+        return row;
+    row.insert(QStringLiteral("identifier"), *name);
+    row.insert(QStringLiteral("name"), *name);
+    if (selected.contains(*name))
         row.insert(QStringLiteral("enabled"), true);
     return row;
 }
@@ -101,9 +104,8 @@ QVariantList SelectionLists::musicItems() const
         toSet(CVSyncMusic::selectedIdentifiersForPSP(m_manager.pspVolume()));
     QVariantList rows;
     for (const MusicLibrary::Playlist &playlist : *playlists) {
-        if (!playlist.isPartyShuffle && !playlist.isPurchasedMusic && !playlist.isVideos &&
-            playlist.name)
-            rows.append(row(*playlist.name, kindOf(playlist), playlist.size, selected));
+        if (!playlist.isPartyShuffle && !playlist.isPurchasedMusic && !playlist.isVideos)
+            rows.append(row(playlist.name, kindOf(playlist), playlist.size, selected));
     }
     return rows;
 }
@@ -116,10 +118,8 @@ QVariantList SelectionLists::photosItems() const
     const QSet<QString> selected =
         toSet(CVSyncPhotos::selectedIdentifiersForPSP(m_manager.pspVolume()));
     QVariantList rows;
-    for (const PhotoLibrary::Album &album : *albums) {
-        if (album.name)
-            rows.append(row(*album.name, kindOf(album), album.size, selected));
-    }
+    for (const PhotoLibrary::Album &album : *albums)
+        rows.append(row(album.name, kindOf(album), album.size, selected));
     return rows;
 }
 
@@ -129,10 +129,9 @@ QVariantList SelectionLists::bookmarksItems() const
         toSet(CVSyncBookmarks::selectedIdentifiersForPSP(m_manager.pspVolume()));
     QVariantList rows;
     for (const BookmarkFolder &folder : CVSyncBookmarks::availableIdentifiers().valueOr({})) {
-        if (!folder.title)
-            continue;
-        QVariantMap found = row(*folder.title, kindOf(folder), folder.size, selected);
-        found.insert(QStringLiteral("name"), shownTitle(*folder.title));
+        QVariantMap found = row(folder.title, kindOf(folder), folder.size, selected);
+        if (folder.title)
+            found.insert(QStringLiteral("name"), shownTitle(*folder.title));
         rows.append(found);
     }
     return rows;
@@ -200,12 +199,15 @@ QVariantList SelectionLists::backupItems() const
 {
     QVariantList rows;
     for (const QString &save : CVSyncBackup::availableIdentifiers()) {
-        const QStringList backups = CVSyncBackup::availableSubIdentifiersForIdentifier(save);
-        if (save == u".DS_Store" || backups.isEmpty())
+        if (save == u".DS_Store")
             continue;
-        const QString folder = CVSyncBackup::folderOf(save + u'/' + backups.last());
+        const QStringList backups = CVSyncBackup::availableSubIdentifiersForIdentifier(save);
+        const QString newest = backups.isEmpty() ? QString() : backups.last();
+        const QString folder = CVSyncBackup::folderOf(save + u'/' + newest);
         const auto parameters =
-            PSFParser::dictionaryWithPSFFile(folder + QStringLiteral("/PARAM.SFO"));
+            folder.isEmpty()
+                ? std::nullopt
+                : PSFParser::dictionaryWithPSFFile(folder + QStringLiteral("/PARAM.SFO"));
         QString description = unknownSave();
         if (parameters)
             description = value(*parameters, "SAVEDATA_TITLE").isEmpty()
@@ -214,9 +216,10 @@ QVariantList SelectionLists::backupItems() const
         rows.append(QVariantMap{
             {QStringLiteral("identifier"), save},
             {QStringLiteral("name"), parameters ? value(*parameters, "TITLE") : save},
-            {QStringLiteral("icon"), folder + QStringLiteral("/ICON0.PNG")},
+            {QStringLiteral("icon"),
+             folder.isEmpty() ? QString() : folder + QStringLiteral("/ICON0.PNG")},
             {QStringLiteral("description"), description},
-            {QStringLiteral("date"), dateText(CVSyncBackup::timestampOf(backups.last()))},
+            {QStringLiteral("date"), dateText(CVSyncBackup::timestampOf(newest))},
         });
     }
     return rows;

@@ -127,9 +127,11 @@ Selection changedSelection(const QVariantList &rows, const QStringList &current,
         if (identifiers.isEmpty())
             selection.unknown.append(name);
     }
-    for (const QVariant &row : rows) {
-        const QString identifier = text(row.toMap(), u"identifier");
-        if (isWanted(mode, current.contains(identifier), named.contains(identifier)))
+    for (const QVariant &each : rows) {
+        const QVariantMap row = each.toMap();
+        const QString identifier = text(row, u"identifier");
+        if (row.contains(QStringLiteral("identifier")) &&
+            isWanted(mode, current.contains(identifier), named.contains(identifier)))
             selection.identifiers.append(identifier);
     }
     return selection;

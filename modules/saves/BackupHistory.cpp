@@ -68,13 +68,19 @@ double timestampOf(const QString &name)
     qsizetype digits = 0;
     while (digits < name.size() && name[digits] >= u'0' && name[digits] <= u'9')
         ++digits;
-    return name.first(digits).toDouble();
+    constexpr double latest = 9e15; // what a date and a number of either kind can hold
+    const double timestamp = name.first(digits).toDouble();
+    return timestamp <= latest ? timestamp : 0;
 }
 
 double latestTimestampOf(const QString &save)
 {
-    const QStringList names = timestampsOf(save);
-    return names.isEmpty() ? 0 : timestampOf(*std::max_element(names.begin(), names.end()));
+    QString newest;
+    for (const QString &name : timestampsOf(save)) {
+        if (timestampOf(name) > 0)
+            newest = std::max(newest, name);
+    }
+    return timestampOf(newest);
 }
 
 QString newFolder(const QString &save, const Clock &clock)

@@ -27,7 +27,7 @@ public:
     /// as they lie there.
     static QStringList availableIdentifiers();
     static QStringList availableSubIdentifiersForIdentifier(const QString &identifier);
-    /// The number that a backup's folder name begins with; 0 for none.
+    /// The number that a backup's folder name begins with; 0 for none, and for one that is no time.
     static double timestampOf(const QString &name);
     /// The folder that holds a backup's own files; the identifier is "<save>/<timestamp>", and any
     /// other has none.

@@ -57,7 +57,8 @@ TEST_F(SelectionListsTest, OfferTheLibrariesByKindAndMarkTheSelection)
     lists.setSelected(u"Music"_s, {u"Smart"_s, u"AC/DC: Live?"_s, u"Videos"_s});
     EXPECT_EQ(items("Music"), "Library|Library|iTunesLibrary|0|3|\nTalk|Talk|iTunesPodcasts|1|0|\n"
                               "Smart|Smart|iTunesSmartPlaylist|2|2|true\n"
-                              "AC/DC: Live?|AC/DC: Live?|iTunesPlaylist|3|1|true");
+                              "AC/DC: Live?|AC/DC: Live?|iTunesPlaylist|3|1|true\n"
+                              "||iTunesPlaylist|3|0|");
     EXPECT_TRUE(QDir(harness.home(u"Documents/Caravel/Dropboxes/Music"_s)).exists());
 
     PhotoLibraryFile photos;
@@ -66,13 +67,14 @@ TEST_F(SelectionListsTest, OfferTheLibrariesByKindAndMarkTheSelection)
          {"Special Roll", "Special Month", "Smart", "Regular", "Book", "Slideshow", "Calendar"})
         photos.addAlbum(QString(QLatin1Char(*type)), {}, {{u"Album Type"_s, QLatin1String(type)}});
     photos.addAlbum(u"Plain"_s, list("1"));
+    photos.addRawAlbum(QVariantMap{{u"KeyList"_s, QVariantList{1}}});
     writeFile(harness.home(u"Pictures/iPhoto Library/AlbumData.xml"_s), photos.contents());
     lists.setSelected(u"Photos"_s, {u"Plain"_s});
     EXPECT_EQ(items("Photos"), "All|All|iPhotoLibrary|0|2|\nS|S|iPhotoRoll|1|0|\n"
                                "S|S|iPhotoMonth|2|0|\nS|S|iPhotoSmartAlbum|3|0|\n"
                                "R|R|iPhotoAlbum|4|0|\nB|B|iPhotoBook|5|0|\n"
                                "S|S|iPhotoSlideshow|6|0|\nC|C|iPhotoAlbum|7|0|\n"
-                               "Plain|Plain|iPhotoAlbum|7|1|true");
+                               "Plain|Plain|iPhotoAlbum|7|1|true\n||iPhotoAlbum|7|1|");
 
     QVariantList folders;
     for (const char *title : {"BookmarksBar", "BookmarksMenu", "News"})
@@ -116,7 +118,8 @@ TEST_F(SelectionListsTest, TellWhatTheGamesSay)
     EXPECT_EQ(shown(lists.backupItems(), "identifier name icon description date"),
               u"A|Game|%1A/%2/A/ICON0.PNG|No description available|Today 03:08 PM\n"
               "B|B|%1B/%2/B/ICON0.PNG|Unknown game save|Today 03:08 PM\n"
-              "C|Other|%1C/%3/C/ICON0.PNG|Slot2|12-Mar-26 03:09 PM"_s.arg(root)
+              "C|Other|%1C/%3/C/ICON0.PNG|Slot2|12-Mar-26 03:09 PM\n"
+              "Empty|Empty||Unknown game save|01-Jan-70 12:00 AM"_s.arg(root)
                   .arg(now - 60)
                   .arg(now - 172800)
                   .toStdString());

@@ -34,7 +34,7 @@ QString root();
 QStringList saves();
 QStringList timestampsOf(const QString &save);
 
-/// The number that a backup's folder name begins with; 0 for none.
+/// The number that a backup's folder name begins with; 0 for none, and for one that is no time.
 double timestampOf(const QString &name);
 /// The newest of a save's timestamps; 0 where it has none.
 double latestTimestampOf(const QString &save);

@@ -53,7 +53,10 @@ TEST_F(CVSyncBackupTest, KeepsWhatChanged)
 {
     EXPECT_TRUE(harness.run());
     pass(60);
+    const QString strange = root + u"GAME/99999999999999999999"_s;
+    QDir().mkpath(strange);
     EXPECT_TRUE(harness.run());
+    QDir().rmdir(strange);
     EXPECT_EQ(history(), "0: first") << "nothing has changed";
     for (const char *changed : {"firsT", "third"}) { // within the same second
         putSave(changed);
