@@ -135,6 +135,7 @@ void FolderVolumes::watch(const std::vector<Volume> &volumes, const std::vector<
         if (m_volumesWatcher.directories().contains(volume.path))
             m_volumesWatcher.removePath(volume.path);
         m_volumesWatcher.addPath(volume.path);
+        m_changed.remove(volume.path);
     }
 }
 
