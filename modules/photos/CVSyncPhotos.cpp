@@ -15,14 +15,16 @@
 
 namespace {
 
+FileResult<QVariantMap> preferencesOfIPhoto()
+{
+    return UserDefaults::standard().persistentDomain(QStringLiteral("com.apple.iPhoto"));
+}
+
 // Where iPhoto itself says that its library lies, else where it lies by default.
-QString libraryPath()
+QString libraryPath(const FileResult<QVariantMap> &preferences)
 {
     const QString name = QStringLiteral("AlbumData.xml");
-    const QVariant root = UserDefaults::standard()
-                              .persistentDomain(QStringLiteral("com.apple.iPhoto"))
-                              .value_or(QVariantMap())
-                              .value(QStringLiteral("RootDirectory"));
+    const QVariant root = preferences.valueOr({}).value(QStringLiteral("RootDirectory"));
     if (root.typeId() == QMetaType::QString && root.toString().startsWith(u'/')) {
         const QString own = StringTools::appendingPathComponent(root.toString(), name);
         if (FileManager::defaultManager().exists(own))
@@ -77,7 +79,8 @@ QString CVSyncPhotos::saveName()
 
 FileResult<std::vector<PhotoLibrary::Album>> CVSyncPhotos::availableIdentifiers()
 {
-    const auto library = PhotoLibrary::read(libraryPath(), PhotoLibrary::Part::AlbumsOnly);
+    const auto library =
+        PhotoLibrary::read(libraryPath(preferencesOfIPhoto()), PhotoLibrary::Part::AlbumsOnly);
     if (!library)
         return library.error();
     return library->albums();
@@ -119,7 +122,12 @@ std::vector<CVSyncItem> CVSyncPhotos::itemsToSync()
 
 void CVSyncPhotos::addAlbumItems(std::vector<CVSyncItem> &items)
 {
-    const auto library = PhotoLibrary::read(libraryPath(), PhotoLibrary::Part::Everything);
+    const auto preferences = preferencesOfIPhoto();
+    // The library that they name may be another.
+    if (!preferences && isAnythingSelected())
+        noteUnreadableLibrary(preferences.error());
+    const auto library =
+        PhotoLibrary::read(libraryPath(preferences), PhotoLibrary::Part::Everything);
     if (!library) {
         if (isAnythingSelected())
             noteUnreadableLibrary(library.error());

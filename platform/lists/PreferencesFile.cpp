@@ -34,7 +34,7 @@ PreferencesContents PreferencesFile::read() const
         return {State::Read, *values};
     const FileError &error = values.error();
     if (error.isMissing())
-        return {State::Absent};
+        return {State::Absent, {}, error};
     const bool isDamaged = error.operation == FileError::Operation::Parse;
     return {isDamaged ? State::Damaged : State::NoAccess, {}, error};
 }

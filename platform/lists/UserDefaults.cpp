@@ -290,14 +290,14 @@ bool UserDefaults::writingFailed(const FileError &error)
     return false;
 }
 
-std::optional<QVariantMap> UserDefaults::persistentDomain(const QString &name) const
+FileResult<QVariantMap> UserDefaults::persistentDomain(const QString &name) const
 {
     const PreferencesContents contents = PreferencesFile(m_folder, name).read();
     if (contents.state == PreferencesContents::State::Read)
         return contents.values;
     if (!contents.canBeReplaced())
         qCWarning(lcPlatform).noquote() << "can't read" << PropertyList::logText(contents.error);
-    return std::nullopt;
+    return contents.error;
 }
 
 bool UserDefaults::editPersistentDomain(const QString &name,

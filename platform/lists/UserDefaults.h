@@ -81,9 +81,9 @@ public:
     /// is left as it is, and nothing is written over it. Does not emit changed().
     bool synchronize(std::chrono::milliseconds patience = std::chrono::milliseconds(100));
 
-    /// Another domain, read from its file at each call; nothing where it is missing or unreadable
-    /// (an unreadable one is named in the system log and left alone).
-    std::optional<QVariantMap> persistentDomain(const QString &name) const;
+    /// Another domain, read from its file at each call. Errors are those of readPropertyList(); one
+    /// but that it is missing is in the system log, and the file is left alone.
+    FileResult<QVariantMap> persistentDomain(const QString &name) const;
 
     /// Has another domain's values edited and replaces its file whole, atomically, with no other
     /// process of ours in between; a missing domain is edited as an empty one. Nothing is written

@@ -19,7 +19,7 @@ struct PreferencesContents
     };
     State state = State::Absent;
     QVariantMap values = {}; ///< empty where nothing was read
-    FileError error = {};    ///< of the last two
+    FileError error = {};    ///< of all but the first
 
     bool canBeReplaced() const { return state == State::Read || state == State::Absent; }
 };

@@ -79,6 +79,11 @@ TEST_F(CVSyncPhotosTest, FindsTheLibraryAndTheDropbox)
         return true;
     });
     EXPECT_EQ(wishesOf(good), "Holiday/usual.jpg < a.jpg") << "nothing lies in the own place";
+    const QString preferences = harness.folder / u"preferences/com.apple.iPhoto.plist"_s;
+    const QByteArray usable = readFile(preferences);
+    writeFile(preferences, "garbage");
+    EXPECT_EQ(wishes(), "Holiday/usual.jpg < a.jpg\nunreadable: com.apple.iPhoto.plist");
+    writeFile(preferences, usable);
     writeFile(harness.home(u"elsewhere.xml"_s), owned);
     writeFile(own + u"/x"_s, {});
     ASSERT_TRUE(QFile::link(harness.home(u"elsewhere.xml"_s), own + u"/AlbumData.xml"_s));
