@@ -3,8 +3,6 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QRegularExpression>
-#include <QSet>
-#include <QVariant>
 
 #include <algorithm>
 #include <latch>
@@ -71,33 +69,7 @@ GVariant *parsed(const QByteArray &text, const QByteArray &type)
     return nullptr;
 }
 
-/// All that is no container, as text; keys as those of a dictionary of ours have to be.
-QSet<QByteArray> leavesOf(GVariant *value, bool isKey = false)
-{
-    QSet<QByteArray> leaves;
-    if (isKey && g_variant_is_of_type(value, G_VARIANT_TYPE_BYTE))
-        return {QByteArray::number(g_variant_get_byte(value))};
-    if (isKey && g_variant_is_of_type(value, G_VARIANT_TYPE_DOUBLE))
-        return {QVariant(g_variant_get_double(value)).toString().toUtf8()};
-    if (g_variant_is_of_type(value, G_VARIANT_TYPE("s")))
-        return {g_variant_get_string(value, nullptr)};
-    if (!g_variant_is_container(value)) {
-        gchar *text = g_variant_print(value, FALSE);
-        leaves.insert(QByteArray(text).replace('\'', ""));
-        g_free(text);
-        return leaves;
-    }
-    const bool isEntry = g_variant_is_of_type(value, G_VARIANT_TYPE_DICT_ENTRY);
-    for (gsize i = 0; i < g_variant_n_children(value); ++i) {
-        GVariant *child = g_variant_get_child_value(value, i);
-        leaves.unite(leavesOf(child, isEntry && i == 0));
-        g_variant_unref(child);
-    }
-    return leaves;
-}
-
-void checkAnswer(GDBusMessage *answer, const CalledMethod &called, GVariant *arguments,
-                 bool isRight)
+void checkAnswer(GDBusMessage *answer, const CalledMethod &called, bool isRight)
 {
     promise(answer, "a call has an answer");
     const bool isError = g_dbus_message_get_message_type(answer) == G_DBUS_MESSAGE_TYPE_ERROR;
@@ -105,11 +77,6 @@ void checkAnswer(GDBusMessage *answer, const CalledMethod &called, GVariant *arg
     GVariant *body = g_dbus_message_get_body(answer);
     const char *type = body ? g_variant_get_type_string(body) : "()";
     promise(isError || type == '(' + called.out + ')', "an answer has the declared type");
-    promise(isError || !called.name.startsWith("echo") || g_variant_equal(body, arguments),
-            "a value comes back as it went");
-    promise(isError || !called.name.startsWith("take") || !body ||
-                leavesOf(arguments).contains(leavesOf(body)),
-            "what comes back had been sent");
 }
 
 } // namespace
@@ -192,7 +159,7 @@ void BusCalls::makeOne(const QByteArray &line, const std::vector<CalledMethod> &
                                        nullptr);
     } else {
         GDBusMessage *answer = answerTo(call);
-        checkAnswer(answer, *method, arguments, type == g_variant_get_type_string(arguments));
+        checkAnswer(answer, *method, type == g_variant_get_type_string(arguments));
         g_object_unref(answer);
     }
     g_object_unref(call);

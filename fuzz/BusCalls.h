@@ -24,12 +24,11 @@ class BusCalls
 public:
     BusCalls();
 
-    /// Makes the calls that the lines are, as "take ({'title': <5>}, 'x')", with the arguments in
+    /// Makes the calls that the lines are, as "syncNow ({'title': <5>},)", with the arguments in
     /// GVariant's text form: any type can be written in it. Those that fit the method's types have
     /// to be answered with its type of answer, and all others refused. Lines that are none of that
     /// are passed over, but an empty one calls `rest`. ">" before a name: in the other byte order;
-    /// "!": without an answer. Answers of methods called "echo…" have to be what they were given,
-    /// those of "take…" nothing else.
+    /// "!": without an answer.
     void make(const QByteArray &lines, const std::vector<CalledMethod> &methods,
               const std::function<void()> &rest = {});
 

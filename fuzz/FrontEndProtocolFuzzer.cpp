@@ -1,6 +1,7 @@
 #include "app/FrontEndProtocol.h"
 #include "fuzz/BusCalls.h"
 #include "platform/people/AddressBook.h"
+#include "platform/tray/own/BusMenu.h"
 #include "support/HelperHarness.h"
 #include "util/Settings.h"
 
@@ -48,7 +49,17 @@ QStringList othersPaths()
 
 std::vector<CalledMethod> calledMethods(const std::vector<RemoteMethod> &served)
 {
-    std::vector<CalledMethod> called;
+    constexpr const char *menu = "com.canonical.dbusmenu";
+    std::vector<CalledMethod> called{
+        {"/Menu", menu, "GetLayout", "iias", "u(ia{sv}av)"},
+        {"/Menu", menu, "GetGroupProperties", "aias", "a(ia{sv})"},
+        {"/Menu", menu, "GetProperty", "is", "v"},
+        {"/Menu", menu, "Event", "isvu", ""},
+        {"/Menu", menu, "EventGroup", "a(isvu)", "ai"},
+        {"/Menu", menu, "AboutToShow", "i", "b"},
+        {"/Menu", menu, "AboutToShowGroup", "ai", "aiai"},
+        {"/Menu", "org.freedesktop.DBus.Properties", "GetAll", "s", "a{sv}"},
+    };
     for (const RemoteMethod &method : served) {
         if (method.name != u"openCaravel") // takes nothing from its caller, and starts a program
             called.push_back({"/Served", "org.caravel.Served", method.name.toLatin1(),
@@ -69,6 +80,16 @@ void serve(BusCalls &bus, const QByteArray &input)
     promise(connection.exportObject(QStringLiteral("/Served"), QStringLiteral("org.caravel.Served"),
                                     methods),
             "the helper is served");
+    Menu menu;
+    for (const bool isEnabled : {true, false, true})
+        menu.addItem({QStringLiteral("_"),
+                      [isEnabled](const QString &) {
+                          promise(isEnabled, "what is disabled can't be chosen");
+                      },
+                      isEnabled});
+    QObject::connect(&menu, &Menu::needsUpdate, &menu,
+                     [&] { menu.setTitle(0, menu.itemAtIndex(0).title + u'_'); });
+    const BusMenu busMenu(menu, QStringLiteral("/Menu"));
     bus.make(input, calledMethods(methods), HelperHarness::settle);
     HelperHarness::settle();
     harness.helper->movies().close();
@@ -77,8 +98,8 @@ void serve(BusCalls &bus, const QByteArray &input)
 
 } // namespace
 
-// Calls of a front-end over the bus, on a home and a stick that each input finds alike. The first
-// line may say that there is no stick, or that it has a profile.
+// Calls of a front-end and of who draws the menu over the bus, on a home and a stick that each
+// input finds alike. The first line may say that there is no stick, or that it has a profile.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static BusCalls bus;
