@@ -156,11 +156,13 @@ void SelectionLists::setSelected(const QString &saveName, const QStringList &ide
         return;
     // What comes over the bus may name anything.
     const auto bad = std::find_if_not(identifiers.begin(), identifiers.end(), kind->isIdentifier);
-    if (bad != identifiers.end())
+    if (bad != identifiers.end()) {
         qCWarning(lcApp).noquote().nospace()
             << "A selection was refused for its identifier \"" << *bad << "\" (" << saveName << ')';
-    else
-        kind->setSelectedIdentifiers(identifiers, m_manager.pspVolume());
+        return;
+    }
+    kind->setSelectedIdentifiers(identifiers, m_manager.pspVolume());
+    m_manager.userHasLooked();
 }
 
 // --- Game saves

@@ -15,8 +15,7 @@ class SelectionLists
 {
 public:
     /// Not owned, outlive the lists.
-    SelectionLists(const ModuleCatalogue &catalogue, const CVSyncManager &manager,
-                   const Clock &clock)
+    SelectionLists(const ModuleCatalogue &catalogue, CVSyncManager &manager, const Clock &clock)
         : m_catalogue(catalogue)
         , m_manager(manager)
         , m_clock(clock)
@@ -45,6 +44,6 @@ private:
     QString dateText(double timestamp) const;
 
     const ModuleCatalogue &m_catalogue;
-    const CVSyncManager &m_manager;
+    CVSyncManager &m_manager;
     const Clock &m_clock;
 };

@@ -140,6 +140,38 @@ void SyncStatus::pspUnmountFailed()
 
 // --- The run
 
+void SyncStatus::syncHeldBack(const HoldBack &why)
+{
+    using Reason = HoldBack::Reason;
+    const auto say = [this](const QString &message) {
+        doAlert(localized("The sync was not started!"), message, AlertStyle::Warning);
+    };
+    switch (why.reason) {
+    case Reason::UnreadablePreferences:
+        return say(localized("The preferences can't be read, so it is not known what you have "
+                             "selected."));
+    case Reason::LostSelection:
+        return say(localized("The preferences were damaged and had to be set aside, your selection "
+                             "with them.\n\nPlease select your media anew, then sync."));
+    case Reason::LinkedFolder:
+        return say(localized("The folder \".caravel\" on the Memory Stick is a link, and no link "
+                             "is followed there.\n\nPlease remove it, then sync."));
+    case Reason::UnreadableProfile:
+        return say(localized("The selection that is kept on the Memory Stick can't be read.\n\n"
+                             "Please look at your selection, then click \"Sync Now\"."));
+    case Reason::UnreadableLibrary:
+        return say(filled(localized("The library for \"%@\" can't be read. A sync would remove "
+                                    "from the PSP what you have selected in it.\n\nClick \"Sync "
+                                    "Now\" to sync all the same."),
+                          {why.kind}));
+    case Reason::MuchWouldGo:
+        return say(filled(localized("A sync would remove more than half of \"%@\" from the PSP, "
+                                    "though your selection is the same. Is a disk with your media "
+                                    "missing?\n\nClick \"Sync Now\" to sync all the same."),
+                          {why.kind}));
+    }
+}
+
 void SyncStatus::syncWillStart()
 {
     m_saidFilled = false;

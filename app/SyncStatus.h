@@ -56,6 +56,7 @@ public:
     void pspDidUnmount() override;
     void foundUnformattedMemoryStick() override;
     bool shouldSyncOnMount() override;
+    void syncHeldBack(const HoldBack &why) override;
     void syncWillStart() override;
     void syncWillCleanUp() override;
     void syncNotEnoughFreeSpace(quint64 bytes) override;

@@ -2,7 +2,6 @@
 
 #include "platform/bus/DistributedNotificationCenter.h"
 #include "platform/lists/NumberArchive.h"
-#include "platform/lists/UserDefaults.h"
 #include "sync/StickFiles.h"
 #include "util/Settings.h"
 
@@ -12,7 +11,12 @@ CVSyncManager::CVSyncManager(SyncServices services, ModuleCatalogue catalogue, Q
     : QObject(parent)
     , m_services(std::move(services))
     , m_catalogue(std::move(catalogue))
+    , m_forItself(m_catalogue)
 {
+    connect(&m_forItself, &SyncPreview::isReady, this, [this](bool ready) {
+        if (ready)
+            startPlanned();
+    });
     connect(&m_services.volumes, &Volumes::didMount, this, &CVSyncManager::volumeDidMount);
     connect(&m_services.volumes, &Volumes::willUnmount, this, &CVSyncManager::volumeWillUnmount);
     connect(&m_services.volumes, &Volumes::didUnmount, this, &CVSyncManager::detectPSP);
@@ -32,6 +36,9 @@ QString CVSyncManager::pspVolume() const
 void CVSyncManager::setPSPVolume(const QString &volume)
 {
     const auto identity = VolumeIdentity::of(volume);
+    const bool isAnother = volume != pspVolume() || !isStillThere();
+    if (isAnother)
+        m_forItself.forget();
     const std::scoped_lock lock(m_volumeMutex);
     m_pspVolume = volume;
     m_identity = identity;
@@ -79,8 +86,7 @@ bool CVSyncManager::takeAsPSP(const QString &volume)
 
 void CVSyncManager::readLastSyncSize(const QString &volume)
 {
-    const FileManager &files = FileManager::defaultManager();
-    if (!files.exists(StickFiles::caravelFolder(volume)))
+    if (!files().linkStatus(StickFiles::caravelFolder(volume)).isFolder())
         return;
     const FileResult<quint64> size = NumberArchive::read(StickFiles::lastSyncSize(volume));
     Settings::lastSyncSize.set(size ? std::optional(*size) : std::nullopt);
@@ -91,14 +97,14 @@ void CVSyncManager::setPSPIsMounted(bool mounted)
     if (m_pspIsMounted.exchange(mounted) == mounted)
         return;
     if (!mounted) {
+        m_forItself.forget();
         tell([](CVSyncManagerDelegate &delegate) { delegate.pspDidUnmount(); });
         return;
     }
     tell([volume = pspVolume()](CVSyncManagerDelegate &delegate) { delegate.pspDidMount(volume); });
-    // Preferences that can't be read hold a selection that isn't known: a sync would remove it.
-    if (Settings::syncOnMount() && UserDefaults::standard().isReadable() && pspIsMounted() &&
-        !isFirstSync() && m_delegate->shouldSyncOnMount())
-        sync();
+    if (Settings::syncOnMount() && pspIsMounted() && !isFirstSync() &&
+        m_delegate->shouldSyncOnMount())
+        syncByItself();
 }
 
 bool CVSyncManager::pspIsMounted()
@@ -118,8 +124,7 @@ bool CVSyncManager::isStillThere() const
 
 bool CVSyncManager::isFirstSync()
 {
-    return pspIsMounted() &&
-           !FileManager::defaultManager().exists(StickFiles::caravelFolder(pspVolume()));
+    return pspIsMounted() && !files().linkStatus(StickFiles::caravelFolder(pspVolume())).exists();
 }
 
 void CVSyncManager::volumeDidMount()
@@ -137,8 +142,10 @@ void CVSyncManager::volumeWillUnmount(const QString &path)
         const std::scoped_lock lock(m_volumeMutex);
         isOurs = path == m_pspVolume || path == m_runVolume;
     }
-    if (isOurs)
-        cancelSync();
+    if (!isOurs)
+        return;
+    m_forItself.forget();
+    cancelSync();
 }
 
 // --- Space

@@ -5,6 +5,7 @@
 #include "platform/volumes/VolumeIdentity.h"
 #include "platform/volumes/Volumes.h"
 #include "sync/CVSyncManagerDelegate.h"
+#include "sync/SyncPreview.h"
 #include "sync/SyncRun.h"
 
 #include <QObject>
@@ -76,8 +77,14 @@ public:
     /// What the active run does; null before it is known, and while none is active.
     std::shared_ptr<const SyncPlan> runPlan() const;
 
-    /// Starts a run where canSync(), else does nothing.
+    /// Starts the run that the user asks for where canSync(), else does nothing. What keeps it from
+    /// starting is told by syncHeldBack().
     void sync();
+    /// Has a run started that nobody asked for: it is planned first, and held back where the plan
+    /// would take from the stick what the user may not want to lose.
+    void syncByItself();
+    /// The user has changed a selection, and may have looked at what held a sync back.
+    void userHasLooked() { m_lookedAt = m_heldBackFor; }
     /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any
     /// thread.
     void cancelSync() override;
@@ -104,6 +111,11 @@ private:
     void setPSPIsMounted(bool mounted);
     void volumeDidMount();
     void volumeWillUnmount(const QString &path);
+
+    // What comes before a run
+    bool isHeldBack(const std::optional<HoldBack> &why);
+    void startPlanned();
+    void start();
 
     // The run, on its own thread
     void _sync(const QString &volume, std::optional<VolumeIdentity> identity);
@@ -140,6 +152,11 @@ private:
     QString m_runVolume; // of the active run; empty while there is none
     std::shared_ptr<const SyncPlan> m_runPlan;
     std::optional<VolumeIdentity> m_identity;
+
+    // Main thread
+    SyncPreview m_forItself; // the plan of a run that is to start by itself
+    QString m_heldBackFor;
+    QString m_lookedAt;
 
     bool m_isClosed = false; // under m_runMutex
     std::mutex m_runMutex;   // makes the steps into and out of a run, and into a cancel, one each

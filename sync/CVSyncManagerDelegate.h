@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sync/ErrorInfo.h"
+#include "sync/HoldBack.h"
 #include "sync/RunReport.h"
 
 #include <QString>
@@ -22,6 +23,10 @@ public:
     /// Whether the stick that just mounted is synced by itself. Asked on the manager's calling
     /// thread; must change nothing.
     virtual bool shouldSyncOnMount() = 0;
+
+    /// A sync that was asked for, or would have started by itself, does not start. Nothing else is
+    /// told of it.
+    virtual void syncHeldBack(const HoldBack &why) = 0;
 
     /// First call of a run, before anything of it happens.
     virtual void syncWillStart() = 0;

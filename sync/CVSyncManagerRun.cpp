@@ -9,8 +9,39 @@
 
 void CVSyncManager::sync()
 {
-    if (!pspIsMounted())
+    if (!canSync())
         return;
+    m_forItself.forget();
+    userHasLooked();
+    if (!isHeldBack(HoldBack::of(pspVolume())))
+        start();
+}
+
+void CVSyncManager::syncByItself()
+{
+    if (canSync() && !isHeldBack(HoldBack::of(pspVolume())))
+        m_forItself.request(pspVolume());
+}
+
+void CVSyncManager::startPlanned()
+{
+    const auto plan = m_forItself.plan();
+    m_forItself.forget();
+    if (canSync() && plan->volume == pspVolume() && !isHeldBack(HoldBack::ofAutomatic(*plan)))
+        start();
+}
+
+bool CVSyncManager::isHeldBack(const std::optional<HoldBack> &why)
+{
+    if (!why || (!why->cause.isEmpty() && why->cause == m_lookedAt))
+        return false;
+    m_heldBackFor = why->cause;
+    tell([&why](CVSyncManagerDelegate &delegate) { delegate.syncHeldBack(*why); });
+    return true;
+}
+
+void CVSyncManager::start()
+{
     {
         const std::scoped_lock lock(m_runMutex);
         if (m_isSyncing || m_isClosed)
@@ -36,6 +67,7 @@ void CVSyncManager::sync()
 
 void CVSyncManager::close()
 {
+    m_forItself.forget();
     const std::scoped_lock lock(m_runMutex);
     m_isClosed = true;
 }
@@ -114,6 +146,8 @@ void CVSyncManager::eject()
 
 void CVSyncManager::ejectVolume(const QString &volume)
 {
+    performOnMainThread(
+        this, [this] { m_forItself.forget(); }, CallMode::Wait);
     m_isIndeterminate = true;
     m_pspIsUnmounting = true;
     tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });

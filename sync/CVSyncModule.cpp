@@ -1,6 +1,7 @@
 #include "sync/CVSyncModule.h"
 
 #include "sync/ModuleSelection.h"
+#include "util/QMMD5Hasher.h"
 #include "util/Settings.h"
 
 #include <utility>
@@ -37,6 +38,19 @@ bool CVSyncModule::shouldClearUnsyncedFiles() const
 std::vector<FolderToCleanUp> CVSyncModule::foldersToCleanUp() const
 {
     return {{rootSyncFolder(), !Settings::ownOnly()}};
+}
+
+QVariantMap CVSyncModule::basis() const
+{
+    QStringList selection = m_selected.values();
+    selection.sort();
+    QStringList settings = ownSettings();
+    settings << QString::number(Settings::takesPart(m_saveName))
+             << QString::number(Settings::syncDropboxes())
+             << QString::number(Settings::firmwareVersion());
+    return {{QStringLiteral("selection"), QVariantList(selection.begin(), selection.end())},
+            {QStringLiteral("source"), source()},
+            {QStringLiteral("settings"), QMMD5Hasher::hashFromString(settings.join(u'\n'))}};
 }
 
 std::vector<CVSyncItem> CVSyncModule::itemsToSync()

@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <functional>
 #include <memory>
@@ -55,6 +56,10 @@ public:
     /// such library, or nothing of it is selected.
     const std::optional<FileError> &unreadableLibrary() const { return m_unreadableLibrary; }
 
+    /// What decides which files the module wants: the selection, the library that it is of, and
+    /// the settings. Equal for two runs that differ by what the library holds alone.
+    QVariantMap basis() const;
+
     /// How many levels of folders below its own the PSP shows; nothing: all.
     virtual std::optional<int> shownLevels() const { return std::nullopt; }
 
@@ -65,6 +70,10 @@ public:
     virtual ItemPlacer *placer();
 
 protected:
+    /// Which library the selection is of.
+    virtual qint64 source() const { return 0; }
+    /// Settings of this kind alone that decide names and formats.
+    virtual QStringList ownSettings() const { return {}; }
     QString pspVolume() const { return m_volume; }
     bool isSelected(const QString &identifier) const { return m_selected.contains(identifier); }
     bool isAnythingSelected() const { return !m_selected.isEmpty(); }

@@ -14,8 +14,7 @@ namespace {
 
 bool hasProfiles(const QString &volume)
 {
-    return !volume.isEmpty() &&
-           FileManager::defaultManager().status(StickFiles::caravelFolder(volume)).isFolder();
+    return !volume.isEmpty() && files().linkStatus(StickFiles::caravelFolder(volume)).isFolder();
 }
 
 void storeProfile(const QStringList &identifiers, const QString &profile, const QString &volume)
@@ -38,7 +37,7 @@ bool replaceIn(QStringList &selection, const QString &before, const QString &aft
 
 std::optional<QStringList> read(const QString &moduleSaveName, const QString &volume)
 {
-    if (!volume.isEmpty() && Settings::useSyncProfiles()) {
+    if (Settings::useSyncProfiles() && hasProfiles(volume)) {
         // A profile that can't be read must not count as "nothing selected": that would clear the
         // stick.
         if (auto profile =
@@ -46,6 +45,13 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
             return *profile;
     }
     return Settings::selection(moduleSaveName);
+}
+
+bool hasUnreadableProfile(const QString &moduleSaveName, const QString &volume)
+{
+    const QString profile = StickFiles::selectionProfile(volume, moduleSaveName);
+    return Settings::useSyncProfiles() && hasProfiles(volume) && files().exists(profile) &&
+           !PropertyList::readStringArray(profile);
 }
 
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume)

@@ -14,6 +14,9 @@ namespace ModuleSelection {
 /// is there. Any thread.
 std::optional<QStringList> read(const QString &moduleSaveName, const QString &volume);
 
+/// Whether the stick's own profile counts, is there, and can't be read. Any thread.
+bool hasUnreadableProfile(const QString &moduleSaveName, const QString &volume);
+
 /// Stores the selection in the preferences, and in the volume's profile when the volume has been
 /// synced before. An empty volume path stands for no volume.
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume);

@@ -27,6 +27,11 @@ QString unfinished(const QString &volume)
     return caravelFolder(volume) + QStringLiteral("/Unfinished");
 }
 
+QString lastSelection(const QString &volume)
+{
+    return caravelFolder(volume) + QStringLiteral("/LastSelection.plist");
+}
+
 QString selectionProfile(const QString &volume, const QString &moduleSaveName)
 {
     return caravelFolder(volume) + u'/' + moduleSaveName + QStringLiteral(".plist");

@@ -22,6 +22,9 @@ QString syncIndex(const QString &volume, const QString &moduleSaveName);
 /// first change until its indexes are written.
 QString unfinished(const QString &volume);
 
+/// Per kind's save name, what the last sync was made of: see CVSyncModule::basis().
+QString lastSelection(const QString &volume);
+
 /// List of the identifiers selected for this stick.
 QString selectionProfile(const QString &volume, const QString &moduleSaveName);
 

@@ -6,7 +6,9 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
+#include <optional>
 #include <vector>
 
 /// What becomes of one thing that the selection wants.
@@ -64,6 +66,13 @@ struct KindPlan
     quint64 syncEstimateSize = 0;
     /// Bytes of what is to be copied.
     quint64 syncQueueSize = 0;
+    // What keeps a sync from starting by itself
+    QVariantMap basis;                          ///< what the plan is made of: CVSyncModule::basis()
+    QVariantMap lastBasis;                      ///< the same of the last sync
+    qsizetype lastPlaced = 0;                   ///< files that the last sync placed
+    std::optional<FileError> unreadableLibrary; ///< that the selection needs
+    bool hasUnreadableProfile = false;          ///< the selection on the stick is there in vain
+
     /// Of what is copied or in place, files in deeper folders than the PSP shows.
     unsigned hiddenFiles = 0;
 

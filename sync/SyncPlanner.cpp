@@ -2,6 +2,7 @@
 
 #include "platform/lists/PropertyList.h"
 #include "sync/CVSyncModule.h"
+#include "sync/ModuleSelection.h"
 #include "sync/StickFiles.h"
 #include "util/FileManagerTools.h"
 #include "util/PathComponents.h"
@@ -134,8 +135,17 @@ SyncPlan SyncPlanner::plan(const ModuleList &modules)
     compareLastPlaced(inputs, plan.unfinished);
     if (m_shouldStop())
         return {.isComplete = false};
-    for (KindInput &input : inputs)
-        plan.kinds.push_back(Compare::plan(std::move(input), m_names));
+    const QVariantMap last =
+        PropertyList::readDictionary(StickFiles::lastSelection(m_volume)).valueOr({});
+    for (size_t i = 0; i < inputs.size(); ++i) {
+        const qsizetype lastPlaced = inputs[i].lastIndex ? inputs[i].lastIndex->size() : 0;
+        KindPlan &kind = plan.kinds.emplace_back(Compare::plan(std::move(inputs[i]), m_names));
+        kind.lastPlaced = lastPlaced;
+        kind.lastBasis = last.value(kind.saveName).toMap();
+        kind.basis = modules[i]->basis();
+        kind.unreadableLibrary = modules[i]->unreadableLibrary();
+        kind.hasUnreadableProfile = ModuleSelection::hasUnreadableProfile(kind.saveName, m_volume);
+    }
     return plan;
 }
 

@@ -73,6 +73,7 @@ private:
     void copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringList &index);
     void record(const PlannedItem &planned, const CopyOutcome &outcome);
     void leaveOut(const CVSyncItem &item, PlannedItem::Reason reason);
+    void writeLastSelection();
     QStringList indexOf(const KindPlan &kind) const;
     void write(const QString &path, const QByteArray &contents);
 

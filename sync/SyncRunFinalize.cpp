@@ -11,10 +11,21 @@ void SyncRun::finalize()
     for (const KindPlan &kind : m_plan->kinds)
         write(StickFiles::syncIndex(m_stick.volume(), kind.saveName),
               PropertyList::toXml(indexOf(kind)));
+    if (m_plan->isComplete)
+        writeLastSelection();
     const QString unfinished = StickFiles::unfinished(m_stick.volume());
     if (m_plan->isComplete && m_stick.isPresent() && files().linkStatus(unfinished).exists())
         m_stick.remove(unfinished, nullptr);
     m_host.setIsIndeterminate(false);
+}
+
+void SyncRun::writeLastSelection()
+{
+    const QString path = StickFiles::lastSelection(m_stick.volume());
+    QVariantMap all = PropertyList::readDictionary(path).valueOr({});
+    for (const KindPlan &kind : m_plan->kinds)
+        all.insert(kind.saveName, kind.basis);
+    write(path, PropertyList::toXml(all));
 }
 
 QStringList SyncRun::indexOf(const KindPlan &kind) const

@@ -52,6 +52,7 @@ public:
     static FileResult<QString> defaultFirefoxProfile();
 
 private:
+    qint64 source() const override { return static_cast<qint64>(Settings::bookmarkSource()); }
     static FolderList foldersOf(Settings::BookmarkBrowser browser);
     QByteArray bookmarkLines(const FolderList &folders) const;
 };

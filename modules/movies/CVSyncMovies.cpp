@@ -11,6 +11,11 @@
 #include "util/PathComponents.h"
 #include "util/Settings.h"
 
+#include <QSet>
+
+#include <atomic>
+#include <thread>
+
 namespace {
 
 constexpr int highestId = 99999;
@@ -40,6 +45,9 @@ bool isIdentifier(const QString &text)
 {
     return PathComponents::count(text) == 2;
 }
+
+// Odd while a movie is renamed: library and selection call it differently then.
+std::atomic<unsigned> renaming = 0;
 
 // A movie that waits for its conversion goes by the path of its source.
 bool isMovieIdentifier(const QString &text)
@@ -143,10 +151,12 @@ bool CVSyncMovies::renameMovieWithIdentifier(const QString &identifier, const QS
     if (renamed == identifier)
         return true;
     ErrorLog errors;
-    if (!files().move(folder, libraryRoot() + u'/' + renamed, &errors))
-        return false;
-    ModuleSelection::rename(identifier, renamed, saveName(), forPSP);
-    return true;
+    ++renaming;
+    const bool isMoved = files().move(folder, libraryRoot() + u'/' + renamed, &errors);
+    if (isMoved)
+        ModuleSelection::rename(identifier, renamed, saveName(), forPSP);
+    ++renaming;
+    return isMoved;
 }
 
 // --- The selection and the run
@@ -185,12 +195,24 @@ std::vector<CVSyncItem> CVSyncMovies::itemsToSync()
     return items;
 }
 
+QStringList CVSyncMovies::selectedMovies() const
+{
+    for (;;) {
+        const unsigned before = renaming;
+        const QStringList selected = selectedIdentifiersForPSP(pspVolume()).value_or(QStringList());
+        QStringList movies = availableIdentifiers();
+        movies.removeIf([isSelected = QSet<QString>(selected.begin(), selected.end())](
+                            const QString &movie) { return !isSelected.contains(movie); });
+        if (before % 2 == 0 && before == renaming)
+            return movies;
+        std::this_thread::yield();
+    }
+}
+
 void CVSyncMovies::addLibraryItems(std::vector<CVSyncItem> &items) const
 {
     const QString folder = rootSyncFolder() + QStringLiteral("/100MNV01/");
-    for (const QString &identifier : availableIdentifiers()) {
-        if (!isSelected(identifier))
-            continue;
+    for (const QString &identifier : selectedMovies()) {
         for (const QString &ending : {QStringLiteral(".MP4"), QStringLiteral(".THM")})
             items.emplace_back(fileOf(identifier, ending), folder + idOf(identifier) + ending,
                                titleOf(identifier));

@@ -61,6 +61,9 @@ public:
     std::vector<CVSyncItem> itemsToSync() override;
 
 private:
+    /// Those of the library, by one state of it and of the selection: a movie that is renamed
+    /// meanwhile stays selected.
+    QStringList selectedMovies() const;
     void addLibraryItems(std::vector<CVSyncItem> &items) const;
     void addDropboxItems(std::vector<CVSyncItem> &items) const;
 };

@@ -196,7 +196,7 @@ void MovieQueue::queueRanEmpty()
     m_services.sounds.play(QStringLiteral("ConvertCompleted"));
     CVSyncManager &manager = m_services.manager;
     if (manager.pspIsMounted() && Settings::syncOnMount() && !manager.isFirstSync())
-        manager.sync();
+        manager.syncByItself();
 }
 
 void MovieQueue::startHead()

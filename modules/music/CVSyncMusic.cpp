@@ -95,6 +95,12 @@ bool CVSyncMusic::shouldClearUnsyncedFiles() const
     return true;
 }
 
+QStringList CVSyncMusic::ownSettings() const
+{
+    return {QString::number(static_cast<int>(Settings::organizeMusicBy())),
+            QString::number(static_cast<int>(Settings::sortMusicBy()))};
+}
+
 std::vector<CVSyncItem> CVSyncMusic::itemsToSync()
 {
     std::vector<CVSyncItem> items;

@@ -30,6 +30,7 @@ public:
     std::optional<int> shownLevels() const override { return 1; }
 
 private:
+    QStringList ownSettings() const override;
     void addLibraryItems(std::vector<CVSyncItem> &items);
     void addDropboxItems(std::vector<CVSyncItem> &items) const;
 };

@@ -111,6 +111,11 @@ bool CVSyncPhotos::shouldClearUnsyncedFiles() const
     return true;
 }
 
+QStringList CVSyncPhotos::ownSettings() const
+{
+    return {QString::number(static_cast<int>(Settings::sortPhotosBy()))};
+}
+
 std::vector<CVSyncItem> CVSyncPhotos::itemsToSync()
 {
     std::vector<CVSyncItem> items;

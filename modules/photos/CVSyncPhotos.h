@@ -28,6 +28,7 @@ public:
     std::optional<int> shownLevels() const override { return 1; }
 
 private:
+    QStringList ownSettings() const override;
     void addAlbumItems(std::vector<CVSyncItem> &items);
     void addAlbum(const PhotoLibrary &library, const PhotoLibrary::Album &album,
                   std::vector<CVSyncItem> &items) const;

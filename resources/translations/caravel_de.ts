@@ -358,5 +358,53 @@ You must re-sync to ensure the PSP is up to date.</source>
 
 Sie müssen erneut synchronisieren, damit die PSP auf dem neuesten Stand ist.</translation>
     </message>
+    <message>
+        <source>The sync was not started!</source>
+        <translation>Die Synchronisierung wurde nicht gestartet!</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be read, so it is not known what you have selected.</source>
+        <translation>Die Einstellungen können nicht gelesen werden, daher ist nicht bekannt, was Sie ausgewählt haben.</translation>
+    </message>
+    <message>
+        <source>The preferences were damaged and had to be set aside, your selection with them.
+
+Please select your media anew, then sync.</source>
+        <translation>Die Einstellungen waren beschädigt und mussten beiseitegelegt werden, und Ihre Auswahl mit ihnen.
+
+Bitte wählen Sie Ihre Medien neu aus und synchronisieren Sie dann.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;.caravel&quot; on the Memory Stick is a link, and no link is followed there.
+
+Please remove it, then sync.</source>
+        <translation>Der Ordner „.caravel“ auf dem Memory Stick ist eine Verknüpfung, und dort wird keiner Verknüpfung gefolgt.
+
+Bitte entfernen Sie sie und synchronisieren Sie dann.</translation>
+    </message>
+    <message>
+        <source>The selection that is kept on the Memory Stick can&apos;t be read.
+
+Please look at your selection, then click &quot;Sync Now&quot;.</source>
+        <translation>Die Auswahl, die auf dem Memory Stick gespeichert ist, kann nicht gelesen werden.
+
+Bitte prüfen Sie Ihre Auswahl und klicken Sie dann auf „Jetzt synchronisieren“.</translation>
+    </message>
+    <message>
+        <source>The library for &quot;%@&quot; can&apos;t be read. A sync would remove from the PSP what you have selected in it.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>Die Bibliothek für „%@“ kann nicht gelesen werden. Eine Synchronisierung würde von der PSP entfernen, was Sie darin ausgewählt haben.
+
+Klicken Sie auf „Jetzt synchronisieren“, um trotzdem zu synchronisieren.</translation>
+    </message>
+    <message>
+        <source>A sync would remove more than half of &quot;%@&quot; from the PSP, though your selection is the same. Is a disk with your media missing?
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>Eine Synchronisierung würde mehr als die Hälfte von „%@“ von der PSP entfernen, obwohl Ihre Auswahl dieselbe ist. Fehlt ein Datenträger mit Ihren Medien?
+
+Klicken Sie auf „Jetzt synchronisieren“, um trotzdem zu synchronisieren.</translation>
+    </message>
 </context>
 </TS>

@@ -358,5 +358,53 @@ You must re-sync to ensure the PSP is up to date.</source>
 
 Debe sincronizar de nuevo para que la PSP esté actualizada.</translation>
     </message>
+    <message>
+        <source>The sync was not started!</source>
+        <translation>¡La sincronización no se inició!</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be read, so it is not known what you have selected.</source>
+        <translation>No se pueden leer las preferencias, por lo que no se sabe qué ha seleccionado.</translation>
+    </message>
+    <message>
+        <source>The preferences were damaged and had to be set aside, your selection with them.
+
+Please select your media anew, then sync.</source>
+        <translation>Las preferencias estaban dañadas y hubo que apartarlas, y su selección con ellas.
+
+Seleccione de nuevo sus medios y luego sincronice.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;.caravel&quot; on the Memory Stick is a link, and no link is followed there.
+
+Please remove it, then sync.</source>
+        <translation>La carpeta «.caravel» del Memory Stick es un enlace, y allí no se sigue ningún enlace.
+
+Elimínelo y luego sincronice.</translation>
+    </message>
+    <message>
+        <source>The selection that is kept on the Memory Stick can&apos;t be read.
+
+Please look at your selection, then click &quot;Sync Now&quot;.</source>
+        <translation>No se puede leer la selección guardada en el Memory Stick.
+
+Revise su selección y luego haga clic en «Sincronizar ahora».</translation>
+    </message>
+    <message>
+        <source>The library for &quot;%@&quot; can&apos;t be read. A sync would remove from the PSP what you have selected in it.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>No se puede leer la biblioteca de «%@». Una sincronización eliminaría de la PSP lo que ha seleccionado en ella.
+
+Haga clic en «Sincronizar ahora» para sincronizar de todos modos.</translation>
+    </message>
+    <message>
+        <source>A sync would remove more than half of &quot;%@&quot; from the PSP, though your selection is the same. Is a disk with your media missing?
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>Una sincronización eliminaría de la PSP más de la mitad de «%@», aunque su selección es la misma. ¿Falta un disco con sus medios?
+
+Haga clic en «Sincronizar ahora» para sincronizar de todos modos.</translation>
+    </message>
 </context>
 </TS>

@@ -358,5 +358,53 @@ You must re-sync to ensure the PSP is up to date.</source>
 
 Vous devez relancer la synchronisation pour que la PSP soit à jour.</translation>
     </message>
+    <message>
+        <source>The sync was not started!</source>
+        <translation>La synchronisation n’a pas été lancée !</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be read, so it is not known what you have selected.</source>
+        <translation>Les préférences ne peuvent pas être lues : votre sélection n’est donc pas connue.</translation>
+    </message>
+    <message>
+        <source>The preferences were damaged and had to be set aside, your selection with them.
+
+Please select your media anew, then sync.</source>
+        <translation>Les préférences étaient endommagées et ont dû être mises de côté, et votre sélection avec elles.
+
+Veuillez sélectionner à nouveau vos médias, puis synchroniser.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;.caravel&quot; on the Memory Stick is a link, and no link is followed there.
+
+Please remove it, then sync.</source>
+        <translation>Le dossier « .caravel » du Memory Stick est un lien, et aucun lien n’y est suivi.
+
+Veuillez le supprimer, puis synchroniser.</translation>
+    </message>
+    <message>
+        <source>The selection that is kept on the Memory Stick can&apos;t be read.
+
+Please look at your selection, then click &quot;Sync Now&quot;.</source>
+        <translation>La sélection enregistrée sur le Memory Stick ne peut pas être lue.
+
+Veuillez vérifier votre sélection, puis cliquer sur « Synchroniser maintenant ».</translation>
+    </message>
+    <message>
+        <source>The library for &quot;%@&quot; can&apos;t be read. A sync would remove from the PSP what you have selected in it.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>La bibliothèque de « %@ » ne peut pas être lue. Une synchronisation supprimerait de la PSP ce que vous y avez sélectionné.
+
+Cliquez sur « Synchroniser maintenant » pour synchroniser quand même.</translation>
+    </message>
+    <message>
+        <source>A sync would remove more than half of &quot;%@&quot; from the PSP, though your selection is the same. Is a disk with your media missing?
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>Une synchronisation supprimerait de la PSP plus de la moitié de « %@ », alors que votre sélection est la même. Un disque contenant vos médias manque-t-il ?
+
+Cliquez sur « Synchroniser maintenant » pour synchroniser quand même.</translation>
+    </message>
 </context>
 </TS>

@@ -358,5 +358,53 @@ You must re-sync to ensure the PSP is up to date.</source>
 
 PSP を最新の状態にするには、もう一度同期してください。</translation>
     </message>
+    <message>
+        <source>The sync was not started!</source>
+        <translation>同期は開始されませんでした！</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be read, so it is not known what you have selected.</source>
+        <translation>環境設定を読み込めないため、選択した内容がわかりません。</translation>
+    </message>
+    <message>
+        <source>The preferences were damaged and had to be set aside, your selection with them.
+
+Please select your media anew, then sync.</source>
+        <translation>環境設定が壊れていたため、選択した内容とともに別の場所に移されました。
+
+メディアを選択し直してから、同期してください。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;.caravel&quot; on the Memory Stick is a link, and no link is followed there.
+
+Please remove it, then sync.</source>
+        <translation>メモリースティックの「.caravel」フォルダはリンクです。メモリースティック上のリンクはたどりません。
+
+リンクを削除してから、同期してください。</translation>
+    </message>
+    <message>
+        <source>The selection that is kept on the Memory Stick can&apos;t be read.
+
+Please look at your selection, then click &quot;Sync Now&quot;.</source>
+        <translation>メモリースティックに保存されている選択内容を読み込めません。
+
+選択内容を確認してから、「今すぐ同期」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>The library for &quot;%@&quot; can&apos;t be read. A sync would remove from the PSP what you have selected in it.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>「%@」のライブラリを読み込めません。同期すると、そこで選択したものが PSP から削除されます。
+
+それでも同期するには、「今すぐ同期」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>A sync would remove more than half of &quot;%@&quot; from the PSP, though your selection is the same. Is a disk with your media missing?
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>選択内容は同じですが、同期すると「%@」の半分以上が PSP から削除されます。メディアの入ったディスクが接続されていますか？
+
+それでも同期するには、「今すぐ同期」をクリックしてください。</translation>
+    </message>
 </context>
 </TS>

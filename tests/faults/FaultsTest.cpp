@@ -63,6 +63,7 @@ constexpr std::pair<const char *, const char *> written[] = {
     {"volumes/STICK/Caravel/Contacts/0cc175b9c0f1b6a831c399e269772661.JPG", "JFIF"},
     {"volumes/STICK/.caravel/LastSyncSize", "streamtyped"},
     {"volumes/STICK/.caravel/BackupSyncIndex.plist", "</plist>"},
+    {"volumes/STICK/.caravel/LastSelection.plist", "<key>Contacts</key>"},
     {"volumes/STICK/.caravel/BookmarksSyncIndex.plist", ">/PSP/SYSTEM/BROWSER/bookmarks.html<"},
     {"volumes/STICK/.caravel/ContactsSyncIndex.plist", ">/Caravel/Contacts/index.html<"},
     {"volumes/STICK/.caravel/MoviesSyncIndex.plist", ">/MP_ROOT/100MNV01/M4V00001.THM<"},

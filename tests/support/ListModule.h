@@ -16,6 +16,7 @@ public:
         QString folder; ///< of the module, below the volume
         bool clears = true;
         QString name = u"Test"_s;
+        std::optional<FileError> unreadable = {}; ///< the library
     };
 
     ListModule(const QString &volume, const QString &saveName, const Wishes &wishes)
@@ -34,7 +35,12 @@ public:
     QString moduleName() const override { return m_wishes.name; }
     QString rootSyncFolder() const override { return pspVolume() + m_wishes.folder; }
     bool shouldClearUnsyncedFiles() const override { return m_wishes.clears; }
-    std::vector<CVSyncItem> itemsToSync() override { return m_wishes.items(); }
+    std::vector<CVSyncItem> itemsToSync() override
+    {
+        if (m_wishes.unreadable)
+            noteUnreadableLibrary(*m_wishes.unreadable);
+        return m_wishes.items();
+    }
 
 private:
     const Wishes &m_wishes;

@@ -88,6 +88,10 @@ public:
     void pspDidUnmount() override { note(u"pspDidUnmount"_s); }
     void foundUnformattedMemoryStick() override { note(u"foundUnformattedMemoryStick"_s); }
     bool shouldSyncOnMount() override { return true; }
+    void syncHeldBack(const HoldBack &why) override
+    {
+        note(u"syncHeldBack %1 %2"_s.arg(static_cast<int>(why.reason)).arg(why.kind));
+    }
     void syncWillStart() override { note(u"syncWillStart"_s); }
     void syncWillCleanUp() override { note(u"syncWillCleanUp"_s); }
     void syncNotEnoughFreeSpace(quint64 n) override { note(u"syncNotEnoughFreeSpace %1"_s.arg(n)); }

@@ -111,6 +111,8 @@ TEST(SyncOnMount, WaitsWhileThePreferencesCannotBeRead)
     const SystemLogCapture log;
     harness.defaults.synchronize();
     harness.volumes.mount(harness.stick());
+    harness.manager.sync();
+    EXPECT_EQ(harness.delegate.count(u"syncHeldBack 0 "_s), 2);
     EXPECT_EQ(harness.delegate.count(u"syncWillStart"_s), 0);
 
     harness.volumes.unmount(harness.stick());
@@ -119,6 +121,81 @@ TEST(SyncOnMount, WaitsWhileThePreferencesCannotBeRead)
     harness.volumes.mount(harness.stick());
     harness.finishRun();
     EXPECT_EQ(harness.delegate.count(u"syncWillStart"_s), 1);
+
+    writeFile(preferences, "garbage");
+    harness.defaults.synchronize();
+    harness.manager.sync();
+    EXPECT_EQ(harness.delegate.events.last(), u"syncHeldBack 1 "_s) << "they were set aside";
+    Settings::setSelection(u"Music"_s, {});
+    EXPECT_TRUE(harness.run());
+}
+
+TEST(SyncOnMount, IsHeldBackWhereTheUserMayLoseWhatIsWanted)
+{
+    ListHarness harness;
+    const SystemLogCapture log;
+    for (int i = 0; i < 20; ++i)
+        harness.want(QString::number(i), "contents");
+    const QStringList all = harness.wanted;
+    harness.mountStick();
+    const auto placeAll = [&] {
+        harness.wanted = all;
+        EXPECT_TRUE(harness.run());
+    };
+    const auto remount = [&] {
+        harness.volumes.unmount(harness.stick());
+        harness.delegate.events.clear();
+        Settings::syncOnMount.set(true);
+        harness.volumes.mount(harness.stick());
+        EXPECT_TRUE(waitFor([&] { return harness.delegate.events.size() > 1; }));
+        SyncHarness::settle();
+        return harness.delegate.events.value(1).toStdString();
+    };
+    placeAll();
+    harness.wanted = all.first(10);
+    EXPECT_EQ(remount(), "syncWillStart") << "half of it may go";
+    harness.wanted.clear();
+    EXPECT_EQ(remount(), "syncHeldBack 5 Music");
+    EXPECT_EQ(harness.delegate.events.size(), 2) << "nothing else is told";
+    Settings::setSelection(u"Music"_s, {u"Another"_s});
+    EXPECT_EQ(remount(), "syncWillStart") << "the user has chosen anew";
+    EXPECT_EQ(harness.placed(), "");
+    placeAll();
+    harness.wanted = all.first(9);
+    EXPECT_EQ(remount(), "syncHeldBack 5 Music");
+    Settings::syncDropboxes.set(false);
+    EXPECT_EQ(remount(), "syncWillStart") << "another setting";
+    EXPECT_EQ(harness.delegate.report.removed, 11U);
+    harness.wanted.clear();
+    EXPECT_EQ(remount(), "syncWillStart") << "nine are few";
+    placeAll();
+    harness.wanted.clear();
+    EXPECT_TRUE(harness.run()) << "by hand";
+
+    harness.wishes.unreadable = FileError::of(FileError::Operation::Parse, u"/library"_s, 0);
+    EXPECT_EQ(remount(), "syncHeldBack 4 Music");
+    EXPECT_EQ(remount(), "syncHeldBack 4 Music");
+    harness.manager.userHasLooked();
+    EXPECT_EQ(remount(), "syncWillStart");
+    harness.wishes.unreadable.reset();
+
+    Settings::useSyncProfiles.set(true);
+    writeFile(harness.stick(u".caravel/Music.plist"_s), "garbage");
+    EXPECT_EQ(remount(), "syncHeldBack 3 ");
+    Settings::useSyncProfiles.set(false);
+
+    harness.wishes.items = [&] {
+        performOnMainThread(
+            nullptr, [&] { harness.volumes.unmount(harness.stick()); }, CallMode::Wait);
+        return std::vector<CVSyncItem>();
+    };
+    EXPECT_EQ(remount(), "pspDidUnmount") << "while it was planned";
+
+    ASSERT_TRUE(QDir().rename(harness.stick(u".caravel"_s), harness.home(u"mine"_s)));
+    ASSERT_TRUE(QFile::link(harness.home(u"mine"_s), harness.stick(u".caravel"_s)));
+    EXPECT_EQ(remount(), "syncHeldBack 2 ");
+    harness.manager.sync();
+    EXPECT_EQ(harness.delegate.count(u"syncHeldBack 2 "_s), 2);
 }
 
 TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)

@@ -51,7 +51,8 @@ struct World
     std::set<QString> links; ///< of the stick's files; they lead to the user's own
     std::vector<Wish> wishes;
     std::optional<std::set<QString>> index;
-    QStringList plan; ///< of the last run: "copy A/x.mp3"
+    std::set<QString> unfinished; ///< what an interrupted run was to place
+    QStringList plan;             ///< of the last run: "copy A/x.mp3"
     int processed = 0;
 
     QString key(QString place) const
@@ -64,10 +65,14 @@ struct World
         static const QRegularExpression unheld(u"[?:]|\\.(?=\\.*(/|$))"_s);
         return isFat ? place.replace(unheld, u"_"_s) : place;
     }
+    bool isListed(const QString &place, const std::set<QString> &places) const
+    {
+        return std::ranges::any_of(places,
+                                   [&](const QString &entry) { return key(entry) == key(place); });
+    }
     bool isOwn(const QString &place) const
     {
-        return index && std::ranges::any_of(
-                            *index, [&](const QString &entry) { return key(entry) == key(place); });
+        return (index && isListed(place, *index)) || isListed(place, unfinished);
     }
     bool isBehindALink(const QString &place) const
     {
@@ -117,7 +122,8 @@ std::vector<Wish> prepare(World &world, std::set<QString> &index)
             say("leaveOut");
             continue;
         }
-        if (there != world.stick.end() && there->second.size() == wish.contents->size()) {
+        if (there != world.stick.end() && there->second.size() == wish.contents->size() &&
+            (there->second == *wish.contents || !world.isListed(wish.place, world.unfinished))) {
             index.insert(wish.place);
             say("inPlace");
             continue;
@@ -172,6 +178,7 @@ World afterRun(World world)
     }
     std::erase_if(world.links, [&](const QString &link) { return !world.stick.contains(link); });
     world.index = index;
+    world.unfinished.clear();
     world.processed = static_cast<int>(queue.size());
     world.plan.sort();
     return world;
@@ -221,9 +228,12 @@ World roll(unsigned seed)
     }
     if (!once(3))
         world.index = {u"vanished"_s, u"R.E.M./y"_s};
+    const bool isInterrupted = once(3); // fewer wishes than are compared by their contents
     for (const auto &[path, contents] : world.stick) {
         if (world.index && once(2))
             world.index->insert(path);
+        else if (isInterrupted && once(2))
+            world.unfinished.insert(path);
     }
     return world;
 }
@@ -290,11 +300,17 @@ private:
             else if (!path.endsWith(u'/'))
                 put(path, contents);
         }
-        QVariantList entries;
-        for (const QString &path : m_world.index.value_or(std::set<QString>()))
-            entries.append(u"/PSP/MUSIC/"_s + path);
         if (m_world.index)
-            writeFile(stick(u".caravel/MusicSyncIndex.plist"_s), PropertyList::toXml(entries));
+            writeFile(stick(u".caravel/MusicSyncIndex.plist"_s), listed(*m_world.index));
+        if (!m_world.unfinished.empty())
+            writeFile(stick(u".caravel/Unfinished"_s), listed(m_world.unfinished));
+    }
+    static QByteArray listed(const std::set<QString> &places)
+    {
+        QVariantList entries;
+        for (const QString &place : places)
+            entries.append(u"/PSP/MUSIC/"_s + place);
+        return PropertyList::toXml(entries);
     }
     Files onStick() const
     {

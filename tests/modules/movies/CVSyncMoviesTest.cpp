@@ -116,7 +116,9 @@ TEST_F(CVSyncMoviesTest, RenamesWithTheSelections)
         EXPECT_FALSE(CVSyncMovies::renameMovieWithIdentifier(identifier, bad, harness.stick()));
     EXPECT_FALSE(CVSyncMovies::renameMovieWithIdentifier(u"M4V00001/None"_s, u"New"_s, {}));
     EXPECT_EQ(log.lines().size(), 5);
+    CVSyncMovies preparing(harness.stick());
     EXPECT_TRUE(CVSyncMovies::renameMovieWithIdentifier(identifier, u"New"_s, harness.stick()));
+    EXPECT_EQ(preparing.itemsToSync().size(), 2U) << "it is still selected";
     EXPECT_EQ(CVSyncMovies::availableIdentifiers(), list("M4V00001/New"));
     EXPECT_EQ(CVSyncMovies::selectedIdentifiersForPSP({}), list("other M4V00001/New"));
     Settings::useSyncProfiles.set(true);
