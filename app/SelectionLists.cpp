@@ -18,6 +18,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -73,6 +74,12 @@ QString shownTitle(const QString &title)
 QSet<QString> toSet(const std::optional<QStringList> &selection)
 {
     return selection ? QSet<QString>(selection->begin(), selection->end()) : QSet<QString>();
+}
+
+void refuse(const QString &identifier, const QString &saveName)
+{
+    qCWarning(lcApp).noquote().nospace()
+        << "No identifier: \"" << identifier << "\" (" << saveName << ')';
 }
 
 // What has no name is shown, and can't be selected.
@@ -155,13 +162,15 @@ void SelectionLists::setSelected(const QString &saveName, const QStringList &ide
     if (kind == m_catalogue.end() || !kind->setSelectedIdentifiers)
         return;
     // What comes over the bus may name anything.
-    const auto bad = std::find_if_not(identifiers.begin(), identifiers.end(), kind->isIdentifier);
-    if (bad != identifiers.end()) {
-        qCWarning(lcApp).noquote().nospace()
-            << "A selection was refused for its identifier \"" << *bad << "\" (" << saveName << ')';
-        return;
-    }
-    kind->setSelectedIdentifiers(identifiers, m_manager.pspVolume());
+    const auto isTaken = [&](const QString &identifier) {
+        const bool isGood = !kind->isIdentifier || kind->isIdentifier(identifier);
+        if (!isGood)
+            refuse(identifier, saveName);
+        return isGood;
+    };
+    QStringList taken;
+    std::ranges::copy_if(identifiers, std::back_inserter(taken), isTaken);
+    kind->setSelectedIdentifiers(taken, m_manager.pspVolume());
     m_manager.userHasLooked();
 }
 
@@ -229,6 +238,8 @@ QVariantList SelectionLists::backupItems() const
 
 QVariantList SelectionLists::backupSubItemsForIdentifier(const QString &identifier) const
 {
+    if (PathComponents::count(identifier) != 1)
+        refuse(identifier, CVSyncBackup::saveName());
     QVariantList rows;
     for (const QString &name : CVSyncBackup::availableSubIdentifiersForIdentifier(identifier)) {
         if (name == u".DS_Store")

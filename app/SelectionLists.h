@@ -9,8 +9,8 @@ class Clock;
 class CVSyncManager;
 
 /// The lists that the front-end offers for selection, and the selections it sends back. A list is
-/// read anew at each call. A selection with an identifier that could name a place outside of ours
-/// is refused whole, with a line in the system log. Main thread.
+/// read anew at each call. Of a selection, an identifier that could name a place outside of ours is
+/// left out, with a line in the system log. Main thread.
 class SelectionLists
 {
 public:

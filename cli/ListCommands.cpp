@@ -3,6 +3,7 @@
 #include "cli/Output.h"
 #include "cli/Session.h"
 #include "frontend/Rows.h"
+#include "platform/lists/UserDefaults.h"
 #include "protocol/Protocol.h"
 #include "util/Settings.h"
 
@@ -80,6 +81,11 @@ QSet<QString> identifiersNamed(const QVariantList &rows, const QString &name)
             named.insert(text(row, u"identifier"));
     }
     return named;
+}
+
+QSet<QString> toSet(const QStringList &identifiers)
+{
+    return {identifiers.begin(), identifiers.end()};
 }
 
 bool isWanted(SelectMode mode, bool isNow, bool isNamed)
@@ -163,11 +169,21 @@ ExitStatus runSelect(const QString &kindName, SelectMode mode, const QStringList
     const Selection selection = changedSelection(rows, currentSelection(list, rows), mode, names);
     if (!selection.unknown.isEmpty())
         return refuseNames(kindName, selection.unknown);
+    if (mode == SelectMode::All && rows.isEmpty()) {
+        Output::error(
+            QStringLiteral("nothing among the %1 to select (nothing was changed)").arg(kindName));
+        return Refused;
+    }
     helper.tell(list.select, {selection.identifiers});
     // Asked after the change, and served after it.
     const QVariantList now = helper.ask(list.items).toList();
     if (helper.failed())
         return session.report();
-    printRows(now, list.rowsTellSelection ? currentSelection(list, now) : selection.identifiers);
-    return Done;
+    UserDefaults::standard().synchronize();
+    const QStringList selected = currentSelection(list, now);
+    printRows(now, selected);
+    if (toSet(selected) == toSet(selection.identifiers))
+        return Done;
+    Output::error(QStringLiteral("the selection was not taken as it was asked for"));
+    return Refused;
 }

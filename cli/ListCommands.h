@@ -16,8 +16,8 @@ ExitStatus runList(const QString &kind, bool json);
 
 enum class SelectMode { Replace, Add, Remove, All, None };
 
-/// `caravel select KIND`: changes the selection as a whole or, where a name is in no row, not at
-/// all.
+/// `caravel select KIND`: changes the selection as a whole or, where a name is in no row or there
+/// is nothing to select, not at all; reads back what became of it.
 ExitStatus runSelect(const QString &kind, SelectMode mode, const QStringList &names);
 
 /// What a change of selection comes to.

@@ -14,13 +14,34 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
+
+// The words that were given, last first. The parser would take one in brackets for a list of its
+// own; what no word can end in keeps it from that.
+std::vector<std::string> guardedWords(int argc, char **argv)
+{
+    std::vector<std::string> words(std::reverse_iterator(argv + argc),
+                                   std::reverse_iterator(argv + std::min(argc, 1)));
+    for (std::string &word : words) {
+        if (word.starts_with('[') && word.ends_with(']'))
+            word.push_back('\0');
+    }
+    return words;
+}
+
+QString toText(const std::string &guarded)
+{
+    return QString::fromLocal8Bit(guarded.c_str());
+}
 
 QStringList toTexts(const std::vector<std::string> &words)
 {
     QStringList texts;
     for (const std::string &word : words)
-        texts.append(QString::fromLocal8Bit(word));
+        texts.append(toText(word));
     return texts;
 }
 
@@ -191,12 +212,10 @@ void CommandLine::addMovies()
         [this] { return runAddMovies(toTexts(m_arguments.words)); })
         ->add_option("FILE", m_arguments.words, "Movies")
         ->required();
-    CLI::App *remove = add(movies, "remove", "Remove a movie, or take it out of the queue", [this] {
-        return runRemoveMovie(QString::fromLocal8Bit(m_arguments.id));
-    });
+    CLI::App *remove = add(movies, "remove", "Remove a movie, or take it out of the queue",
+                           [this] { return runRemoveMovie(toText(m_arguments.id)); });
     CLI::App *rename = add(movies, "rename", "Give a movie another title", [this] {
-        return runRenameMovie(QString::fromLocal8Bit(m_arguments.id),
-                              QString::fromLocal8Bit(m_arguments.title));
+        return runRenameMovie(toText(m_arguments.id), toText(m_arguments.title));
     });
     for (CLI::App *command : {remove, rename})
         command->add_option("ID", m_arguments.id, "Identifier, or a name that only one movie has")
@@ -212,18 +231,17 @@ void CommandLine::addSaves()
                 Output::error(QStringLiteral("name a game save, see caravel list saves"));
                 return BadUsage;
             }
-            return runSaves(QString::fromLocal8Bit(m_arguments.id), m_arguments.json);
+            return runSaves(toText(m_arguments.id), m_arguments.json);
         });
     saves->add_option("SAVE", m_arguments.id, "Identifier, or a name that only one save has");
     saves->require_subcommand(0, 1);
     CLI::App *restore =
         add(*saves, "restore", "Put a backup back on the PSP; what is there is kept as a backup",
-            [this] { return runRestoreSave(QString::fromLocal8Bit(m_arguments.id)); });
+            [this] { return runRestoreSave(toText(m_arguments.id)); });
     restore->add_option("ID", m_arguments.id, "Identifier of the backup")->required();
     CLI::App *remove =
-        add(*saves, "delete", "Move a backup, or all of a save, to the Trash", [this] {
-            return runDeleteSave(QString::fromLocal8Bit(m_arguments.id), m_arguments.yes);
-        });
+        add(*saves, "delete", "Move a backup, or all of a save, to the Trash",
+            [this] { return runDeleteSave(toText(m_arguments.id), m_arguments.yes); });
     remove->add_option("ID", m_arguments.id, "Identifier of the backup or of the save")->required();
     remove->add_flag("--yes", m_arguments.yes, "Don't ask");
 }
@@ -260,7 +278,7 @@ ExitStatus CommandLine::select() const
 int CommandLine::run(int argc, char **argv)
 {
     try {
-        m_app.parse(argc, argv);
+        m_app.parse(guardedWords(argc, argv));
     } catch (const CLI::ParseError &error) {
         return m_app.exit(error) == 0 ? Done : BadUsage;
     }

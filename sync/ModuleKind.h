@@ -24,7 +24,8 @@ struct ModuleKind
     /// Stores what the user selected, for the stick mounted there too; null: nothing of it can be
     /// selected. Main thread.
     void (*setSelectedIdentifiers)(const QStringList &identifiers, const QString &forPSP) = nullptr;
-    /// Whether a text that came from elsewhere may be an identifier; null where none is asked for.
+    /// Whether a text that came from elsewhere may be an identifier, where that leads to files of
+    /// ours; null where any may.
     bool (*isIdentifier)(const QString &text) = nullptr;
 };
 

@@ -55,8 +55,7 @@ ModuleKind CVSyncBookmarks::kind()
     return {.saveName = saveName(),
             .make = [](const QString &volume) { return std::make_unique<CVSyncBookmarks>(volume); },
             .takesPart = [] { return Settings::firmwareVersion() > 0; },
-            .setSelectedIdentifiers = setSelectedIdentifiers,
-            .isIdentifier = ModuleSelection::isIdentifier};
+            .setSelectedIdentifiers = setSelectedIdentifiers};
 }
 
 QString CVSyncBookmarks::saveName()

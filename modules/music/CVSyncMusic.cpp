@@ -52,8 +52,7 @@ ModuleKind CVSyncMusic::kind()
     return {.saveName = saveName(),
             .make = [](const QString &volume) { return std::make_unique<CVSyncMusic>(volume); },
             .hasDropbox = true,
-            .setSelectedIdentifiers = setSelectedIdentifiers,
-            .isIdentifier = ModuleSelection::isIdentifier};
+            .setSelectedIdentifiers = setSelectedIdentifiers};
 }
 
 QString CVSyncMusic::saveName()

@@ -68,8 +68,7 @@ ModuleKind CVSyncPhotos::kind()
     return {.saveName = saveName(),
             .make = [](const QString &volume) { return std::make_unique<CVSyncPhotos>(volume); },
             .hasDropbox = true,
-            .setSelectedIdentifiers = setSelectedIdentifiers,
-            .isIdentifier = ModuleSelection::isIdentifier};
+            .setSelectedIdentifiers = setSelectedIdentifiers};
 }
 
 QString CVSyncPhotos::saveName()
