@@ -6,11 +6,13 @@
 #include "platform/bus/NamedConnection.h"
 #include "platform/lists/UserDefaults.h"
 #include "protocol/Protocol.h"
+#include "util/Folders.h"
 #include "util/Settings.h"
 
 #include <QLocale>
 
 #include <algorithm>
+#include <limits>
 
 using namespace std::chrono_literals;
 
@@ -93,16 +95,53 @@ void tellOthers(const QString &name)
     NamedConnection::flush();
 }
 
-QString expected(const QVariant &defaultValue)
+QString expected(const Settings::Key &key)
 {
-    switch (defaultValue.typeId()) {
+    switch (key.defaultValue.typeId()) {
     case QMetaType::Bool:
         return QStringLiteral("yes or no");
+    case QMetaType::Int:
+        if (key.range.most < std::numeric_limits<int>::max())
+            return QStringLiteral("a whole number from %1 to %2")
+                .arg(key.range.least)
+                .arg(key.range.most);
+        [[fallthrough]];
     case QMetaType::ULongLong:
         return QStringLiteral("a whole number from 0");
     default:
-        return QStringLiteral("a whole number");
+        return QStringLiteral("a full path, or one that begins with \"~/\"");
     }
+}
+
+std::optional<QVariant> boolIn(const QString &text)
+{
+    static const QStringList yes = {QStringLiteral("yes"), QStringLiteral("true"),
+                                    QStringLiteral("on"), QStringLiteral("1")};
+    static const QStringList no = {QStringLiteral("no"), QStringLiteral("false"),
+                                   QStringLiteral("off"), QStringLiteral("0")};
+    const bool isYes = yes.contains(text.toLower());
+    return isYes || no.contains(text.toLower()) ? std::optional<QVariant>(isYes) : std::nullopt;
+}
+
+// The text as a value of the preference's type and range; nothing for what is none.
+std::optional<QVariant> valueIn(const QString &text, const Settings::Key &key)
+{
+    bool ok = true;
+    QVariant value = text;
+    switch (key.defaultValue.typeId()) {
+    case QMetaType::Bool:
+        return boolIn(text);
+    case QMetaType::Int:
+        value = text.toInt(&ok);
+        ok = ok && value.toInt() >= key.range.least && value.toInt() <= key.range.most;
+        break;
+    case QMetaType::ULongLong:
+        value = text.toULongLong(&ok);
+        break;
+    default:
+        ok = key.name != Settings::caravelFolder.name || Folders::isPlace(text);
+    }
+    return ok ? std::optional(value) : std::nullopt;
 }
 
 ExitStatus setOne(const QString &name, const QString &text)
@@ -112,10 +151,9 @@ ExitStatus setOne(const QString &name, const QString &text)
         Output::error(QStringLiteral("%1 is kept by the helper and can't be set").arg(name));
         return Refused;
     }
-    const std::optional<QVariant> value = parsePreference(text, key->defaultValue);
+    const std::optional<QVariant> value = valueIn(text, *key);
     if (!value) {
-        Output::error(
-            QStringLiteral("%1 takes %2, not \"%3\"").arg(name, expected(key->defaultValue), text));
+        Output::error(QStringLiteral("%1 takes %2, not \"%3\"").arg(name, expected(*key), text));
         return BadUsage;
     }
     UserDefaults &store = UserDefaults::standard();
@@ -129,31 +167,6 @@ ExitStatus setOne(const QString &name, const QString &text)
 }
 
 } // namespace
-
-std::optional<QVariant> parsePreference(const QString &text, const QVariant &defaultValue)
-{
-    static const QStringList yes = {QStringLiteral("yes"), QStringLiteral("true"),
-                                    QStringLiteral("on"), QStringLiteral("1")};
-    static const QStringList no = {QStringLiteral("no"), QStringLiteral("false"),
-                                   QStringLiteral("off"), QStringLiteral("0")};
-    bool ok = true;
-    QVariant value = text;
-    switch (defaultValue.typeId()) {
-    case QMetaType::Bool:
-        value = yes.contains(text.toLower());
-        ok = value.toBool() || no.contains(text.toLower());
-        break;
-    case QMetaType::Int:
-        value = text.toInt(&ok);
-        break;
-    case QMetaType::ULongLong:
-        value = text.toULongLong(&ok);
-        break;
-    default:
-        break;
-    }
-    return ok ? std::optional(value) : std::nullopt;
-}
 
 ExitStatus runPrefs(const QStringList &keyAndValue, bool json)
 {

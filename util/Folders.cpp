@@ -5,12 +5,16 @@
 
 namespace Folders {
 
+bool isPlace(const QString &setting)
+{
+    return setting.startsWith(u'/') || setting == u"~" || setting.startsWith(u"~/");
+}
+
 QString documents()
 {
-    QString parent = StringTools::expandingTilde(Settings::caravelFolder());
-    if (!parent.startsWith(u'/'))
-        parent =
-            StringTools::expandingTilde(QString::fromUtf8(Settings::caravelFolder.defaultValue));
+    const QString setting = Settings::caravelFolder();
+    const QString parent = StringTools::expandingTilde(
+        isPlace(setting) ? setting : QString::fromUtf8(Settings::caravelFolder.defaultValue));
     return StringTools::appendingPathComponent(StringTools::standardizingPath(parent),
                                                QStringLiteral("Caravel"));
 }

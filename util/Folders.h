@@ -5,8 +5,11 @@
 /// The folders on the computer that are ours.
 namespace Folders {
 
-/// The documents folder: the setting `CaravelFolder`, "~" expanded, with "Caravel" appended. A
-/// setting that is no absolute path then counts as its default.
+/// Whether the setting `CaravelFolder` can be that: a full path, or one that begins with "~/".
+bool isPlace(const QString &setting);
+
+/// The documents folder: the setting `CaravelFolder` (its default where it is no place), "~"
+/// expanded, with "Caravel" appended.
 QString documents();
 
 /// "~/Library/Application Support/Caravel", "~" expanded.

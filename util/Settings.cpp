@@ -17,11 +17,11 @@ template <typename T>
 Key keyOf(const Setting<T> &setting)
 {
     if constexpr (std::is_same_v<T, qint64> || std::is_enum_v<T>)
-        return {setting.key(), static_cast<int>(setting.defaultValue)};
+        return {setting.key(), static_cast<int>(setting.defaultValue), setting.range};
     else if constexpr (std::is_same_v<T, QString>)
-        return {setting.key(), QString::fromUtf8(setting.defaultValue)};
+        return {setting.key(), QString::fromUtf8(setting.defaultValue), {}};
     else
-        return {setting.key(), QVariant::fromValue(setting.defaultValue)};
+        return {setting.key(), QVariant::fromValue(setting.defaultValue), {}};
 }
 
 } // namespace

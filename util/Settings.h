@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <limits>
 #include <optional>
 #include <type_traits>
 #include <vector>
@@ -32,6 +33,13 @@ struct Kept<QDateTime>
     using Value = std::optional<QDateTime>;
 };
 
+/// The numbers that front-ends let a setting have, both ends included.
+struct Range
+{
+    qint64 least = std::numeric_limits<int>::min();
+    qint64 most = std::numeric_limits<int>::max();
+};
+
 /// One key of UserDefaults::standard(), read at the moment of use. Any thread. A stored value of
 /// another type is converted as the store does; one outside a setting's range is answered as it is,
 /// also an enumeration's.
@@ -40,6 +48,7 @@ struct Setting
 {
     QStringView name; ///< of a literal
     typename Kept<T>::Default defaultValue;
+    Range range = {};
 
     QString key() const { return QString::fromRawData(name.data(), name.size()); }
     typename Kept<T>::Value operator()() const;
@@ -51,8 +60,8 @@ struct Setting
 
 /// Generation of the PSP's system software, from 0. Below 1 it plays MP3 and shows JPEG only, and
 /// knows neither bookmarks nor the contacts page.
-inline constexpr Setting<qint64> firmwareVersion{u"firmwareVersion", 1};
-/// Folder that holds the documents folder; may begin with "~".
+inline constexpr Setting<qint64> firmwareVersion{u"firmwareVersion", 1, {.least = 0}};
+/// Folder that holds the documents folder, see Folders::isPlace().
 inline constexpr Setting<QString> caravelFolder{u"CaravelFolder", "~/Documents"};
 /// Selections are read from the stick's own copy; such a stick is never synced on mount.
 inline constexpr Setting<bool> useSyncProfiles{u"useSyncProfiles", false};
@@ -91,24 +100,27 @@ inline constexpr Setting<bool> syncDropboxes{u"syncDropboxes", true};
 
 /// Folders of music; any other number counts as Album.
 enum class MusicFolders : qint64 { Playlist = 0, Artist = 1, Album = 2, ArtistAndAlbum = 3 };
-inline constexpr Setting<MusicFolders> organizeMusicBy{u"organizeMusicBy", MusicFolders::Album};
+inline constexpr Setting<MusicFolders> organizeMusicBy{
+    u"organizeMusicBy", MusicFolders::Album, {0, 3}};
 /// What music files' names begin with; any other number counts as DiscAndTrack.
 enum class MusicPrefix : qint64 { Position = 0, Nothing = 1, DiscAndTrack = 2 };
-inline constexpr Setting<MusicPrefix> sortMusicBy{u"sortMusicBy", MusicPrefix::DiscAndTrack};
+inline constexpr Setting<MusicPrefix> sortMusicBy{
+    u"sortMusicBy", MusicPrefix::DiscAndTrack, {0, 2}};
 /// What photos' names begin with; any other number counts as Nothing.
 enum class PhotoPrefix : qint64 { Nothing = 0, Position = 1 };
-inline constexpr Setting<PhotoPrefix> sortPhotosBy{u"sortPhotosBy", PhotoPrefix::Nothing};
+inline constexpr Setting<PhotoPrefix> sortPhotosBy{u"sortPhotosBy", PhotoPrefix::Nothing, {0, 1}};
 
 // --- The converter, which takes its default for a number outside the range
 
 /// Pixels at most: 0 for 320 by 240, 1 for 368 by 208, 2 for 480 by 272, 3 for 720 by 480.
-inline constexpr Setting<qint64> movieConvertVideoResolution{u"movieConvertVideoResolution", 0};
+inline constexpr Setting<qint64> movieConvertVideoResolution{
+    u"movieConvertVideoResolution", 0, {0, 3}};
 /// From 0 (least, at half the frame rate) to 3.
-inline constexpr Setting<qint64> movieConvertVideoQuality{u"movieConvertVideoQuality", 2};
+inline constexpr Setting<qint64> movieConvertVideoQuality{u"movieConvertVideoQuality", 2, {0, 3}};
 /// From 0 (least) to 3.
-inline constexpr Setting<qint64> movieConvertAudioQuality{u"movieConvertAudioQuality", 2};
+inline constexpr Setting<qint64> movieConvertAudioQuality{u"movieConvertAudioQuality", 2, {0, 3}};
 /// Per cent of the source's volume, 0 to 1000.
-inline constexpr Setting<qint64> volumeBoost{u"volumeBoost", 100};
+inline constexpr Setting<qint64> volumeBoost{u"volumeBoost", 100, {0, 1000}};
 inline constexpr Setting<bool> deinterlace{u"deinterlace", false};
 /// Handed to the converter, which has no use for it.
 inline constexpr Setting<bool> useQuickTime{u"useQuickTime", true};
@@ -117,10 +129,10 @@ inline constexpr Setting<bool> useQuickTime{u"useQuickTime", true};
 
 /// Browser whose bookmarks are synced; none for any other number.
 enum class BookmarkBrowser : qint64 { Safari = 0, Firefox = 1, OmniWeb = 2, Camino = 3 };
-inline constexpr Setting<BookmarkBrowser> bookmarkSource{u"bookmarkSource",
-                                                         BookmarkBrowser::Safari};
+inline constexpr Setting<BookmarkBrowser> bookmarkSource{
+    u"bookmarkSource", BookmarkBrowser::Safari, {0, 3}};
 /// Backups of each game save: 1 for ten, 2 for twenty-five, 3 for fifty; all for any other number.
-inline constexpr Setting<qint64> backupsToKeep{u"backupsToKeep", 2};
+inline constexpr Setting<qint64> backupsToKeep{u"backupsToKeep", 2, {0, 3}};
 
 // --- Kept by the helper
 
@@ -152,6 +164,7 @@ struct Key
 {
     QString name;
     QVariant defaultValue; ///< a bool, int, quint64 or QString: the key's type
+    Range range;           ///< of an int
 
     /// The stored value in that type (any whole number for an int), as every reader sees it.
     QVariant value() const;
