@@ -10,6 +10,16 @@
 
 namespace {
 
+// No name and no text of another process's is to steer a terminal.
+QString harmless(QString text)
+{
+    for (QChar &c : text) {
+        if (c != u'\n' && c.category() == QChar::Other_Control)
+            c = u' ';
+    }
+    return text;
+}
+
 void write(std::FILE *stream, const QString &text)
 {
     const QByteArray bytes = text.toLocal8Bit();
@@ -21,7 +31,7 @@ void write(std::FILE *stream, const QString &text)
 
 void Output::print(const QString &line)
 {
-    write(stdout, line + u'\n');
+    write(stdout, harmless(line) + u'\n');
 }
 
 void Output::error(const QString &text)
@@ -31,7 +41,7 @@ void Output::error(const QString &text)
 
 void Output::printError(const QString &line)
 {
-    write(stderr, line + u'\n');
+    write(stderr, harmless(line) + u'\n');
 }
 
 void Output::raw(const QString &text)
@@ -64,11 +74,10 @@ int Output::terminalWidth()
 QString Output::printable(QString text)
 {
     for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-            c == QChar::ParagraphSeparator)
+        if (c == u'\n' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
             c = u' ';
     }
-    return text;
+    return harmless(text);
 }
 
 int Output::columns(const QString &text)

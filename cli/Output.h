@@ -3,7 +3,8 @@
 #include <QJsonObject>
 #include <QString>
 
-/// What the command line writes: lines in the locale's encoding, flushed at once.
+/// What the command line writes: lines in the locale's encoding, flushed at once, with blanks in
+/// the place of control characters other than line feeds.
 namespace Output {
 
 /// A line on the standard output.
@@ -12,10 +13,11 @@ void print(const QString &line);
 /// "caravel: <text>" on the standard error.
 void error(const QString &text);
 
-/// A line on the standard error as it stands.
+/// A line on the standard error.
 void printError(const QString &line);
 
-/// Text without a line feed of its own, such as the control sequences of a progress display.
+/// Text as it stands, without a line feed of its own, such as the control sequences of a progress
+/// display.
 void raw(const QString &text);
 
 /// A JSON document on one line.

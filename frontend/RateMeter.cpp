@@ -13,6 +13,9 @@ void RateMeter::add(quint64 bytes, Time now)
 {
     if (!m_samples.empty() && bytes < m_samples.back().bytes)
         m_samples.clear();
+    // Until the first byte there is no copying to measure.
+    if (bytes == 0)
+        return;
     m_samples.push_back({bytes, now});
     while (m_samples.size() > 2 && now - m_samples[1].time >= rateSpan)
         m_samples.pop_front();

@@ -6,7 +6,7 @@
 #include <deque>
 #include <optional>
 
-/// How fast a byte count grows, over the last few seconds.
+/// How fast a byte count grows, from its first byte on, over the last few seconds.
 class RateMeter
 {
 public:

@@ -51,14 +51,16 @@ TEST(RateMeterTest, MeasuresTheLastSeconds)
 {
     RateMeter meter;
     EXPECT_FALSE(meter.rate());
-    meter.add(0, 0ms);
-    meter.add(100, 100ms);
+    for (const auto pause : {-5000ms, -100ms})
+        meter.add(0, pause);
+    meter.add(100, 0ms);
+    meter.add(200, 100ms);
     EXPECT_FALSE(meter.rate());
-    meter.add(1000, 1000ms);
+    meter.add(1100, 1000ms);
     EXPECT_EQ(meter.rate(), 1000.0);
     // What lies more than the span back no longer counts.
     for (int second = 2; second <= 12; ++second)
-        meter.add(1000, std::chrono::seconds(second));
+        meter.add(1100, std::chrono::seconds(second));
     EXPECT_EQ(meter.rate(), 0.0);
     meter.add(10, 13s);
     EXPECT_FALSE(meter.rate());
