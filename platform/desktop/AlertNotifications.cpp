@@ -9,6 +9,8 @@
 #include <QHash>
 #include <QVariantMap>
 
+#include <utility>
+
 namespace {
 
 QString iconName(AlertStyle style)
@@ -39,8 +41,9 @@ public:
             {QStringLiteral("urgency"), QVariant::fromValue<uchar>(2)},
             {QStringLiteral("desktop-entry"), QStringLiteral("org.caravel.Caravel")}};
         constexpr int neverExpires = 0;
-        call.setArguments({QStringLiteral("Caravel"), m_shown.value(title, 0U), iconName(style),
-                           title, message.toHtmlEscaped(), QStringList(), hints, neverExpires});
+        call.setArguments({QStringLiteral("Caravel"), m_shown.value({title, message}, 0U),
+                           iconName(style), title, message.toHtmlEscaped(), QStringList(), hints,
+                           neverExpires});
         auto *watcher =
             new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), &m_calls);
         QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &m_calls,
@@ -54,12 +57,13 @@ private:
         if (reply.isError())
             qCWarning(lcPlatform).noquote() << "An alert that can't be shown:" << title << message;
         else
-            m_shown.insert(title, reply.value());
+            m_shown.insert({title, message}, reply.value());
         watcher.deleteLater();
     }
 
-    QHash<QString, uint> m_shown; // the service's number of the last notification of that title
-    QObject m_calls;              // owns those under way
+    // The service's number of the notification of that title and message
+    QHash<std::pair<QString, QString>, uint> m_shown;
+    QObject m_calls; // owns those under way
 };
 
 } // namespace

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QTextDocument>
 
+#include <utility>
+
 namespace {
 
 QMessageBox::Icon icon(AlertStyle style)
@@ -32,7 +34,7 @@ public:
 
     void show(const QString &title, const QString &message, AlertStyle style) override
     {
-        QPointer<QMessageBox> &window = m_windows[title];
+        QPointer<QMessageBox> &window = m_windows[{title, message}];
         if (!window)
             window = newWindow(title);
         // The box asks for no text format here: it would take what looks like markup for it.
@@ -55,7 +57,8 @@ private:
         return window;
     }
 
-    QHash<QString, QPointer<QMessageBox>> m_windows; // by title; null once closed
+    // By title and message; null once closed
+    QHash<std::pair<QString, QString>, QPointer<QMessageBox>> m_windows;
 };
 
 } // namespace

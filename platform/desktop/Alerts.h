@@ -15,7 +15,7 @@ public:
     virtual void show(const QString &title, const QString &message, AlertStyle style) = 0;
 };
 
-/// Windows that block nothing: one per title, which the same alert again brings forward.
+/// Windows that block nothing: one per alert, which the same alert again brings forward.
 std::unique_ptr<Alerts> makeAlertWindows();
 
 /// Desktop notifications; an alert that none is there for goes to the system log.

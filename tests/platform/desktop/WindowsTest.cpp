@@ -23,22 +23,23 @@ QList<QMessageBox *> windows()
 
 } // namespace
 
-TEST(AlertWindows, ShowOnePerTitleAndBlockNothing)
+TEST(AlertWindows, ShowOneEachAndBlockNothing)
 {
     const auto alerts = makeAlertWindows();
     const QString full = QStringLiteral("Memory stick full!");
-    alerts->show(full, QStringLiteral("first"), AlertStyle::Critical);
-    alerts->show(full, QStringLiteral("<b>second</b>"), AlertStyle::Warning);
+    for (const auto style : {AlertStyle::Critical, AlertStyle::Warning})
+        alerts->show(full, QStringLiteral("<b>first</b>"), style);
     ASSERT_EQ(windows().size(), 1);
     QMessageBox *box = windows().first();
     EXPECT_EQ(box->text(), full);
-    EXPECT_TRUE(box->informativeText().contains(QStringLiteral("&lt;b&gt;second&lt;/b&gt;")));
+    EXPECT_TRUE(box->informativeText().contains(QStringLiteral("&lt;b&gt;first&lt;/b&gt;")));
     EXPECT_EQ(box->icon(), QMessageBox::Warning);
     EXPECT_FALSE(box->isModal());
     box->button(QMessageBox::Ok)->click();
     ASSERT_TRUE(waitFor([] { return windows().isEmpty(); }));
-    alerts->show(full, QStringLiteral("third"), AlertStyle::Informational);
-    EXPECT_EQ(windows().size(), 1) << "again, once it was closed";
+    for (const char *message : {"<b>first</b>", "of another movie"})
+        alerts->show(full, QString::fromLatin1(message), AlertStyle::Informational);
+    EXPECT_EQ(windows().size(), 2) << "again, once it was closed";
 }
 
 TEST(Sounds, SayWhatTheyCantPlay)
