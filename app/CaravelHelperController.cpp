@@ -26,6 +26,12 @@ namespace {
 // How long a quitting helper waits for its run to write what it must.
 constexpr auto quitPatience = std::chrono::seconds(5);
 
+// How long an older helper may take to give its name up to this one.
+constexpr auto handOverPatience = std::chrono::seconds(10);
+
+// How often a helper that is to go looks whether it is still at work.
+constexpr auto idleInterval = std::chrono::seconds(1);
+
 // How long a value that a front-end has just set may take to reach the store's file.
 constexpr auto storeDelay = std::chrono::milliseconds(250);
 
@@ -46,7 +52,7 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
     , m_plans(m_catalogue, m_manager)
     , m_menu(m_manager, menuActions())
     , m_icon(m_services.statusBar, m_manager)
-    , m_status({m_manager, m_logger, m_plans, m_frontEnd, m_menu, m_icon, m_services.alerts,
+    , m_status({m_manager, m_logger, m_plans, m_frontEnds, m_menu, m_icon, m_services.alerts,
                 m_services.sounds, m_services.clock,
                 [this] {
                     openCaravel();
@@ -58,8 +64,14 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
 {
     m_logger.setDelegate(this);
     m_manager.setDelegate(&m_status);
-    connect(&m_plans, &Plans::isReady, &m_frontEnd, &FrontEnd::planIsReady);
-    connect(&m_frontEnd, &FrontEnd::vanished, this, &CaravelHelperController::frontEndIsGone);
+    connect(&m_plans, &Plans::isReady, &m_frontEnds, &FrontEnds::planIsReady);
+    connect(&m_frontEnds, &FrontEnds::vanished, this,
+            &CaravelHelperController::applicationWillQuit);
+    connect(&m_frontEnds, &FrontEnds::interactiveChanged, this,
+            [this](bool interactive) { m_status.setIsInteractive(interactive); });
+    connect(&m_manager, &CVSyncManager::ejected, this, [this] { m_status.pspDidEject(); });
+    m_idleTimer.setInterval(idleInterval);
+    connect(&m_idleTimer, &QTimer::timeout, this, &CaravelHelperController::quitWhenIdle);
 }
 
 CaravelHelperController::~CaravelHelperController() = default;
@@ -110,9 +122,15 @@ void CaravelHelperController::initialize()
                                     FrontEndProtocol::methods(*this));
     const QString name = Protocol::helperConnection(m_services.bundle.version());
     if (!m_helperConnection.registerName(name))
+        QTimer::singleShot(handOverPatience, this, [this, name] { checkName(name); });
+    m_status.setInitialTexts();
+}
+
+void CaravelHelperController::checkName(const QString &name) const
+{
+    if (!m_isQuitting && !m_helperConnection.hasName(name))
         qCWarning(lcApp).noquote() << "Another process has the connection name" << name
                                    << "; this one is reached when that one leaves";
-    m_status.setInitialTexts();
 }
 
 void CaravelHelperController::setUp()
@@ -126,8 +144,6 @@ void CaravelHelperController::setUp()
 
 void CaravelHelperController::changeStartOnLogin()
 {
-    if (m_isQuitting)
-        return;
     m_services.clock.sleep(storeDelay);
     UserDefaults::standard().synchronize();
     const bool startOnLogin = Settings::startOnLogin();
@@ -157,7 +173,7 @@ void CaravelHelperController::logDetail(const QString &message)
 
 void CaravelHelperController::logChanged(const QString &line)
 {
-    m_frontEnd.writeToLog(line);
+    m_frontEnds.writeToLog(line);
 }
 
 void CaravelHelperController::movieAlert(const QString &title, const QString &message)
@@ -165,27 +181,31 @@ void CaravelHelperController::movieAlert(const QString &title, const QString &me
     m_status.doAlert(title, message, AlertStyle::Warning);
 }
 
-// --- The front-end
+// --- The front-ends
 
 void CaravelHelperController::setApplication(const QString &address, const QString &objectPath)
 {
-    if (m_isQuitting)
-        return;
-    m_frontEnd.connectTo(address, objectPath);
+    m_idleTimer.stop();
+    m_frontEnds.connectTo(address, objectPath);
     logDetail(QStringLiteral("Caravel front-end has connected."));
 }
 
 void CaravelHelperController::applicationWillQuit(const QString &address)
 {
-    // Of two front-ends only the one that is connected can leave.
-    if (!m_frontEnd.isConnected() || m_frontEnd.isAt(address))
-        frontEndIsGone();
+    if (!m_frontEnds.forget(address))
+        return;
+    logDetail(QStringLiteral("Caravel front-end has quit."));
+    if (!m_frontEnds.isEmpty() || Settings::startOnLogin())
+        return;
+    m_idleTimer.start();
+    quitWhenIdle();
 }
 
-void CaravelHelperController::frontEndIsGone()
+void CaravelHelperController::quitWhenIdle()
 {
-    logDetail(QStringLiteral("Caravel front-end has quit."));
-    m_frontEnd.forget();
+    if (m_manager.isSyncing() || m_movies.hasWork())
+        return;
+    m_idleTimer.stop();
     if (!Settings::startOnLogin())
         requestQuit();
 }
@@ -228,7 +248,7 @@ bool CaravelHelperController::mayChangeBackups()
 
 void CaravelHelperController::restoreBackup(const QString &identifier)
 {
-    if (m_isQuitting || !mayChangeBackups())
+    if (!mayChangeBackups())
         return;
     logDetail(filled(QStringLiteral("Restoring backup %@..."), {identifier}));
     using Restored = CVSyncBackup::Restored;
@@ -270,11 +290,14 @@ void CaravelHelperController::deleteBackup(const QString &identifier)
 
 void CaravelHelperController::ejectPSP()
 {
-    // An eject under a running sync would take the stick from its hands.
-    if (m_manager.isSyncing())
-        qCWarning(lcApp) << "The PSP can't be ejected during a sync";
-    else
+    if (!m_manager.isSyncing()) {
         m_manager.eject();
+        return;
+    }
+    // It would take the stick from the run's hands.
+    m_logger.log(QStringLiteral("The PSP can't be ejected during a sync."));
+    m_status.doAlert(localized("Can't eject the PSP now!"),
+                     localized("The PSP can't be ejected during a sync."), AlertStyle::Warning);
 }
 
 // --- Going away
@@ -289,7 +312,7 @@ void CaravelHelperController::helperDidStart()
 
 void CaravelHelperController::requestQuit()
 {
-    if (!m_frontEnd.isOpen())
+    if (!m_frontEnds.isOpen())
         terminate();
 }
 
@@ -300,6 +323,8 @@ void CaravelHelperController::terminate()
     m_movies.close();
     logDetail(QStringLiteral("Helper quitting..."));
     m_icon.disable();
+    // From here on nobody's call is taken: what it changed would be lost.
+    m_helperConnection.invalidate();
     quit();
 }
 
@@ -307,14 +332,12 @@ void CaravelHelperController::quit()
 {
     m_manager.close();
     m_manager.cancelSync();
-    const bool finishedAll = Workers::serveUntilFinished(quitPatience);
-    m_helperConnection.invalidate();
-    m_helperConnection.flush();
-    UserDefaults::standard().synchronize(std::chrono::seconds(1));
-    if (!finishedAll) {
-        // A thread that hangs in a read of a dying stick must not meet destructors.
+    if (!Workers::serveUntilFinished(quitPatience, Workers::awaited))
         qCWarning(lcApp) << "A sync didn't end in time; leaving without it";
+    NamedConnection::flush();
+    UserDefaults::standard().synchronize(std::chrono::seconds(1));
+    // A thread that hangs in a read of a dying stick, or estimates, must not meet destructors.
+    if (Workers::live() > 0)
         std::_Exit(0);
-    }
     Q_EMIT finished();
 }

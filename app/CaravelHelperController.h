@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/FrontEnd.h"
+#include "app/FrontEnds.h"
 #include "app/LoginItems.h"
 #include "app/Plans.h"
 #include "app/SelectionLists.h"
@@ -14,6 +14,7 @@
 #include "util/QMLogger.h"
 
 #include <QObject>
+#include <QTimer>
 #include <QVariantMap>
 
 #include <functional>
@@ -47,16 +48,19 @@ public:
     SyncStatus &status() { return m_status; }
     Plans &plans() { return m_plans; }
     SelectionLists &lists() { return m_lists; }
+    FrontEnds &frontEnds() { return m_frontEnds; }
     MovieQueue &movies() { return m_movies; }
 
     void setApplication(const QString &address, const QString &objectPath);
-    /// A front-end says that it quits; the helper goes too unless it starts at login.
+    /// A front-end says that it quits. With the last one the helper goes too, once it is idle,
+    /// unless it starts at login.
     void applicationWillQuit(const QString &address);
 
     /// Launches the front-end, or brings it forward where it sees to that itself.
     void openCaravel();
     /// Starts a sync, or cancels the running one for a sender titled "Cancel Sync".
     void syncNow(const QVariantMap &sender);
+    /// Refused, and said to the user, during a sync.
     void ejectPSP();
     /// Puts a backup of a game save back on the PSP, or moves backups to the Trash. Refused, and
     /// said to the user, during a sync.
@@ -67,10 +71,10 @@ public:
     /// disk has it; holds the caller a quarter of a second.
     void changeStartOnLogin();
 
-    /// The platform's request to quit: passed over while the front-end is open, else the helper
+    /// The platform's request to quit: passed over while a front-end is open, else the helper
     /// goes.
     void requestQuit();
-    /// Goes without asking the front-end.
+    /// Goes without asking the front-ends.
     void terminate();
 
     void logChanged(const QString &line) override;
@@ -80,9 +84,9 @@ Q_SIGNALS:
     void finished();
 
 private:
-    void reloadMoviesView() override { m_frontEnd.reloadMoviesView(); }
-    void startConversionAnimation() override { m_frontEnd.startConversionAnimation(); }
-    void stopConversionAnimation() override { m_frontEnd.stopConversionAnimation(); }
+    void reloadMoviesView() override { m_frontEnds.reloadMoviesView(); }
+    void startConversionAnimation() override { m_frontEnds.startConversionAnimation(); }
+    void stopConversionAnimation() override { m_frontEnds.stopConversionAnimation(); }
     void movieAlert(const QString &title, const QString &message) override;
 
     void initialize();
@@ -91,7 +95,8 @@ private:
     bool mayChangeBackups();
     void restoreFailed(const QString &identifier, const QString &whatIsThere);
     void helperDidStart();
-    void frontEndIsGone();
+    void quitWhenIdle();
+    void checkName(const QString &name) const;
     void logDetail(const QString &message);
     void quit();
     QString frontEndPath() const;
@@ -102,7 +107,7 @@ private:
     const ModuleCatalogue m_catalogue;
     CVSyncManager m_manager;
     Plans m_plans;
-    FrontEnd m_frontEnd;
+    FrontEnds m_frontEnds;
     StatusMenu m_menu;
     StatusIcon m_icon;
     SyncStatus m_status;
@@ -110,5 +115,6 @@ private:
     MovieQueue m_movies;
     const LoginItems m_loginItems;
     NamedConnection m_helperConnection;
+    QTimer m_idleTimer; // runs while the helper is to go and is still at work
     bool m_isQuitting = false;
 };

@@ -63,8 +63,8 @@ void bindState(ServedMethods &served, CaravelHelperController &helper)
     served.answer(Protocol::syncBytes, [&manager] { return manager.syncBytes(); });
     served.answer(Protocol::statusText, [&status] { return status.statusText(); });
     served.answer(Protocol::statusSubText, [&status] { return status.statusSubText(); });
-    served.perform(Protocol::setIsInteractive, [&status](Request request) {
-        status.setIsInteractive(request.arguments.first().toBool());
+    served.perform(Protocol::setIsInteractive, [&helper](Request request) {
+        helper.frontEnds().setIsInteractive(request.caller, request.arguments.first().toBool());
     });
     served.answer(Protocol::percentConverted,
                   [&helper] { return helper.movies().percentConverted(); });

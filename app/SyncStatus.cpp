@@ -30,7 +30,7 @@ QString size(std::optional<quint64> bytes)
 SyncStatus::SyncStatus(Services services)
     : m_services(std::move(services))
 {
-    QObject::connect(&m_services.frontEnd, &FrontEnd::notShown, &m_services.frontEnd,
+    QObject::connect(&m_services.frontEnds, &FrontEnds::notShown, &m_services.frontEnds,
                      [this](const QString &title, const QString &message, AlertStyle style) {
                          m_services.alerts.show(title, message, style);
                      });
@@ -67,7 +67,7 @@ void SyncStatus::show(const QString &text, const QString &subText)
 void SyncStatus::notifyUserInterface()
 {
     m_services.menu.update();
-    m_services.frontEnd.updateUserInterface();
+    m_services.frontEnds.updateUserInterface();
 }
 
 QString SyncStatus::lastSyncText() const
@@ -78,21 +78,23 @@ QString SyncStatus::lastSyncText() const
 
 void SyncStatus::doAlert(const QString &title, const QString &message, AlertStyle style)
 {
-    if (m_services.frontEnd.isConnected())
-        m_services.frontEnd.doAlert(title, message, style);
-    else
-        m_services.alerts.show(title, message, style);
+    m_services.frontEnds.doAlert(title, message, style);
 }
 
 // --- The device
 
-void SyncStatus::pspDidMount(const QString &)
+void SyncStatus::showStick()
 {
-    m_services.icon.pspDidMount();
     const bool syncedBefore = Settings::lastSync().has_value();
     show(filled(localized("%@ Available"), {size(m_services.manager.pspFreeSpace())}),
          syncedBefore ? lastSyncText() : localized("Click \"Sync Now\" to perform a sync."));
-    m_services.frontEnd.pspDidMount();
+}
+
+void SyncStatus::pspDidMount(const QString &)
+{
+    m_services.icon.pspDidMount();
+    showStick();
+    m_services.frontEnds.pspDidMount();
     if (Settings::openOnMount())
         m_services.openFrontEnd();
 }
@@ -102,7 +104,7 @@ void SyncStatus::pspDidUnmount()
     m_services.plans.forget();
     m_services.icon.pspDidUnmount();
     show(localized("No PSP Connected"), localized("Connect a PSP to perform a sync."));
-    m_services.frontEnd.pspDidUnmount();
+    m_services.frontEnds.pspDidUnmount();
 }
 
 void SyncStatus::foundUnformattedMemoryStick()
@@ -131,6 +133,13 @@ void SyncStatus::pspWillUnmount()
 {
     show(localized("Ejecting PSP..."),
          localized("One moment, Caravel is preparing your PSP for ejection..."));
+}
+
+void SyncStatus::pspDidEject()
+{
+    // Another stick's mount was told of long ago, or never.
+    if (m_services.manager.pspIsMounted() && !m_services.manager.isSyncing())
+        showStick();
 }
 
 void SyncStatus::pspUnmountFailed()
@@ -213,17 +222,17 @@ void SyncStatus::syncWillProcessModule(const QString &moduleName)
 void SyncStatus::syncWillProcessItem(const CVSyncItem &item)
 {
     setStatusSubText(item.description);
-    m_services.frontEnd.updateUserInterface();
+    m_services.frontEnds.updateUserInterface();
 }
 
 void SyncStatus::syncDidCopyBytes(quint64)
 {
-    m_services.frontEnd.updateSyncBytes();
+    m_services.frontEnds.updateSyncBytes();
 }
 
 void SyncStatus::syncDidCopyLastBytes()
 {
-    m_services.frontEnd.updateUserInterface();
+    m_services.frontEnds.updateUserInterface();
 }
 
 void SyncStatus::syncDidProcessItem(const CVSyncItem &) {}
@@ -270,8 +279,8 @@ void SyncStatus::memoryStickFilled()
 void SyncStatus::syncDidFinish(const RunReport &report)
 {
     m_services.icon.stopSyncAnimation();
-    m_services.frontEnd.updateSyncBytes();
-    m_services.frontEnd.syncDidFinish(report.isComplete);
+    m_services.frontEnds.updateSyncBytes();
+    m_services.frontEnds.syncDidFinish(report.isComplete);
     if (report.isComplete && report.hiddenFiles > 0)
         m_services.logger.log(QStringLiteral("Files in deeper folders than the PSP shows: %@"),
                               QString::number(report.hiddenFiles));
@@ -338,5 +347,5 @@ void SyncStatus::newSyncBytesEstimate(quint64 bytes)
             QStringLiteral("Got %@, last sync size = %@, last stick size = %@"),
             {size(bytes), size(Settings::lastSyncSize()), size(Settings::lastStickSize())});
     }
-    m_services.frontEnd.updateSyncBytesEstimate();
+    m_services.frontEnds.updateSyncBytesEstimate();
 }

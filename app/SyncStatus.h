@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/FrontEnd.h"
+#include "app/FrontEnds.h"
 #include "sync/CVSyncManagerDelegate.h"
 
 #include <QSet>
@@ -18,7 +18,7 @@ class StatusIcon;
 class StatusMenu;
 
 /// Turns what the sync manager tells into the two status lines, the status item's image and menu,
-/// log lines, alerts and sounds, and hands it on to the front-end. Main thread, but for the two
+/// log lines, alerts and sounds, and hands it on to the front-ends. Main thread, but for the two
 /// questions.
 class SyncStatus : public CVSyncManagerDelegate
 {
@@ -29,7 +29,7 @@ public:
         CVSyncManager &manager;
         QMLogger &logger;
         Plans &plans;
-        FrontEnd &frontEnd;
+        FrontEnds &frontEnds;
         StatusMenu &menu;
         StatusIcon &icon;
         Alerts &alerts;
@@ -49,8 +49,11 @@ public:
     /// While set, a stick is neither synced on mount nor ejected after a run. Any thread.
     void setIsInteractive(bool interactive) { m_isInteractive = interactive; }
 
-    /// Through the front-end where one is connected and takes it, else by ourselves.
+    /// Through a front-end where one is connected and takes it, else by ourselves.
     void doAlert(const QString &title, const QString &message, AlertStyle style);
+
+    /// An eject is done. Where another stick is the PSP's now, the texts are about that.
+    void pspDidEject();
 
     void pspDidMount(const QString &volume) override;
     void pspDidUnmount() override;
@@ -77,6 +80,7 @@ public:
 
 private:
     void show(const QString &text, const QString &subText);
+    void showStick();
     void notifyUserInterface();
     QString lastSyncText() const;
     void memoryStickFilled();

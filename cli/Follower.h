@@ -8,8 +8,8 @@
 #include <QTimer>
 
 /// A command that stays connected and follows the helper: reads its state when the helper says that
-/// something changed, at most ten times a second, and once a second without being told, since
-/// another front-end may have taken this one's place with the helper. Ends with the helper.
+/// something changed, at most ten times a second, and once a second without being told, since a
+/// conversion's progress is not announced. Ends with the helper.
 class Follower : public QObject
 {
     Q_OBJECT

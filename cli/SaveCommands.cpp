@@ -146,7 +146,7 @@ ExitStatus runSaves(const QString &save, bool json)
 
 ExitStatus runRestoreSave(const QString &backup)
 {
-    Session session;
+    Session session(Session::Stay::UntilItQuits);
     HelperClient &helper = session.helper();
     const bool isThere = isBackup(helper, backup);
     const HelperState state = helper.state();

@@ -2,18 +2,6 @@
 
 #include "cli/Output.h"
 
-Session::Session()
-{
-    m_helper.connectToHelper();
-}
-
-FrontEndObject &Session::frontEnd()
-{
-    if (!m_frontEnd)
-        m_frontEnd.emplace(m_helper);
-    return *m_frontEnd;
-}
-
 ExitStatus Session::report() const
 {
     if (!failed())

@@ -4,21 +4,20 @@
 #include "frontend/FrontEndObject.h"
 #include "frontend/HelperClient.h"
 
-#include <optional>
-
 /// A command's dealings with the helper, from the first question to the goodbye, which comes last.
 /// What fails is remembered by helper(); report() says it.
 class Session
 {
 public:
-    /// Reaches the helper, starting it when none runs.
-    Session();
+    using Stay = FrontEndObject::Stay;
+    /// Reaches the helper, starting it when none runs, as a connected front-end of its.
+    explicit Session(Stay stay = Stay::ForOneQuestion)
+        : m_frontEnd(m_helper, stay)
+    {
+    }
 
     HelperClient &helper() { return m_helper; }
-
-    /// This command as the helper's connected front-end, from the first call on until the session
-    /// ends.
-    FrontEndObject &frontEnd();
+    FrontEndObject &frontEnd() { return m_frontEnd; }
 
     bool failed() const { return m_helper.failed(); }
 
@@ -28,5 +27,5 @@ public:
 
 private:
     HelperClient m_helper;
-    std::optional<FrontEndObject> m_frontEnd; // gone first, while the helper can be told
+    FrontEndObject m_frontEnd; // gone first, while the helper can be told
 };

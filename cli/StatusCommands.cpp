@@ -6,7 +6,6 @@
 #include "frontend/Rows.h"
 #include "util/ByteCount.h"
 
-#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -89,20 +88,25 @@ bool refreshEstimate(Session &session)
     return arrived;
 }
 
-ExitStatus waitForEject(Session &session)
+QString volumeOf(const QVariant &stick)
+{
+    return Rows::text(stick.toMap(), u"volume");
+}
+
+// Until the PSP has no stick, or another one.
+ExitStatus waitForEject(Session &session, const QString &volume)
 {
     HelperClient &helper = session.helper();
-    const QDeadlineTimer deadline(60s);
     QEventLoop loop;
     QObject::connect(&helper, &HelperClient::gone, &loop, &QEventLoop::quit);
     while (!helper.failed()) {
-        // The helper serves this after it has tried: a failure is told by the first answer.
+        const QVariant stick = helper.ask(Protocol::stick);
         const HelperState state = helper.state();
         if (helper.failed())
             break;
-        if (!state.mounted)
+        if (volumeOf(stick) != volume)
             return Done;
-        if (HelperClient::isHelperText(state.statusText, "Eject Failed") || deadline.hasExpired()) {
+        if (HelperClient::isHelperText(state.statusText, "Eject Failed")) {
             Output::error(state.statusText + u'\n' + state.statusSubText);
             return Refused;
         }
@@ -156,8 +160,7 @@ ExitStatus runEstimate(bool json)
 {
     Session session;
     HelperClient &helper = session.helper();
-    const bool syncing = helper.askBool(Protocol::isSyncing);
-    if (!helper.failed() && !syncing && !refreshEstimate(session) && !helper.failed()) {
+    if (!helper.failed() && !refreshEstimate(session) && !helper.failed()) {
         Output::error(QStringLiteral("the helper has made no estimate within a minute"));
         return Refused;
     }
@@ -179,6 +182,7 @@ ExitStatus runEject()
     HelperClient &helper = session.helper();
     const bool mounted = helper.askBool(Protocol::pspIsMounted);
     const bool canSync = helper.askBool(Protocol::canSync);
+    const QString volume = volumeOf(helper.ask(Protocol::stick));
     if (helper.failed())
         return session.report();
     if (!canSync) {
@@ -187,5 +191,5 @@ ExitStatus runEject()
         return Refused;
     }
     helper.tell(Protocol::ejectPSP, {QVariantMap()});
-    return waitForEject(session);
+    return waitForEject(session, volume);
 }

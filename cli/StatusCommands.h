@@ -12,10 +12,8 @@ QJsonObject stateToJson(const HelperState &state);
 /// `caravel status`.
 ExitStatus runStatus(bool json);
 
-/// `caravel estimate`: has the helper estimate anew (60 s at most) and shows the result. During a
-/// sync it shows the sync's own figure, so as not to take the helper's front-end from who follows
-/// the sync.
+/// `caravel estimate`: has the helper estimate anew (60 s at most) and shows the result.
 ExitStatus runEstimate(bool json);
 
-/// `caravel eject`: waits until the PSP is gone or the eject failed.
+/// `caravel eject`: waits until the stick is gone or the eject failed.
 ExitStatus runEject();

@@ -51,25 +51,18 @@ private:
     const std::unique_ptr<ProgressDisplay> m_display;
     bool m_started = false;
     bool m_cancelRequested = false;
-    int m_readingsSinceEnd = 0; // that saw no sync after one had started
 };
 
 void SyncFollower::stateRead(const HelperState &state)
 {
-    if (state.syncing) {
-        m_started = true;
-        m_readingsSinceEnd = 0;
-        m_display->show(state);
-        // The first request may have come before the run was one.
-        if (m_cancelRequested && state.canCancel)
-            requestCancel();
+    // The end is announced a moment after it can be read.
+    if (!state.syncing)
         return;
-    }
-    // The end is announced a moment after it can be read; where another front-end has taken this
-    // one's place it never is, and the texts tell.
-    constexpr int patience = 3;
-    if (m_started && ++m_readingsSinceEnd >= patience)
-        conclude(state, !HelperClient::isHelperText(state.statusText, "Sync Cancelled"));
+    m_started = true;
+    m_display->show(state);
+    // The first request may have come before the run was one.
+    if (m_cancelRequested && state.canCancel)
+        requestCancel();
 }
 
 void SyncFollower::checkStarted()
@@ -133,7 +126,7 @@ ExitStatus refuse(const QString &text)
 
 ExitStatus runSync(bool wait)
 {
-    Session session;
+    Session session(wait ? Session::Stay::UntilItQuits : Session::Stay::ForOneQuestion);
     HelperClient &helper = session.helper();
     const HelperState state = helper.state();
     const bool canSync = helper.askBool(Protocol::canSync);

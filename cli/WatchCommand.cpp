@@ -140,14 +140,15 @@ ExitStatus showLog(Session &session, bool json)
 
 ExitStatus runWatch(bool json)
 {
-    Session session;
+    Session session(Session::Stay::UntilItQuits);
     return Watcher(session, json).run();
 }
 
 ExitStatus runLog(LogMode mode, bool json)
 {
-    Session session;
-    if (mode == LogMode::Follow)
+    const bool follows = mode == LogMode::Follow;
+    Session session(follows ? Session::Stay::UntilItQuits : Session::Stay::ForOneQuestion);
+    if (follows)
         return LogFollower(session, json).run();
     if (mode == LogMode::Show)
         return showLog(session, json);

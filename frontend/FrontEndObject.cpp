@@ -5,12 +5,14 @@
 
 namespace Callback = Protocol::FrontEnd;
 
-FrontEndObject::FrontEndObject(HelperClient &helper)
+FrontEndObject::FrontEndObject(HelperClient &helper, Stay stay)
     : m_helper(helper)
 {
-    const QString path = QStringLiteral("/CaravelFrontEnd");
+    QString path = QStringLiteral("/CaravelFrontEnd");
+    if (stay == Stay::ForOneQuestion)
+        path += Callback::queryEnding;
     m_connection.exportObject(path, Callback::interface.toString(), methods());
-    m_helper.ask(Protocol::setApplication, {QVariant::fromValue(ObjectPath{path})});
+    m_helper.connectToHelper(path);
 }
 
 FrontEndObject::~FrontEndObject()
@@ -22,7 +24,7 @@ FrontEndObject::~FrontEndObject()
 std::vector<RemoteMethod> FrontEndObject::methods()
 {
     ServedMethods served;
-    served.answer(Callback::isOpen, [] { return false; });
+    served.answer(Callback::isOpen, [this] { return m_isOpen; });
     served.perform(Callback::doAlert, [this](const RemoteRequest &request) {
         const QVariantList &given = request.arguments;
         Q_EMIT alert(given[0].toString(), given[1].toString(), given[2].toInt());

@@ -6,18 +6,23 @@
 
 class HelperClient;
 
-/// This command as the helper's connected front-end: what the helper tells it comes out as signals.
-/// It never counts as an open window, so that it doesn't hold the helper's quitting back.
+/// This process as a connected front-end of the helper's: what the helper tells it comes out as
+/// signals.
 class FrontEndObject : public QObject
 {
     Q_OBJECT
 public:
-    /// Hands the object over to the helper, which replaces any earlier front-end.
-    explicit FrontEndObject(HelperClient &helper);
+    /// What goes after one question is shown no alert.
+    enum class Stay { ForOneQuestion, UntilItQuits };
+    /// Connects the client, which outlives it; where that fails the client says why.
+    FrontEndObject(HelperClient &helper, Stay stay);
 
-    /// Tells the helper that the front-end quits (a helper that doesn't start on login quits then
-    /// too), and waits until that is on its way.
+    /// Tells the helper that the front-end quits (with the last one a helper that doesn't start on
+    /// login quits too), and waits until that is on its way.
     ~FrontEndObject() override;
+
+    /// Whether it counts as an open window, which holds the helper's quitting back; not at first.
+    void setIsOpen(bool isOpen) { m_isOpen = isOpen; }
 
 Q_SIGNALS:
     void alert(const QString &title, const QString &message, int style);
@@ -36,5 +41,6 @@ private:
     std::vector<RemoteMethod> methods();
 
     HelperClient &m_helper;
+    bool m_isOpen = false;
     NamedConnection m_connection;
 };

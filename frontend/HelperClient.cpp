@@ -2,7 +2,10 @@
 
 #include "platform/bus/NamedConnection.h"
 #include "platform/core/Localized.h"
+#include "platform/files/FileManager.h"
 #include "platform/lists/Bundle.h"
+#include "util/FileManagerTools.h"
+#include "util/Folders.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -17,6 +20,8 @@ namespace {
 
 constexpr auto answerLimit = 60s; // a list reads whole libraries, an eject flushes a stick
 constexpr auto startLimit = 10s;
+
+const QString goneAway = QStringLiteral("the helper has gone away");
 
 QString helperBundle()
 {
@@ -54,19 +59,35 @@ std::unique_ptr<RemoteObject> remoteHelper()
 HelperClient::HelperClient() = default;
 HelperClient::~HelperClient() = default;
 
-void HelperClient::connectToHelper()
+void HelperClient::connectToHelper(const QString &objectPath)
 {
     if (!NamedConnection::busAvailable()) {
         fail(Kind::NoHelper, QStringLiteral("no helper: there is no session bus to reach it by"));
         return;
     }
-    m_remote = remoteHelper();
-    if (!m_remote->isAvailable() && !startHelper())
-        return;
+    // One that is just going takes nobody any more, and another is found or started.
+    for (int tries = 0; tries < 3; ++tries) {
+        m_remote = remoteHelper();
+        if ((!m_remote->isAvailable() && !startHelper()) || introduce(objectPath))
+            return;
+    }
+    fail(Kind::NoHelper, goneAway);
+}
+
+// False where it is worth another try.
+bool HelperClient::introduce(const QString &objectPath)
+{
+    const QVariantList object{QVariant::fromValue(ObjectPath{objectPath})};
+    const auto answer = m_remote->call(Protocol::setApplication.key(), object, answerLimit, false);
+    if (answer.isUnserved)
+        return false;
+    if (!answer.value)
+        fail(Kind::NoHelper, QStringLiteral("no helper: %1").arg(answer.error));
     connect(m_remote.get(), &RemoteObject::vanished, this, [this] {
-        fail(Kind::NoHelper, QStringLiteral("the helper has gone away"));
+        fail(Kind::NoHelper, goneAway);
         Q_EMIT gone();
     });
+    return true;
 }
 
 void HelperClient::tellRunningHelper(const Protocol::Method &method)
@@ -74,11 +95,20 @@ void HelperClient::tellRunningHelper(const Protocol::Method &method)
     remoteHelper()->send(method.key());
 }
 
-// The bus starts the helper where it knows how to; else its executable beside ours is started.
+// The bus starts the helper where it knows how to; else its executable beside ours is started, by
+// one command at a time: a second helper would send the first away under the other's hands.
 bool HelperClient::startHelper()
 {
     if (m_remote->call(Protocol::pspIsMounted.key(), {}, startLimit).value)
         return true;
+    FileManagerTools::createPath(Folders::support());
+    const auto lock = FileManager::defaultManager().lock(
+        Folders::support() + QStringLiteral("/.starting"), startLimit);
+    return m_remote->isAvailable() || startOwnHelper();
+}
+
+bool HelperClient::startOwnHelper()
+{
     const QString program = Bundle(helperBundle()).executable();
     if (program.isEmpty())
         fail(Kind::NoHelper,
@@ -109,18 +139,18 @@ QVariant HelperClient::ask(const Protocol::Method &method, const QVariantList &a
     const RemoteObject::Answer answer = m_remote->call(method.key(), arguments, answerLimit, false);
     if (answer.value)
         return *answer.value;
-    if (m_remote->isAvailable())
+    if (m_remote->isAvailable() && !answer.isUnserved)
         fail(Kind::Refused, QStringLiteral("%1: %2").arg(method.name, answer.error));
     else
-        fail(Kind::NoHelper, QStringLiteral("the helper has gone away"));
+        fail(Kind::NoHelper, goneAway);
     return {};
 }
 
 HelperState HelperClient::state()
 {
-    return {
+    const bool wasSyncing = askBool(Protocol::isSyncing);
+    HelperState state{
         .mounted = askBool(Protocol::pspIsMounted),
-        .syncing = askBool(Protocol::isSyncing),
         .canCancel = askBool(Protocol::canCancelSync),
         .indeterminate = askBool(Protocol::isIndeterminate),
         .statusText = askText(Protocol::statusText),
@@ -130,6 +160,9 @@ HelperState HelperClient::state()
         .converting = askBool(Protocol::isConvertingMovie),
         .percentConverted = askText(Protocol::percentConverted),
     };
+    // What was read in between is then of the run.
+    state.syncing = wasSyncing && askBool(Protocol::isSyncing);
+    return state;
 }
 
 bool HelperClient::isHelperText(const QString &text, const char *english)

@@ -31,8 +31,9 @@ public:
     HelperClient();
     ~HelperClient() override;
 
-    /// Finds the helper, starting it when none runs (20 s at most).
-    void connectToHelper();
+    /// Finds the helper, starting it when none runs (20 s at most), and hands it the front-end's
+    /// object at that path of this process's.
+    void connectToHelper(const QString &objectPath);
 
     /// Sends a oneway call without arguments to the helper if one runs.
     static void tellRunningHelper(const Protocol::Method &method);
@@ -54,11 +55,13 @@ public:
     const std::optional<HelperFailure> &failure() const { return m_failure; }
 
 Q_SIGNALS:
-    /// The helper has left the bus: failed() holds from now on.
+    /// The helper has left the bus, or given its place to another: failed() holds from now on.
     void gone();
 
 private:
+    bool introduce(const QString &objectPath);
     bool startHelper();
+    bool startOwnHelper();
     bool waitUntilThere();
     void fail(HelperFailure::Kind kind, const QString &text);
 

@@ -195,6 +195,9 @@ namespace FrontEnd {
 
 inline constexpr QStringView interface = u"org.caravel.CaravelFrontEnd";
 
+/// How the object's path ends in a command that asks one question and goes: it shows no alert.
+inline constexpr QStringView queryEnding = u"/Query";
+
 /// Whether the helper is to stay for it; asked for a second at most.
 inline constexpr Method isOpen{u"isOpen", {}, u"b"};
 /// The style is 0 for a warning, 1 for information, 2 for what is critical.

@@ -71,7 +71,7 @@ public:
     quint64 syncBytesTotal() const { return m_syncBytesTotal; }
     quint64 syncBytes() const { return m_syncBytes; }
 
-    /// From now on no run and no estimate starts; for a process that is about to end.
+    /// From now on no run, no estimate and no eject starts; for a process that is about to end.
     void close();
 
     /// What the active run does; null before it is known, and while none is active.
@@ -88,19 +88,25 @@ public:
     /// Asks the active run to stop; nothing where none is active or a cancel is pending. Any
     /// thread.
     void cancelSync() override;
-    /// Unmounts and ejects the stick, waiting for the outcome. Main thread or the run's.
+    /// Has a worker unmount and eject the stick, as long as that takes; nothing while a run or
+    /// another eject is active. A failure is told by pspUnmountFailed().
     void eject();
 
     // --- The estimate
 
-    /// Starts a computation of the selection's size; newSyncBytesEstimate() tells its end, or
-    /// the last one where it can't be started.
+    /// Has the selection's size computed; newSyncBytesEstimate() tells the end of a computation
+    /// that began after the call, or the last size where none can be started. Two work at most at a
+    /// time, and calls that come meanwhile share the next one.
     void refreshSyncBytesEstimate();
     /// Bytes of the current selection as last computed.
     quint64 syncBytesEstimate() const { return m_syncBytesEstimate; }
     /// The same in per cent of the room a sync can use, cut to a whole number; 0 where nothing is
     /// known of the stick.
     quint32 syncPercentEstimate();
+
+Q_SIGNALS:
+    /// What eject() was asked for is done. Another stick may be the PSP's now.
+    void ejected();
 
 private:
     // Detection
@@ -122,6 +128,8 @@ private:
     void setRunVolume(const QString &volume);
     bool endRun();
     void finishRun(RunReport report);
+    void beginEject();
+    bool endEject(bool succeeded);
 
     // What a run asks for and tells
     void setPlan(std::shared_ptr<const SyncPlan> plan) override;
@@ -140,6 +148,7 @@ private:
 
     // The estimate, on its own thread
     void _refreshSyncBytesEstimate();
+    bool endEstimate();
 
     // Fixed after construction
     const SyncServices m_services;
@@ -158,8 +167,12 @@ private:
     QString m_heldBackFor;
     QString m_lookedAt;
 
-    bool m_isClosed = false; // under m_runMutex
-    std::mutex m_runMutex;   // makes the steps into and out of a run, and into a cancel, one each
+    // Under m_runMutex, which makes the steps into and out of a run, into a cancel, into an eject,
+    // and into and out of an estimate, one each
+    std::mutex m_runMutex;
+    bool m_isClosed = false;
+    int m_estimates = 0;          // that work now
+    bool m_estimateWaits = false; // for one of them to end
 
     // Written by one party at a time, read by any
     std::atomic<bool> m_pspIsMounted = false;

@@ -3,17 +3,45 @@
 #include "sync/SyncPlanner.h"
 #include "util/Settings.h"
 
+#include <utility>
+
+namespace {
+
+constexpr int mostEstimates = 2;
+
+} // namespace
+
 void CVSyncManager::refreshSyncBytesEstimate()
 {
     {
         const std::scoped_lock lock(m_runMutex);
-        if (m_isClosed || Workers::start([this] { _refreshSyncBytesEstimate(); }))
+        m_estimateWaits = m_estimates == mostEstimates;
+        if (m_isClosed || m_estimateWaits)
             return;
+        const auto work = [this] {
+            do
+                _refreshSyncBytesEstimate();
+            while (!endEstimate());
+        };
+        if (Workers::start(work, Workers::AtQuit::Leave)) {
+            ++m_estimates;
+            return;
+        }
     }
     // Whoever waits for the new estimate has the last one to go by.
     tell([total = syncBytesEstimate()](CVSyncManagerDelegate &delegate) {
         delegate.newSyncBytesEstimate(total);
     });
+}
+
+// False where another one waits, to be made by the same worker.
+bool CVSyncManager::endEstimate()
+{
+    const std::scoped_lock lock(m_runMutex);
+    if (std::exchange(m_estimateWaits, false) && !m_isClosed)
+        return false;
+    --m_estimates;
+    return true;
 }
 
 void CVSyncManager::_refreshSyncBytesEstimate()

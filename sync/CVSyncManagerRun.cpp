@@ -44,7 +44,7 @@ void CVSyncManager::start()
 {
     {
         const std::scoped_lock lock(m_runMutex);
-        if (m_isSyncing || m_isClosed)
+        if (m_isSyncing || m_isClosed || m_pspIsUnmounting)
             return;
         m_isSyncing = true;
         m_isIndeterminate = true;
@@ -92,7 +92,7 @@ std::shared_ptr<const SyncPlan> CVSyncManager::runPlan() const
 
 bool CVSyncManager::canSync()
 {
-    return pspIsMounted() && !m_isSyncing;
+    return pspIsMounted() && !m_isSyncing && !m_pspIsUnmounting;
 }
 
 bool CVSyncManager::canCancelSync() const
@@ -141,21 +141,46 @@ bool CVSyncManager::endRun()
 
 void CVSyncManager::eject()
 {
-    ejectVolume(pspVolume());
+    m_forItself.forget();
+    {
+        const std::scoped_lock lock(m_runMutex);
+        if (m_isSyncing || m_isClosed || m_pspIsUnmounting)
+            return;
+        beginEject();
+    }
+    tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
+    const bool isStarted = Workers::start([this, volume = pspVolume()] {
+        // After the scan that the volume's going has queued.
+        if (endEject(m_services.volumes.unmountAndEject(volume)))
+            performOnMainThread(
+                this, [this] { Q_EMIT ejected(); }, CallMode::DontWait);
+    });
+    if (!isStarted)
+        endEject(false);
 }
 
 void CVSyncManager::ejectVolume(const QString &volume)
 {
     performOnMainThread(
         this, [this] { m_forItself.forget(); }, CallMode::Wait);
+    beginEject();
+    tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
+    endEject(m_services.volumes.unmountAndEject(volume));
+}
+
+void CVSyncManager::beginEject()
+{
     m_isIndeterminate = true;
     m_pspIsUnmounting = true;
-    tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
-    const bool ejected = m_services.volumes.unmountAndEject(volume);
-    m_pspIsUnmounting = false;
+}
+
+bool CVSyncManager::endEject(bool succeeded)
+{
     m_isIndeterminate = false;
-    if (!ejected)
+    m_pspIsUnmounting = false;
+    if (!succeeded)
         tell([](CVSyncManagerDelegate &delegate) { delegate.pspUnmountFailed(); });
+    return succeeded;
 }
 
 void CVSyncManager::tell(const std::function<void(CVSyncManagerDelegate &)> &callback)

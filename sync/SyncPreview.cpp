@@ -70,7 +70,7 @@ void SyncPreview::start()
             },
             CallMode::DontWait);
     };
-    if (m_volume.isEmpty() || !Workers::start(work))
+    if (m_volume.isEmpty() || !Workers::start(work, Workers::AtQuit::Leave))
         finish(nullptr);
 }
 

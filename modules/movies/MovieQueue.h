@@ -62,6 +62,8 @@ public:
     void removeMovieItem(const QVariantMap &row);
     void renameMovieItem(const QVariantMap &row, const QString &newName);
 
+    /// Whether movies wait or are being converted.
+    bool hasWork() const { return m_movieQueueTimer.isActive() || isBusy(); }
     bool isConvertingMovie() const { return m_convertTask && m_convertTask->isRunning(); }
     QString percentConverted() const { return m_percentConverted; }
 

@@ -266,6 +266,12 @@ bool NamedConnection::registerName(const QString &connectionName)
     return answer.value() == QDBusConnectionInterface::ServiceRegistered;
 }
 
+bool NamedConnection::hasName(const QString &connectionName) const
+{
+    QDBusConnectionInterface *bus = d->bus.interface();
+    return bus && bus->serviceOwner(busName(connectionName)).value() == d->bus.baseService();
+}
+
 void NamedConnection::invalidate()
 {
     for (const QString &name : d->names)

@@ -63,6 +63,8 @@ public:
     /// Claims the name. False when another process has it: this one goes on without it, and gets it
     /// when the other leaves.
     bool registerName(const QString &connectionName);
+    /// Whether this process has that name now.
+    bool hasName(const QString &connectionName) const;
 
     /// Gives the name back and serves nothing any more. May be called by a method being served.
     void invalidate();

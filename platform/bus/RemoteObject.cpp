@@ -11,6 +11,20 @@
 
 #include <limits>
 
+namespace {
+
+RemoteObject::Answer answerIn(const QDBusMessage &reply)
+{
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return {BusValues::toPlain(reply.arguments().value(0)), {}};
+    const auto error = QDBusError(reply).type();
+    return {std::nullopt, reply.errorMessage(),
+            error == QDBusError::ServiceUnknown || error == QDBusError::UnknownObject ||
+                reply.errorName() == u"org.freedesktop.DBus.Error.NameHasNoOwner"};
+}
+
+} // namespace
+
 class RemoteObject::Private
 {
 public:
@@ -19,9 +33,7 @@ public:
         , m_path(std::move(path))
         , m_interface(std::move(interfaceName))
         , m_bus(QDBusConnection::sessionBus())
-        , m_watcher(m_service, m_bus,
-                    QDBusServiceWatcher::WatchForRegistration |
-                        QDBusServiceWatcher::WatchForUnregistration)
+        , m_watcher(m_service, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
     {
     }
 
@@ -43,9 +55,13 @@ RemoteObject::RemoteObject(QString service, QString path, QString interfaceName,
     : QObject(parent)
     , d(std::make_unique<Private>(std::move(service), std::move(path), std::move(interfaceName)))
 {
-    connect(&d->m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &RemoteObject::appeared);
-    connect(&d->m_watcher, &QDBusServiceWatcher::serviceUnregistered, this,
-            &RemoteObject::vanished);
+    connect(&d->m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &before, const QString &now) {
+                if (!before.isEmpty())
+                    Q_EMIT vanished();
+                if (!now.isEmpty())
+                    Q_EMIT appeared();
+            });
 }
 
 RemoteObject::~RemoteObject() = default;
@@ -64,19 +80,30 @@ void RemoteObject::send(const QString &method, const QVariantList &arguments)
                   qUtf16Printable(d->m_service), qUtf16Printable(d->m_bus.lastError().message()));
 }
 
-void RemoteObject::send(const QString &method, const QVariantList &arguments, QObject *context,
-                        std::function<void()> failed)
+void RemoteObject::ask(const QString &method, const QVariantList &arguments, QObject *context,
+                       std::function<void(const Answer &)> answered)
 {
     QDBusMessage call = d->message(method, arguments);
     call.setAutoStartService(false);
     constexpr int noLimit = std::numeric_limits<int>::max();
     auto *watcher = new QDBusPendingCallWatcher(d->m_bus.asyncCall(call, noLimit), context);
     connect(watcher, &QDBusPendingCallWatcher::finished, context,
-            [watcher, failed = std::move(failed)] {
-                if (watcher->isError())
-                    failed();
+            [watcher, answered = std::move(answered)] {
+                answered(answerIn(watcher->reply()));
                 watcher->deleteLater();
             });
+}
+
+std::function<RemoteObject::Answer()> RemoteObject::begin(const QString &method,
+                                                          const QVariantList &arguments,
+                                                          std::chrono::milliseconds limit)
+{
+    QDBusMessage call = d->message(method, arguments);
+    call.setAutoStartService(false);
+    return [pending = d->m_bus.asyncCall(call, static_cast<int>(limit.count()))]() mutable {
+        pending.waitForFinished();
+        return answerIn(pending.reply());
+    };
 }
 
 RemoteObject::Answer RemoteObject::call(const QString &method, const QVariantList &arguments,
@@ -84,10 +111,7 @@ RemoteObject::Answer RemoteObject::call(const QString &method, const QVariantLis
 {
     QDBusMessage call = d->message(method, arguments);
     call.setAutoStartService(startService);
-    const QDBusMessage reply = d->m_bus.call(call, QDBus::Block, static_cast<int>(limit.count()));
-    if (reply.type() != QDBusMessage::ReplyMessage)
-        return {std::nullopt, reply.errorMessage()};
-    return {BusValues::toPlain(reply.arguments().value(0)), {}};
+    return answerIn(d->m_bus.call(call, QDBus::Block, static_cast<int>(limit.count())));
 }
 
 bool RemoteObject::isAvailable() const

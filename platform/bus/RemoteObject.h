@@ -36,28 +36,34 @@ public:
     /// QVariantList of QVariantMap "aa{sv}", ObjectPath "o".
     void send(const QString &method, const QVariantList &arguments = {});
 
-    /// The same for a call that must not get lost: `failed` is called once, as long as `context`
-    /// lives, when the object refuses it, isn't there, or goes without having answered.
-    void send(const QString &method, const QVariantList &arguments, QObject *context,
-              std::function<void()> failed);
-
     struct Answer
     {
         std::optional<QVariant> value; ///< nothing: the call failed; an invalid variant: no result
         QString error;                 ///< the failure's text
+        bool isUnserved = false;       ///< nobody served such an object: nothing was done
     };
+
+    /// Sends a call and goes on: `answered` is called once with what became of it, as long as
+    /// `context` lives. There is no limit.
+    void ask(const QString &method, const QVariantList &arguments, QObject *context,
+             std::function<void(const Answer &)> answered);
 
     /// Calls and waits for the answer, without serving the event loop. Dictionaries, lists and
     /// strings come as plain Qt values.
     Answer call(const QString &method, const QVariantList &arguments,
                 std::chrono::milliseconds limit, bool startService = true);
 
+    /// The same in two steps, so that several objects can be asked at once: the call is sent, and
+    /// what comes back waits for its answer. The service is not started for it.
+    std::function<Answer()> begin(const QString &method, const QVariantList &arguments,
+                                  std::chrono::milliseconds limit);
+
     /// Whether a process has the service's name now. What is asked after the construction is
     /// complete with the signals: a process that leaves after a "yes" is reported by vanished().
     bool isAvailable() const;
 
 Q_SIGNALS:
-    /// The process that had the name has left the bus.
+    /// The process that had the name has left the bus, or given the name to another.
     void vanished();
     /// A process has taken the name.
     void appeared();

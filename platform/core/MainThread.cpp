@@ -180,12 +180,20 @@ void attachCallQueue()
 }
 
 std::atomic<int> liveWorkers = 0;
+std::atomic<int> awaitedWorkers = 0;
 
-void runWorker(std::function<void()> work)
+void countWorker(Workers::AtQuit atQuit, int change)
+{
+    liveWorkers += change;
+    if (atQuit == Workers::AtQuit::Wait)
+        awaitedWorkers += change;
+}
+
+void runWorker(std::function<void()> work, Workers::AtQuit atQuit)
 {
     work();
     work = nullptr;
-    --liveWorkers;
+    countWorker(atQuit, -1);
     performOnMainThread(
         nullptr, [] {}, CallMode::DontWait); // wakes serveUntilFinished()
 }
@@ -234,15 +242,15 @@ static void leaveUnderWorkers()
         std::_Exit(EXIT_FAILURE);
 }
 
-bool Workers::start(std::function<void()> work)
+bool Workers::start(std::function<void()> work, AtQuit atQuit)
 {
     [[maybe_unused]] static const int registered = std::atexit(leaveUnderWorkers);
-    ++liveWorkers;
+    countWorker(atQuit, 1);
     try {
-        std::thread(runWorker, std::move(work)).detach();
+        std::thread(runWorker, std::move(work), atQuit).detach();
         return true;
     } catch (const std::system_error &error) {
-        --liveWorkers;
+        countWorker(atQuit, -1);
         qCWarning(lcPlatform, "Can't start a thread: %s", error.what());
         return false;
     }
@@ -253,14 +261,19 @@ int Workers::live()
     return liveWorkers.load();
 }
 
-bool Workers::serveUntilFinished(std::chrono::milliseconds limit)
+int Workers::awaited()
+{
+    return awaitedWorkers.load();
+}
+
+bool Workers::serveUntilFinished(std::chrono::milliseconds limit, int (*count)())
 {
     const QDeadlineTimer deadline(limit);
     QTimer end; // wakes the loop when the time is over
     end.setSingleShot(true);
     end.start(limit);
     QEventLoop loop;
-    while (live() > 0 && !deadline.hasExpired())
+    while (count() > 0 && !deadline.hasExpired())
         loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-    return live() == 0;
+    return count() == 0;
 }

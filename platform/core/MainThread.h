@@ -33,15 +33,19 @@ bool isMainThread();
 /// once, with a failure's status and without running destructors.
 namespace Workers {
 
+/// Whether a process that quits waits for it, or leaves it to end with the process.
+enum class AtQuit { Wait, Leave };
+
 /// Runs `work` on a new detached thread. False where the system has no thread to give: the reason
 /// is in the system log, and `work` is never run. Any thread.
-[[nodiscard]] bool start(std::function<void()> work);
+[[nodiscard]] bool start(std::function<void()> work, AtQuit atQuit = AtQuit::Wait);
 
-/// How many workers have not finished yet. Any thread.
+/// How many workers have not finished yet, and how many of these a quit waits for. Any thread.
 int live();
+int awaited();
 
-/// Main thread only: serves the event loop until no worker lives or the time is over; returns
-/// whether none lives any more.
-bool serveUntilFinished(std::chrono::milliseconds limit);
+/// Main thread only: serves the event loop until none is counted any more or the time is over;
+/// returns whether none is.
+bool serveUntilFinished(std::chrono::milliseconds limit, int (*count)() = live);
 
 } // namespace Workers

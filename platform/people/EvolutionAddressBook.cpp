@@ -142,10 +142,11 @@ void readSideBySide(GList *sources, Reading &reading)
     size_t book = 0;
     for (GList *each = sources; each; each = each->next, ++book) {
         ESource *const source = E_SOURCE(each->data);
-        const bool isRead = Workers::start([book, source, &reading, unread] {
+        const auto read = [book, source, &reading, unread] {
             readBook(book, source, reading);
             unread->count_down();
-        });
+        };
+        const bool isRead = Workers::start(read, Workers::AtQuit::Leave);
         if (!isRead) {
             reading.fail(cantRead, nameOf(source), because("there is no thread for it"));
             unread->count_down();
@@ -213,10 +214,11 @@ People evolutionPeople(std::chrono::milliseconds limit)
 {
     // A thread that can be left behind: not every call of the library's can be cancelled.
     const auto reading = std::make_shared<Reading>();
-    const bool isRead = Workers::start([reading] {
+    const auto read = [reading] {
         readBooks(*reading);
         reading->finish();
-    });
+    };
+    const bool isRead = Workers::start(read, Workers::AtQuit::Leave);
     if (!isRead) {
         reading->fail(noService, {}, because("there is no thread for it"));
         reading->finish();

@@ -279,6 +279,14 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <translation>Keine Beschreibung verfügbar</translation>
     </message>
     <message>
+        <source>Can't eject the PSP now!</source>
+        <translation>Die PSP kann jetzt nicht ausgeworfen werden!</translation>
+    </message>
+    <message>
+        <source>The PSP can't be ejected during a sync.</source>
+        <translation>Die PSP kann während einer Synchronisierung nicht ausgeworfen werden.</translation>
+    </message>
+    <message>
         <source>Can't change backups now!</source>
         <translation>Sicherungen können jetzt nicht geändert werden!</translation>
     </message>

@@ -279,6 +279,14 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <translation>No hay descripción disponible</translation>
     </message>
     <message>
+        <source>Can't eject the PSP now!</source>
+        <translation>No se puede expulsar la PSP ahora</translation>
+    </message>
+    <message>
+        <source>The PSP can't be ejected during a sync.</source>
+        <translation>No se puede expulsar la PSP durante una sincronización.</translation>
+    </message>
+    <message>
         <source>Can't change backups now!</source>
         <translation>No se pueden cambiar las copias de seguridad ahora</translation>
     </message>

@@ -279,6 +279,14 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <translation>Aucune description disponible</translation>
     </message>
     <message>
+        <source>Can't eject the PSP now!</source>
+        <translation>Impossible d’éjecter la PSP maintenant !</translation>
+    </message>
+    <message>
+        <source>The PSP can't be ejected during a sync.</source>
+        <translation>La PSP ne peut pas être éjectée pendant une synchronisation.</translation>
+    </message>
+    <message>
         <source>Can't change backups now!</source>
         <translation>Impossible de modifier les sauvegardes maintenant !</translation>
     </message>

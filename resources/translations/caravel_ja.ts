@@ -279,6 +279,14 @@ Please deselect some media to ensure the sync can be completed.</source>
         <translation>説明はありません</translation>
     </message>
     <message>
+        <source>Can't eject the PSP now!</source>
+        <translation>今は PSP を取り出せません</translation>
+    </message>
+    <message>
+        <source>The PSP can't be ejected during a sync.</source>
+        <translation>同期中は PSP を取り出せません。</translation>
+    </message>
+    <message>
         <source>Can't change backups now!</source>
         <translation>今はバックアップを変更できません</translation>
     </message>

@@ -1,6 +1,6 @@
 #include "app/SyncStatus.h"
 
-#include "app/FrontEnd.h"
+#include "app/FrontEnds.h"
 #include "app/Plans.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
@@ -22,14 +22,14 @@ protected:
     QMLogger logger;
     const ModuleCatalogue kinds;
     Plans plans{kinds, harness.manager};
-    FrontEnd frontEnd;
+    FrontEnds frontEnds;
     FakeStatusBar statusBar;
     FakeAlerts alerts;
     FakeSounds sounds;
     StatusMenu menu{harness.manager, {}};
     StatusIcon icon{statusBar, harness.manager};
     SyncStatus status{
-        {harness.manager, logger, plans, frontEnd, menu, icon, alerts, sounds, harness.clock, [] {
+        {harness.manager, logger, plans, frontEnds, menu, icon, alerts, sounds, harness.clock, [] {
          }}};
     const SystemLogCapture system;
 

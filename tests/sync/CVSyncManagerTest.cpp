@@ -13,6 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <semaphore>
+
 TEST(Detection, TellsSticksFromOtherVolumes)
 {
     const struct
@@ -237,6 +240,27 @@ TEST(Estimate, AddsTheSelectionAndSetsItAgainstTheRoom)
         EXPECT_EQ(harness.delegate.events.last(), u"newSyncBytesEstimate %1"_s.arg(c.bytes));
         EXPECT_EQ(harness.manager.syncPercentEstimate(), c.percent);
     }
+}
+
+TEST(Estimate, HasTwoAtWorkAtMostAndOneThatWaits)
+{
+    std::counting_semaphore<> mayEnd(0);
+    std::atomic<int> begun = 0;
+    const ListModule::Wishes wishes{[&] {
+                                        ++begun;
+                                        mayEnd.acquire();
+                                        return std::vector<CVSyncItem>();
+                                    },
+                                    u"/x"_s};
+    SyncHarness harness({ListModule::kind(u"Music"_s, wishes)});
+    for (int call = 0; call < 5; ++call)
+        harness.manager.refreshSyncBytesEstimate();
+    EXPECT_TRUE(waitFor([&] { return begun == 2; }));
+    EXPECT_EQ(Workers::live(), 2);
+    EXPECT_EQ(Workers::awaited(), 0) << "by a helper that quits";
+    mayEnd.release(3);
+    SyncHarness::settle();
+    EXPECT_EQ(harness.delegate.count(u"newSyncBytesEstimate 0"_s), 3);
 }
 
 TEST(Threads, ThatCannotStartEndARunAndAnEstimateAtOnce)
