@@ -5,13 +5,14 @@ set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: install-dependencies.sh [--lint] [--fuzz] [--bench]
+Usage: install-dependencies.sh [--lint] [--fuzz] [--bench] [--lab]
 Installs the missing ones of the Debian packages that this project needs (as root or through sudo).
 
   --lint   also what scripts/lint.sh runs: clang-format, clang-tidy, git and the checkers of desktop
            files and man pages
   --fuzz   also what scripts/fuzz.sh builds with: clang, its sanitizers and its symbolizer
   --bench  also what scripts/bench.sh compares with and looks through: rsync, rclone, strace
+  --lab    also what scripts/lab.sh boots: qemu, a kernel, and what a desktop mounts sticks with
 EOF
 }
 
@@ -31,6 +32,10 @@ while (($#)); do
     --lint) packages+=(clang-format clang-tidy git desktop-file-utils appstream groff-base) ;;
     --fuzz) packages+=(clang libclang-rt-dev llvm) ;;
     --bench) packages+=(rsync rclone strace) ;;
+    --lab)
+        packages+=(qemu-system-x86 linux-image-amd64 busybox-static kmod cpio dosfstools ntfs-3g udev udisks2
+            gvfs gvfs-daemons)
+        ;;
     -h | --help) usage; exit 0 ;;
     *) usage >&2; exit 2 ;;
     esac
