@@ -59,8 +59,12 @@ public:
             count += folder.entries.size();
         m_entries.reserve(static_cast<qsizetype>(count));
         for (const StickFolder &folder : folders) {
-            for (const FolderEntry &entry : folder.entries)
-                m_entries.insert(names.key(folder.path + u'/' + entry.path), &entry);
+            for (const FolderEntry &entry : folder.entries) {
+                const QString path = folder.path + u'/' + entry.path;
+                m_entries.insert(names.key(path), &entry);
+                if (names.confusesPaths())
+                    m_spellings.insert(names.key(path), path);
+            }
         }
     }
 
@@ -70,6 +74,17 @@ public:
         if (const auto entry = m_entries.constFind(m_names.key(path)); entry != m_entries.cend())
             return statusFrom(**entry);
         return isListed(path) ? FileStatus() : files().linkStatus(path);
+    }
+
+    /// The path as the stick has it, or its folders as they were first asked for: what the stick
+    /// takes for one is not always found under its other spelling.
+    QString spelled(const QString &path)
+    {
+        if (!m_names.confusesPaths() || !StickFiles::isOnVolume(path, m_volume))
+            return path;
+        const QString whole =
+            spelledFolder(PathComponents::folderOf(path)) + u'/' + PathComponents::lastOf(path);
+        return m_spellings.value(m_names.key(whole), whole);
     }
 
     /// The folder, or the first one on the way to it, that is a link; empty: none.
@@ -92,6 +107,20 @@ private:
         return {entry.isFolder ? Kind::Folder : entry.isLink ? Kind::Link : Kind::File, entry.size};
     }
 
+    QString spelledFolder(const QString &folder)
+    {
+        if (folder.size() <= m_volume.size())
+            return folder;
+        if (const auto known = m_spelledFolders.constFind(folder); known != m_spelledFolders.cend())
+            return *known;
+        const QString whole =
+            spelledFolder(PathComponents::folderOf(folder)) + u'/' + PathComponents::lastOf(folder);
+        auto &spelling = m_spellings[m_names.key(whole)];
+        if (spelling.isEmpty())
+            spelling = whole;
+        return m_spelledFolders[folder] = spelling;
+    }
+
     bool isListed(const QString &path) const
     {
         for (const StickFolder &folder : m_folders) {
@@ -107,6 +136,8 @@ private:
     const StickNames &m_names;
     QHash<QString, const FolderEntry *> m_entries;
     QHash<QString, QString> m_links;
+    QHash<QString, QString> m_spellings;      // by key
+    QHash<QString, QString> m_spelledFolders; // by the path as it is wanted
 };
 
 } // namespace
@@ -234,6 +265,8 @@ std::vector<MeasuredItem> SyncPlanner::measureItems(CVSyncModule &module,
         item.destination = m_names.destination(item.destination);
     wanted = Compare::fixDuplicateDestinations(std::move(wanted), m_names);
     StickListing listing(folders, m_volume, m_names);
+    for (CVSyncItem &item : wanted)
+        item.destination = listing.spelled(item.destination);
     std::vector<MeasuredItem> items;
     items.reserve(wanted.size());
     for (CVSyncItem &item : wanted) {
