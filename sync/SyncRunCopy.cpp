@@ -15,6 +15,10 @@ void SyncRun::copy()
         ItemPlacer *const placer = m_modules[i]->placer();
         copyKind(kind, placer ? *placer : m_stick);
     }
+    for (const FileError &error : files().finishClosing()) {
+        fileManagerShouldProceedAfterError(error);
+        m_report.leftOut.push_back({error.path, {}, PlannedItem::Reason::None});
+    }
 }
 
 void SyncRun::copyKind(const KindPlan &kind, ItemPlacer &placer)

@@ -1,6 +1,7 @@
 #include "platform/files/FileManager.h"
 
 #include "platform/core/own/Posix.h"
+#include "platform/files/own/LateClosing.h"
 #include "platform/files/own/MountInfo.h"
 
 #include <fcntl.h>
@@ -187,12 +188,19 @@ bool FileManager::close(int descriptor)
 
 bool FileManager::closeAndFlush(int descriptor)
 {
-    const Posix::Descriptor any(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
+    Posix::Descriptor any(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
     const bool isClosed = close(descriptor);
     const int error = errno;
     flushFileSystemOf(any);
+    if (any && LateClosing::isWorthwhile(any.get()))
+        LateClosing::close(any.release());
     errno = error;
     return isClosed;
+}
+
+std::vector<FileError> FileManager::finishClosing()
+{
+    return LateClosing::finish();
 }
 
 void FileManager::flush(const QString &path)

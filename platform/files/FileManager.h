@@ -130,8 +130,12 @@ public:
 
     /// Closes a file that was written, then writes the buffers of its file system to the device
     /// (syncfs), or those of every file system where that fails. Closing comes first: some file
-    /// systems write only then. The answer is the closing's.
+    /// systems write only then. The answer is the closing's. Where the file system makes the last
+    /// close of a file wait, that is done beside the caller, at most sixteen at a time, and
+    /// finishClosing() waits for them all and tells what failed. Not on the main thread, which
+    /// waits for nobody.
     virtual bool closeAndFlush(int descriptor);
+    virtual std::vector<FileError> finishClosing();
 
     /// Moves up to so many bytes from one open file to another without taking them through memory
     /// of ours, and advances both. How many; 0 at the source's end; -1 where it can't be done or

@@ -36,9 +36,9 @@ bool isLineOf(const QList<QByteArray> &fields, const Mount &mount)
     return mount.id.isEmpty() ? fields[2] == mount.device : fields[0] == mount.id;
 }
 
-} // namespace
-
-QByteArray MountInfo::typeOf(const QString &path)
+/// What stands behind the separator, and so behind any number of optional fields: the type, the
+/// source, the file system's options. Empty where there is no such line.
+QList<QByteArray> fileSystemOf(const QString &path)
 {
     const auto mount = mountOf(path);
     QFile table(QStringLiteral("/proc/self/mountinfo"));
@@ -46,9 +46,21 @@ QByteArray MountInfo::typeOf(const QString &path)
         return {};
     for (const QByteArray &line : table.readAll().split('\n')) {
         const QList<QByteArray> fields = line.split(' ');
-        const qsizetype separator = fields.indexOf("-"); // behind any number of optional fields
-        if (separator > 2 && separator + 1 < fields.size() && isLineOf(fields, *mount))
-            return fields[separator + 1];
+        const qsizetype separator = fields.indexOf("-");
+        if (separator > 2 && isLineOf(fields, *mount))
+            return fields.mid(separator + 1);
     }
     return {};
+}
+
+} // namespace
+
+QByteArray MountInfo::typeOf(const QString &path)
+{
+    return fileSystemOf(path).value(0);
+}
+
+QByteArrayList MountInfo::optionsOf(const QString &path)
+{
+    return fileSystemOf(path).value(2).split(',');
 }
