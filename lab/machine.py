@@ -120,7 +120,7 @@ class Machine:
                         self.qemu.stdin.write(b"done\n")
                         self.qemu.stdin.flush()
                 elif kind == "lab:" and words[0] == "begins":
-                    self.scenario, began = words[1], time.monotonic()
+                    self.scenario, began = " ".join(words[1:]), time.monotonic()
                 elif kind == "lab:":
                     self.ended(words[0], " ".join(words[1:]), time.monotonic() - began)
         alarm.cancel()

@@ -60,7 +60,10 @@ plug() {
     until_ dd if="$(device "$1")" of=/dev/null bs=4096 count=1
 }
 
-pull() { machine pull "${1:-stick}"; }
+pull() {
+    machine pull "${1:-stick}"
+    until_ eval "! device '${1:-stick}'"
+}
 
 # new_stick KIND [KIBIBYTES [MKFS-OPTION…]]: an empty stick, as a PSP leaves it when it has formatted one.
 new_stick() {
