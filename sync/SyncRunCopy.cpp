@@ -17,7 +17,7 @@ void SyncRun::copy()
     }
     for (const FileError &error : files().finishClosing()) {
         fileManagerShouldProceedAfterError(error);
-        m_report.leftOut.push_back({error.path, {}, PlannedItem::Reason::None});
+        m_report.leftOut.push_back({error.path, {}, PlannedItem::Reason::None, error.text});
     }
 }
 
