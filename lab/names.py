@@ -19,7 +19,7 @@ LETTERS = 'aAbBéÉ ..__:?*"\\|<>~%\x01\x7f日ßs\u0301\U0001f3b5-'
 class Home:
     def __init__(self, seed: int, home: Path):
         self.home, self.count, self.random = home, 0, random.Random(seed)
-        self.names = LISTED if seed == 0 else [self.rolled() for _ in range(40)]
+        self.names = LISTED if seed == 0 else [self.rolled() for _ in range(8)]
 
     def rolled(self) -> str:
         name = "".join(self.random.choice(LETTERS) for _ in range(self.random.randint(1, 9)))

@@ -219,7 +219,7 @@ dbus-daemon --config-file=/run/bus.conf --fork
 export DBUS_SESSION_BUS_ADDRESS=unix:path=/run/bus XDG_RUNTIME_DIR=/run/user
 while read -r scenario; do
     [[ -z ${LAB_SHORT:-} || $scenario != *+ ]] || continue # those with a "+" belong to the long form
-    [[ -z ${LAB_ONLY:-} || $scenario == "$LAB_ONLY" ]] || continue
+    [[ -z ${LAB_ONLY:-} || ${scenario% +} == "$LAB_ONLY" ]] || continue
     [[ $LAB_BOOT == 1 || $scenario == "$LAB_SCENARIO" || -n ${reached:-} ]] || continue
     reached=yes
     say begins "$scenario"

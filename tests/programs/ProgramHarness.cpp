@@ -9,8 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 namespace {
 
 Bundle helperBundle()
@@ -43,7 +41,6 @@ ProgramHarness::ProgramHarness()
     set(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     set(QStringLiteral("PULSE_SERVER"), QStringLiteral("/nowhere"));
     set(QStringLiteral("RESOURCES"), helperBundle().resourcePath());
-    set(QStringLiteral("MOUNT"), QStringLiteral("/media/caravel-test-%1").arg(::getpid()));
     set(QStringLiteral("PATH"), (m_folder / QStringLiteral("bin:")) +
                                     QFileInfo(QStringLiteral(CARAVEL_COMMAND)).path() + u':' +
                                     QFileInfo(QStringLiteral(CARAVEL_HELPER)).path() + u':' +
@@ -57,7 +54,6 @@ ProgramHarness::~ProgramHarness()
         m_helper.kill();
         m_helper.waitForFinished();
     }
-    shell(QStringLiteral("! [[ -e $MOUNT ]] || { umount -l $MOUNT; rmdir $MOUNT; }"));
 }
 
 void ProgramHarness::startHelper(const QStringList &options)

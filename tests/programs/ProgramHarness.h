@@ -40,7 +40,7 @@ public:
     };
     /// What bash makes of the command, in the folder: "home" is the home, a folder in "volumes" is
     /// a mounted stick, "MEMORYSTICK" is one that waits to be put there, programs in "bin" go
-    /// before others, $MOUNT may be mounted on, and $HELPER is the helper's process.
+    /// before others, and $HELPER is the helper's process.
     Outcome shell(const QString &command);
     /// Starts it and leaves it running.
     std::unique_ptr<QProcess> start(const QString &command);
