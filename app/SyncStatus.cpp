@@ -280,12 +280,19 @@ void SyncStatus::syncDidFinish(const RunReport &report)
 {
     m_services.icon.stopSyncAnimation();
     m_services.frontEnds.updateSyncBytes();
+    // Before the end, at which a front-end that waits for it leaves.
+    if (report.isStickLost)
+        doAlert(localized("PSP lost during sync!"),
+                localized("The PSP was disconnected, or its Memory Stick can't be written any "
+                          "more, before the sync was complete.\n\nYou must re-sync to ensure the "
+                          "PSP is up to date."),
+                AlertStyle::Critical);
     m_services.frontEnds.syncDidFinish(report.isComplete);
     if (report.isComplete && report.hiddenFiles > 0)
         m_services.logger.log(QStringLiteral("Files in deeper folders than the PSP shows: %@"),
                               QString::number(report.hiddenFiles));
     if (!report.isComplete)
-        syncWasCancelled(report);
+        syncWasCancelled();
     else if (report.failures() > 0)
         syncWasIncomplete(report);
     else
@@ -326,18 +333,12 @@ void SyncStatus::logLeftOut(const RunReport &report)
     }
 }
 
-void SyncStatus::syncWasCancelled(const RunReport &report)
+void SyncStatus::syncWasCancelled()
 {
     if (!Settings::useDetailedLogging())
         m_services.logger.log(localized("Sync was cancelled."));
     setStatusText(localized("Sync Cancelled"));
     setStatusSubText(localized("You must re-sync to ensure the PSP is up to date."));
-    if (report.isStickLost)
-        doAlert(localized("PSP lost during sync!"),
-                localized("The PSP was disconnected, or its Memory Stick can't be written any "
-                          "more, before the sync was complete.\n\nYou must re-sync to ensure the "
-                          "PSP is up to date."),
-                AlertStyle::Critical);
 }
 
 void SyncStatus::newSyncBytesEstimate(quint64 bytes)

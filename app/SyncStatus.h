@@ -84,7 +84,7 @@ private:
     void notifyUserInterface();
     QString lastSyncText() const;
     void memoryStickFilled();
-    void syncWasCancelled(const RunReport &report);
+    void syncWasCancelled();
     void syncWasIncomplete(const RunReport &report);
     void syncWasSuccessful();
     void logLeftOut(const RunReport &report);

@@ -4,6 +4,7 @@
 # a helper of its own. A command that fails ends its scenario as failed.
 #
 # The sticks' disks go by name ("stick", "other"); each is 8 GiB, whatever its file system takes of it.
+# shellcheck disable=SC2119,SC2120,SC2153 # the stories call with arguments, machine.py sets LAB_…
 set -uo pipefail
 export PATH=/project/$LAB_BUILD/Caravel/Contents/bin:/project/lab:/usr/sbin:/usr/bin:/sbin:/bin
 export LC_ALL=C.UTF-8 SYSTEMD_IGNORE_CHROOT=1 GIO_USE_VFS=local GIO_USE_VOLUME_MONITOR=unix

@@ -88,11 +88,12 @@ make_initrd
 export LAB_KERNEL LAB_INITRD LAB_PROJECT LAB_BUILD
 
 play() {
-    local story=${1%% *} folder
+    local story=${1%% *} folder scenario=
+    [[ $1 != *" "* ]] || scenario=${1#* }
     folder=build/lab/$story
     mkdir -p "$folder"
     rm -f -- "$folder"/*
-    LAB_ONLY=$(sed 's/^[^ ]* *//' <<<"$1") lab/machine.py "$story" "$folder" >"$folder/rows" || true
+    LAB_ONLY=$scenario lab/machine.py "$story" "$folder" >"$folder/rows" || true
     rm -f -- "$folder"/*.img
     awk -F '\t' '{ printf "%-36s %7d  %s%s\n", $1, $2, $3, ($4 == "" ? "" : ": " $4) }' "$folder/rows"
     cat "$folder/rows" >&3
