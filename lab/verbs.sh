@@ -29,9 +29,9 @@ skip() {
     exit 77
 }
 
-# Waits for a command to succeed, half a minute unless LIMIT says otherwise (seconds).
+# Waits for a command to succeed, two minutes unless LIMIT says otherwise (seconds).
 until_() {
-    local end=$((SECONDS + ${LIMIT:-30}))
+    local end=$((SECONDS + ${LIMIT:-120}))
     until "$@" >/dev/null 2>&1; do
         ((SECONDS < end)) || fail "never: $*"
         sleep 0.05
@@ -111,9 +111,9 @@ writes() { awk '{ print $5 }' "/sys/block/$(basename "$(device)")/stat"; }
 written_bytes() { awk '{ print $7 * 512 }' "/sys/block/$(basename "$(device)")/stat"; }
 
 # Every name on the stick's media folders, and what lies there.
-names_on_stick() { (cd $place && find MP_ROOT PSP/MUSIC PSP/PHOTO 2>/dev/null | LC_ALL=C sort); }
+names_on_stick() { (cd $place && find MP_ROOT PSP/MUSIC PSP/PHOTO 2>/dev/null || true) | LC_ALL=C sort; }
 # "SUM  PATH" of each file.
-sums_in() { find "$@" -type f -exec sha1sum -- {} + 2>/dev/null | sed 's/^\\//' | sort; }
+sums_in() { { find "$@" -type f -exec sha1sum -- {} + 2>/dev/null || true; } | sed 's/^\\//' | sort; }
 
 # Each file that is wanted lies on the stick once, byte for byte, and nothing else does.
 stick_holds_all() {
@@ -161,6 +161,13 @@ status_is_not() { ! status_is "$@"; }
 stick_is_known() { ask pspIsMounted | grep -q true; }
 run_is_over() { ask isSyncing | grep -q false; }
 
+# Has the helper start one and goes on when it is at work, its pause before that over.
+sync_begins() {
+    busctl --user call $bus_name /CaravelHelper org.caravel.CaravelHelperProtocol syncNow 'a{sv}' 0
+    until_ status_is 'Preparing to Sync...'
+    until_ status_is_not 'Preparing to Sync...'
+}
+
 # Syncs by hand; what is said stays in /tmp/said. sync_says TEXT [EXIT-STATUS]
 sync_says() {
     until_ stick_is_known
@@ -185,7 +192,7 @@ scenarios() { sed -n 's/^## //p' "$story"; }
 part() { awk -v name="$1" '/^## / { found = substr($0, 4); next } found == name' "$story"; }
 
 play() {
-    rm -rf /tmp/reason /tmp/helper.log /tmp/said
+    rm -rf /tmp/reason /tmp/*.log /tmp/said
     (
         set -eE
         trap 'echo "$BASH_COMMAND" >>/tmp/reason; exit 1' ERR
@@ -199,7 +206,7 @@ play() {
     0) say passed ;;
     77) say skipped "$(head -n 1 /tmp/reason)" ;;
     *)
-        tail -n 40 /tmp/said /tmp/helper.log 2>/dev/null
+        tail -n 40 /tmp/said /tmp/*.log 2>/dev/null
         say failed "$(head -n 1 /tmp/reason 2>/dev/null)"
         ;;
     esac

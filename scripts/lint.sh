@@ -43,7 +43,7 @@ check_format() {
 
 check_scripts() {
     local shell python file
-    mapfile -t shell < <(sources 'scripts/*.sh' 'resources/*.sh' '.ci/run')
+    mapfile -t shell < <(sources 'scripts/*.sh' 'lab/*.sh' 'resources/*.sh' '.ci/run')
     mapfile -t python < <(sources '*.py')
     for file in "${shell[@]}"; do
         bash -n "$file"
