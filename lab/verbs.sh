@@ -111,7 +111,7 @@ writes() { awk '{ print $5 }' "/sys/block/$(basename "$(device)")/stat"; }
 written_bytes() { awk '{ print $7 * 512 }' "/sys/block/$(basename "$(device)")/stat"; }
 
 # Every name on the stick's media folders, and what lies there.
-names_on_stick() { (cd $place && find MP_ROOT PSP/MUSIC PSP/PHOTO 2>/dev/null || true) | LC_ALL=C sort; }
+names_on_stick() { { find $place/MP_ROOT $place/PSP/MUSIC $place/PSP/PHOTO 2>/dev/null || true; } | sort; }
 # "SUM  PATH" of each file.
 sums_in() { { find "$@" -type f -exec sha1sum -- {} + 2>/dev/null || true; } | sed 's/^\\//' | sort; }
 
