@@ -207,6 +207,8 @@ play() {
     77) say skipped "$(head -n 1 /tmp/reason)" ;;
     *)
         tail -n 40 /tmp/said /tmp/*.log 2>/dev/null
+        dmesg | tail -n 8
+        grep " $place " /proc/mounts
         say failed "$(head -n 1 /tmp/reason 2>/dev/null)"
         ;;
     esac
