@@ -1,6 +1,7 @@
 #include "app/FrontEndProtocol.h"
 
 #include "app/CaravelHelperController.h"
+#include "app/Sources.h"
 #include "modules/movies/CVSyncMovies.h"
 #include "platform/lists/UserDefaults.h"
 #include "protocol/ServedMethods.h"
@@ -96,15 +97,6 @@ void bindPlans(ServedMethods &served, Plans &plans)
     });
 }
 
-void bindRecord(ServedMethods &served, const RunRecord &record)
-{
-    served.answer(Protocol::lastRunSummary, [&record] { return record.summary(); });
-    served.bind(Protocol::lastRunItems, [&record](Request request) {
-        const QVariantList &given = request.arguments;
-        return QVariant(record.items(given[0].toUInt(), given[1].toUInt()));
-    });
-}
-
 void bindLists(ServedMethods &served, CaravelHelperController &helper)
 {
     SelectionLists &lists = helper.lists();
@@ -116,6 +108,11 @@ void bindLists(ServedMethods &served, CaravelHelperController &helper)
             lists.setSelected(saveName, request.arguments.first().toStringList());
         });
     }
+}
+
+void bindSources(ServedMethods &served)
+{
+    served.answer(Protocol::sources, [] { return Sources::rows(); });
 }
 
 void bindMovies(ServedMethods &served, MovieQueue &movies)
@@ -156,8 +153,8 @@ std::vector<RemoteMethod> methods(CaravelHelperController &controller)
     bindState(served, controller);
     bindEstimate(served, controller.syncManager());
     bindPlans(served, controller.plans());
-    bindRecord(served, controller.record());
     bindLists(served, controller);
+    bindSources(served);
     bindMovies(served, controller.movies());
     bindBackups(served, controller);
     return served.take(Protocol::helperMethods);

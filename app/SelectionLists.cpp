@@ -30,6 +30,8 @@ struct Kind
 
 Kind kindOf(const MusicLibrary::Playlist &playlist)
 {
+    if (playlist.isFolder)
+        return {QStringLiteral("Folder16"), 4};
     if (playlist.isMaster)
         return {QStringLiteral("iTunesLibrary"), 0};
     if (playlist.isPodcasts)
@@ -111,8 +113,12 @@ QVariantList SelectionLists::musicItems() const
         toSet(CVSyncMusic::selectedIdentifiersForPSP(m_manager.pspVolume()));
     QVariantList rows;
     for (const MusicLibrary::Playlist &playlist : *playlists) {
-        if (!playlist.isPartyShuffle && !playlist.isPurchasedMusic && !playlist.isVideos)
-            rows.append(row(playlist.name, kindOf(playlist), playlist.size, selected));
+        if (playlist.isPartyShuffle || playlist.isPurchasedMusic || playlist.isVideos)
+            continue;
+        QVariantMap found = row(playlist.identifier(), kindOf(playlist), playlist.size, selected);
+        if (playlist.name)
+            found.insert(QStringLiteral("name"), *playlist.name);
+        rows.append(found);
     }
     return rows;
 }

@@ -13,7 +13,6 @@ class Clock;
 class CVSyncManager;
 class Plans;
 class QMLogger;
-class RunRecord;
 class Sounds;
 class StatusIcon;
 class StatusMenu;
@@ -30,7 +29,6 @@ public:
         CVSyncManager &manager;
         QMLogger &logger;
         Plans &plans;
-        RunRecord &record;
         FrontEnds &frontEnds;
         StatusMenu &menu;
         StatusIcon &icon;
@@ -63,6 +61,7 @@ public:
     bool shouldSyncOnMount() override;
     void syncHeldBack(const HoldBack &why) override;
     void syncWillStart() override;
+    void syncIsPreparing(const QString &progress) override;
     void syncWillCleanUp() override;
     void syncNotEnoughFreeSpace(quint64 bytes) override;
     void syncWillCancel() override;
@@ -73,11 +72,10 @@ public:
     void syncDidCopyLastBytes() override;
     void syncDidProcessItem(const CVSyncItem &item) override;
     void syncError(const ErrorInfo &info) override;
-    void syncDidProgress(const RunReport &report) override;
     void finalizeDidStart() override;
     bool shouldUnmountPSP() override;
     void pspWillUnmount() override;
-    void pspUnmountFailed(const FailedEject &failed) override;
+    void pspUnmountFailed() override;
     void syncDidFinish(const RunReport &report) override;
     void newSyncBytesEstimate(quint64 bytes) override;
 

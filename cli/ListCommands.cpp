@@ -2,6 +2,7 @@
 
 #include "cli/Output.h"
 #include "cli/Session.h"
+#include "cli/SourcesCommand.h"
 #include "frontend/Rows.h"
 #include "platform/lists/UserDefaults.h"
 #include "protocol/Protocol.h"
@@ -155,6 +156,8 @@ ExitStatus runList(const QString &kindName, bool json)
         Output::json(QJsonArray::fromVariantList(rows));
     else
         printRows(rows, currentSelection(list, rows));
+    if (rows.isEmpty())
+        explainEmptyList(helper, list.saveName.toString());
     return Done;
 }
 

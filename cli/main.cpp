@@ -3,8 +3,8 @@
 #include "cli/Output.h"
 #include "cli/PlanCommand.h"
 #include "cli/PrefsCommand.h"
-#include "cli/ReportCommand.h"
 #include "cli/SaveCommands.h"
+#include "cli/SourcesCommand.h"
 #include "cli/StatusCommands.h"
 #include "cli/SyncCommand.h"
 #include "cli/TerminalWindow.h"
@@ -104,12 +104,12 @@ CommandLine::CommandLine()
     addLog();
     addSync();
     addPlan();
-    addReading("report", "Show how the last sync ended, what it left out and what it kept",
-               [this] { return runReport(m_arguments.json); });
     add(m_app, "cancel", "Cancel the running sync", [] { return runCancel(); });
     add(m_app, "eject", "Eject the PSP", [] { return runEject(); });
     addReading("estimate", "Estimate how much of the PSP the selection takes",
                [this] { return runEstimate(m_arguments.json); });
+    addReading("sources", "List the media found on this computer, with a mark for what is chosen",
+               [this] { return runSources(m_arguments.json); });
     addList();
     addSelect();
     addMovies();

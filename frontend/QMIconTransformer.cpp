@@ -32,7 +32,7 @@ QImage QMIconTransformer::transformedValue(const QString &icon) const
 {
     const QString name = QStringLiteral("%1/%2.png").arg(m_resourcePath, icon);
     QImage image = icon.contains(u'/') ? QImage() : imageIn(name);
-    if (image.isNull() && !icon.isEmpty())
+    if (image.isNull() && icon.startsWith(u'/'))
         image = imageIn(icon);
     return image.isNull() ? emptyImage() : image;
 }

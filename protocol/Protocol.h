@@ -122,6 +122,10 @@ inline constexpr List lists[] = {
     {u"Backup", backupItems, setSelectedBackupIdentifiers, false},
 };
 
+/// Where media can come from on this computer, by kind: "kind" (its save name), "value" (of its
+/// setting, "i"), "title", "place" (a path), "found" and "chosen" ("b"), "entries" (playlists,
+/// albums or folders, "i"; -1 where counting them would take long or they can't be read).
+inline constexpr Method sources{u"sources", {}, u"aa{sv}"};
 /// The mounted stick: "name" and "volume" (texts), "capacity", "free" and "used" (bytes, "t");
 /// empty without one.
 inline constexpr Method stick{u"stick", {}, u"a{sv}"};
@@ -139,16 +143,6 @@ inline constexpr Method planSummary{u"planSummary", {}, u"a{sv}"};
 /// below the volume, "source", "description", "bytes" ("t"), "isStranger" ("b"), "reason".
 inline constexpr Method planItems{
     u"planItems", {{u"s", u"kind"}, {u"u", u"first"}, {u"u", u"count"}}, u"aa{sv}"};
-
-/// How the last run ended: "started" and "ended" (seconds since 1970, "d"; without the latter it
-/// lasts, or was cut short), "outcome" ("complete", "incomplete", "cancelled", "disconnected",
-/// "full", "tooLarge"), "copied", "replaced", "removed", "kept", "leftOut" and "missing" ("u"),
-/// "copiedBytes" ("t"), "volume"; empty where there was none.
-inline constexpr Method lastRunSummary{u"lastRunSummary", {}, u"a{sv}"};
-/// A page of at most 1,000 rows: what was kept ("action" is "keep", "source" its copy) and left out
-/// ("leaveOut"), with "path" below the volume and "reason".
-inline constexpr Method lastRunItems{
-    u"lastRunItems", {{u"u", u"first"}, {u"u", u"count"}}, u"aa{sv}"};
 
 /// All of them, in the order in which the helper declares them.
 inline constexpr const Method *helperMethods[] = {
@@ -196,8 +190,7 @@ inline constexpr const Method *helperMethods[] = {
     &requestPlan,
     &planSummary,
     &planItems,
-    &lastRunSummary,
-    &lastRunItems,
+    &sources,
     &stick,
 };
 

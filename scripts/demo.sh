@@ -185,11 +185,70 @@ expect_icon() {
 
 # --- On the private bus
 
+start_helper() {
+    "$bundle/Helpers/CaravelHelper/Contents/bin/caravel-helper" \
+        --volumes-folder "$1" 2>>"$helper_log" &
+    helper=$!
+    trap 'kill -TERM "$helper" 2>/dev/null && wait "$helper" || true' EXIT
+    wait_for 20 "the helper's name on the bus" helper_is_on_bus
+}
+
 stop_helper() {
     local status=0
     kill -TERM "$helper"
     wait "$helper" || status=$?
     ((status == 0)) || fail "the helper ended with status $status"
+}
+
+# make_plain_home PROJECT: songs with tags and a list, pictures, and the bookmarks of a browser of today.
+make_plain_home() {
+    local media=$1/tests/modules/sources
+    mkdir -p "$HOME/Music/Band/First" "$HOME/Pictures/Sea" "$HOME/.config/chromium/Default"
+    local name
+    for name in "Band/First/tagged.mp3" "Band/First/tagged.m4a" "Band/tagged.wav"; do
+        unpack "$media/${name##*/}.z" >"$HOME/Music/$name"
+    done
+    printf '#EXTM3U\nBand\\First\\tagged.m4a\nhttp://radio.example/stream\n' >"$HOME/Music/Evening.m3u"
+    cp "$(find "$sample/home/Pictures" -iname '*.jp*g' | sort | head -n 1)" "$HOME/Pictures/Sea/beach.jpg"
+    unpack "$media/Bookmarks.z" >"$HOME/.config/chromium/Default/Bookmarks"
+}
+
+# unpack FILE: what tests/modules/sources/make_data.py packed.
+unpack() {
+    python3 -c 'import sys, zlib; sys.stdout.buffer.write(zlib.decompress(open(sys.argv[1], "rb").read()[4:]))' "$1"
+}
+
+# plain_home PROJECT: what another user has, who never had a library of the old programs.
+plain_home() {
+    heading "Another home, without any of these libraries: its media are found, chosen and synced"
+    export HOME=$sample/plain/home
+    stick=$sample/plain/volumes/MEMORYSTICK
+    mkdir -p "$HOME" "$stick/PSP"
+    touch "$stick/MEMSTICK.IND"
+    make_plain_home "$1"
+    (cd "$HOME" && find . -type f -printf '%10s  %P\n' | sort -k 2)
+    start_helper "$sample/plain/volumes"
+    run_caravel list music
+    run_caravel sources
+    run_caravel prefs musicSource 1
+    run_caravel prefs photosSource 1
+    run_caravel prefs bookmarkSource 5
+    run_caravel list music
+    run_caravel select music Evening Band/First
+    run_caravel select photos --all
+    run_caravel select bookmarks "Bookmarks Bar/News"
+    run_caravel sync
+    show_tree
+    local album=$'Re\u0301cord' song=$'So\u0302ng'
+    expect_music <<EOF
+$album/207. Four.MP4|Music/Band/First/tagged.m4a
+$album/207. Four.1.MP4|Music/Band/First/tagged.m4a
+$album/207. $song.mp3|Music/Band/First/tagged.mp3
+EOF
+    grep -q 'https://news.example/' "$stick/PSP/SYSTEM/BROWSER/bookmarks.html" ||
+        fail "the browser's bookmarks did not arrive"
+    stop_helper
+    trap - EXIT
 }
 
 on_private_bus() {
@@ -207,11 +266,7 @@ on_private_bus() {
     foreign=$(foreign_files)
 
     heading "The helper starts"
-    "$bundle/Helpers/CaravelHelper/Contents/bin/caravel-helper" \
-        --volumes-folder "$sample/volumes" 2>"$helper_log" &
-    helper=$!
-    trap 'kill -TERM "$helper" 2>/dev/null && wait "$helper" || true' EXIT
-    wait_for 20 "the helper's name on the bus" helper_is_on_bus
+    start_helper "$sample/volumes"
 
     run_caravel list music
     run_caravel select music "Road Trip" "AC/DC: Live?"
@@ -313,6 +368,7 @@ EOF
     # Back into the slot, for whoever kept the sample.
     mv "$sample/volumes/.ejected/MEMORYSTICK" "$stick"
     rmdir "$sample/volumes/.ejected"
+    plain_home "$project"
     [[ ! -s $helper_log ]] || sed 's/^/  | /' "$helper_log"
     printf '\nAll is as it should be: the selection is on the stick, and nothing else was touched.\n'
 }

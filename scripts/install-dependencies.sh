@@ -20,7 +20,7 @@ packages=(
     # Building
     g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools
     libglib2.0-dev libexpat1-dev libcli11-dev librsvg2-bin python3
-    libebook1.2-dev libssl-dev
+    libebook1.2-dev libssl-dev libtag1-dev libqt6sql6-sqlite
     # Tests and benchmarks
     libgtest-dev libgmock-dev libbenchmark-dev dbus e2fsprogs exfatprogs exfat-fuse mount util-linux xvfb jq procps
     evolution-data-server

@@ -129,11 +129,9 @@ private:
     bool endRun();
     void finishRun(RunReport report);
     void beginEject();
-    bool unmount(const QString &volume);
-    void endEject(const std::optional<FailedEject> &failed);
+    bool endEject(bool succeeded);
 
     // What a run asks for and tells
-    void reportProgress(const RunReport &report) override;
     void setPlan(std::shared_ptr<const SyncPlan> plan) override;
     void setIsIndeterminate(bool indeterminate) override { m_isIndeterminate = indeterminate; }
     void setSyncBytes(quint64 total, quint64 copied) override;
@@ -143,6 +141,7 @@ private:
     bool shouldUnmountPSP() override { return m_delegate->shouldUnmountPSP(); }
     void ejectVolume(const QString &volume) override;
     bool syncModuleShouldCancel() override { return m_shouldCancelSync; }
+    void syncModuleIsGathering(const QString &progress) override;
     void syncModuleWillProcessItem(const CVSyncItem &item) override;
     void syncModuleDidCopyBytes(quint64 count) override;
     void syncModuleDidProcessItem(const CVSyncItem &item) override;

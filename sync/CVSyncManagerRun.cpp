@@ -84,11 +84,6 @@ void CVSyncManager::setPlan(std::shared_ptr<const SyncPlan> plan)
     m_runPlan = std::move(plan);
 }
 
-void CVSyncManager::reportProgress(const RunReport &report)
-{
-    tell([&report](CVSyncManagerDelegate &delegate) { delegate.syncDidProgress(report); });
-}
-
 std::shared_ptr<const SyncPlan> CVSyncManager::runPlan() const
 {
     const std::scoped_lock lock(m_volumeMutex);
@@ -156,12 +151,12 @@ void CVSyncManager::eject()
     tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
     const bool isStarted = Workers::start([this, volume = pspVolume()] {
         // After the scan that the volume's going has queued.
-        if (unmount(volume))
+        if (endEject(m_services.volumes.unmountAndEject(volume)))
             performOnMainThread(
                 this, [this] { Q_EMIT ejected(); }, CallMode::DontWait);
     });
     if (!isStarted)
-        endEject(FailedEject{QStringLiteral("there is no thread for it"), {}});
+        endEject(false);
 }
 
 void CVSyncManager::ejectVolume(const QString &volume)
@@ -170,18 +165,7 @@ void CVSyncManager::ejectVolume(const QString &volume)
         this, [this] { m_forItself.forget(); }, CallMode::Wait);
     beginEject();
     tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
-    unmount(volume);
-}
-
-// Who holds the volume is looked up on this thread: there may be many processes.
-bool CVSyncManager::unmount(const QString &volume)
-{
-    const Ejection ejection = m_services.volumes.unmountAndEject(volume);
-    if (ejection.isDone)
-        endEject(std::nullopt);
-    else
-        endEject(FailedEject{ejection.reason, volumeHolders(volume)});
-    return ejection.isDone;
+    endEject(m_services.volumes.unmountAndEject(volume));
 }
 
 void CVSyncManager::beginEject()
@@ -190,12 +174,13 @@ void CVSyncManager::beginEject()
     m_pspIsUnmounting = true;
 }
 
-void CVSyncManager::endEject(const std::optional<FailedEject> &failed)
+bool CVSyncManager::endEject(bool succeeded)
 {
     m_isIndeterminate = false;
     m_pspIsUnmounting = false;
-    if (failed)
-        tell([&failed](CVSyncManagerDelegate &delegate) { delegate.pspUnmountFailed(*failed); });
+    if (!succeeded)
+        tell([](CVSyncManagerDelegate &delegate) { delegate.pspUnmountFailed(); });
+    return succeeded;
 }
 
 void CVSyncManager::tell(const std::function<void(CVSyncManagerDelegate &)> &callback)
@@ -213,6 +198,11 @@ void CVSyncManager::setSyncBytes(quint64 total, quint64 copied)
 quint64 CVSyncManager::syncBytesLeft() const
 {
     return m_syncBytesTotal - std::min<quint64>(m_syncBytes, m_syncBytesTotal);
+}
+
+void CVSyncManager::syncModuleIsGathering(const QString &progress)
+{
+    tell([&progress](CVSyncManagerDelegate &delegate) { delegate.syncIsPreparing(progress); });
 }
 
 void CVSyncManager::syncModuleWillProcessItem(const CVSyncItem &item)

@@ -65,6 +65,9 @@ public:
 
     /// Asked while the items are gathered; true ends that early. False unless set.
     void setShouldStop(std::function<bool()> shouldStop) { m_shouldStop = std::move(shouldStop); }
+    /// Told meanwhile how far that has come where it takes long, in the user's words. Nobody unless
+    /// set.
+    void setProgress(std::function<void(const QString &)> tell) { m_progress = std::move(tell); }
 
     /// Who places the items; null: the stick's editor. Owned by the module.
     virtual ItemPlacer *placer();
@@ -76,12 +79,18 @@ protected:
     virtual QStringList ownSettings() const { return {}; }
     QString pspVolume() const { return m_volume; }
     bool isSelected(const QString &identifier) const { return m_selected.contains(identifier); }
+    const QSet<QString> &selectedIdentifiers() const { return m_selected; }
     bool isAnythingSelected() const { return !m_selected.isEmpty(); }
     /// For itemsToSync(), of a library that the selection needs; one that is missing is no error.
     void noteUnreadableLibrary(const FileError &error);
     /// What is gathered then is thrown away.
     bool shouldStop() const { return m_shouldStop && m_shouldStop(); }
     const std::function<bool()> &shouldStopQuestion() const { return m_shouldStop; }
+    void tellProgress(const QString &text) const
+    {
+        if (m_progress)
+            m_progress(text);
+    }
 
 private:
     const QString m_volume;
@@ -89,6 +98,7 @@ private:
     const QSet<QString> m_selected;
     std::optional<FileError> m_unreadableLibrary;
     std::function<bool()> m_shouldStop;
+    std::function<void(const QString &)> m_progress;
 };
 
 using ModuleList = std::vector<std::unique_ptr<CVSyncModule>>;

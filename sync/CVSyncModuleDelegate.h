@@ -14,6 +14,8 @@ public:
     /// Asked before each item and after each chunk copied; true ends the copying.
     virtual bool syncModuleShouldCancel() = 0;
 
+    /// How far gathering the items has come, in the user's words; only where it takes long.
+    virtual void syncModuleIsGathering(const QString &progress) = 0;
     virtual void syncModuleWillProcessItem(const CVSyncItem &item) = 0;
     /// Bytes of the chunk just copied, at most 1 MiB.
     virtual void syncModuleDidCopyBytes(quint64 count) = 0;

@@ -12,13 +12,26 @@ namespace {
 // Fewer files than that are soon copied again.
 constexpr qsizetype fewFiles = 10;
 
+bool isOurs(const PlannedRemoval &removal)
+{
+    return removal.isUnwantedFile && !removal.isStranger;
+}
+
 bool wouldLoseMuch(const KindPlan &kind)
 {
-    const auto isOurs = [](const PlannedRemoval &removal) {
-        return removal.isUnwantedFile && !removal.isStranger;
-    };
     const auto lost = std::ranges::count_if(kind.removals, isOurs);
     return kind.basis == kind.lastBasis && lost >= fewFiles && 2 * lost > kind.lastPlaced;
+}
+
+qint64 sourceOf(const QVariantMap &basis)
+{
+    return basis.value(QStringLiteral("source")).toLongLong();
+}
+
+bool wouldLoseOtherSource(const KindPlan &kind)
+{
+    return sourceOf(kind.basis) != sourceOf(kind.lastBasis) &&
+           std::ranges::any_of(kind.removals, isOurs);
 }
 
 } // namespace
@@ -44,6 +57,9 @@ std::optional<HoldBack> HoldBack::ofAutomatic(const SyncPlan &plan)
                             kind.unreadableLibrary->description()};
         if (wouldLoseMuch(kind))
             return HoldBack{Reason::MuchWouldGo, kind.moduleName};
+        if (wouldLoseOtherSource(kind))
+            return HoldBack{Reason::SourceChanged, kind.moduleName,
+                            kind.saveName + u'@' + QString::number(sourceOf(kind.basis))};
     }
     return std::nullopt;
 }

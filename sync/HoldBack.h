@@ -17,11 +17,12 @@ struct HoldBack
         // Of one that starts by itself
         UnreadableProfile, ///< the selection that lies on the stick
         UnreadableLibrary,
-        MuchWouldGo, ///< of what the last sync placed, though the selection is the same
+        MuchWouldGo,   ///< of what the last sync placed, though the selection is the same
+        SourceChanged, ///< and what the last sync placed from the other one would go
     };
 
     Reason reason;
-    QString kind = {};  ///< of media, as shown to the user; of the last two
+    QString kind = {};  ///< of media, as shown to the user; of the last three
     QString cause = {}; ///< what the user may have looked at meanwhile; empty: that doesn't help
 
     /// Of any sync with the stick at the volume. Main thread.

@@ -17,6 +17,11 @@ bool hasProfiles(const QString &volume)
     return !volume.isEmpty() && files().linkStatus(StickFiles::caravelFolder(volume)).isFolder();
 }
 
+QString profileOf(const QString &moduleSaveName, const QString &volume)
+{
+    return StickFiles::selectionProfile(volume, Settings::selectionName(moduleSaveName));
+}
+
 void storeProfile(const QStringList &identifiers, const QString &profile, const QString &volume)
 {
     const auto written = StickEditor(volume).write(profile, PropertyList::toXml(identifiers));
@@ -40,8 +45,7 @@ std::optional<QStringList> read(const QString &moduleSaveName, const QString &vo
     if (Settings::useSyncProfiles() && hasProfiles(volume)) {
         // A profile that can't be read must not count as "nothing selected": that would clear the
         // stick.
-        if (auto profile =
-                PropertyList::readStringArray(StickFiles::selectionProfile(volume, moduleSaveName)))
+        if (auto profile = PropertyList::readStringArray(profileOf(moduleSaveName, volume)))
             return *profile;
     }
     return Settings::selection(moduleSaveName);
@@ -57,7 +61,7 @@ bool hasUnreadableProfile(const QString &moduleSaveName, const QString &volume)
 void store(const QStringList &identifiers, const QString &moduleSaveName, const QString &volume)
 {
     if (hasProfiles(volume))
-        storeProfile(identifiers, StickFiles::selectionProfile(volume, moduleSaveName), volume);
+        storeProfile(identifiers, profileOf(moduleSaveName, volume), volume);
     Settings::setSelection(moduleSaveName, identifiers);
 }
 
@@ -70,7 +74,7 @@ void rename(const QString &identifier, const QString &newIdentifier, const QStri
             const QString &volume)
 {
     if (hasProfiles(volume)) {
-        const QString profile = StickFiles::selectionProfile(volume, moduleSaveName);
+        const QString profile = profileOf(moduleSaveName, volume);
         auto selection = PropertyList::readStringArray(profile);
         if (selection && replaceIn(*selection, identifier, newIdentifier))
             storeProfile(*selection, profile, volume);

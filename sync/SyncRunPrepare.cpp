@@ -6,7 +6,6 @@
 #include "sync/StickFiles.h"
 #include "sync/SyncPlanner.h"
 #include "sync/SyncRun.h"
-#include "util/PathComponents.h"
 #include "util/Settings.h"
 
 namespace {
@@ -41,7 +40,6 @@ void SyncRun::prepare()
         m_indexes.insert(kind.saveName, kind.inPlace(m_stick.volume()));
         removeReplaced(kind);
     }
-    m_host.reportProgress(m_report);
     m_host.setSyncBytes(m_plan->syncBytesTotal(), 0);
     m_host.setSyncBytesEstimate(m_plan->syncBytesEstimate());
 }
@@ -50,6 +48,8 @@ void SyncRun::makePlan()
 {
     m_host.setSyncBytes(0, 0);
     m_modules = modulesTakingPart(m_services.catalogue, m_stick.volume());
+    for (const auto &module : m_modules)
+        module->setProgress([this](const QString &text) { m_host.syncModuleIsGathering(text); });
     m_plan = std::make_shared<const SyncPlan>(SyncPlanner(m_stick.volume(), [this] {
                                                   return m_host.shouldCancelSync();
                                               }).plan(m_modules));
@@ -79,28 +79,8 @@ void SyncRun::removeReplaced(const KindPlan &kind)
     for (const PlannedItem &planned : kind.items) {
         if (logsInDetail)
             logDecision(planned);
-        if (planned.action != PlannedItem::Action::Replace)
-            continue;
-        const QString path = planned.item.destination;
-        if (!mayGo(path, planned.isStranger))
-            m_notKept.insert(path);
-        else if (!m_stick.remove(path, this))
-            m_notRemoved.append(path);
+        if (planned.action == PlannedItem::Action::Replace &&
+            !m_stick.remove(planned.item.destination, this))
+            m_notRemoved.append(planned.item.destination);
     }
-}
-
-// What no sync placed is the user's own: a copy of it is on the computer before it goes.
-bool SyncRun::mayGo(const QString &path, bool isStranger)
-{
-    if (!isStranger || PathComponents::lastOf(path).startsWith(u"._") ||
-        !Settings::keepRemovedFiles() || !m_stick.isPresent() || !files().linkStatus(path).exists())
-        return true;
-    m_lastError = {};
-    const auto copy = m_kept.keep(path);
-    if (copy)
-        m_report.kept.push_back({path, *copy});
-    else if (!m_host.shouldCancelSync())
-        leaveOut(CVSyncItem({}, path, {}), PlannedItem::Reason::NotKept);
-    m_report.keptFolder = m_kept.folder();
-    return copy.has_value();
 }

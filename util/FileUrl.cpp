@@ -1,7 +1,5 @@
 #include "util/FileUrl.h"
 
-#include <string>
-
 namespace FileUrl {
 
 namespace {
@@ -68,6 +66,19 @@ std::optional<QString> path(std::string_view url)
     if (!decoded.starts_with('/') || decoded.find('\0') != decoded.npos)
         return std::nullopt;
     return QString::fromUtf8(decoded);
+}
+
+std::string of(std::string_view path)
+{
+    static constexpr char digits[] = "0123456789ABCDEF";
+    std::string url = "file://";
+    for (const char c : path) {
+        if (c == '%' || c == '?' || c == '#')
+            url.append({'%', digits[c >> 4], digits[c & 15]});
+        else
+            url += c;
+    }
+    return url;
 }
 
 } // namespace FileUrl

@@ -3,7 +3,32 @@
 #include "util/Settings.h"
 #include "util/StringTools.h"
 
+#include <QDir>
+#include <QStandardPaths>
+
 namespace Folders {
+
+namespace {
+
+// Who wants no such folder makes the home it.
+QString userFolder(QStandardPaths::StandardLocation location, const QString &otherwise)
+{
+    const QString folder = QDir::cleanPath(QStandardPaths::writableLocation(location));
+    const QString home = StringTools::expandingTilde(QStringLiteral("~"));
+    return folder.startsWith(u'/') && folder != home ? folder : home + u'/' + otherwise;
+}
+
+} // namespace
+
+QString music()
+{
+    return userFolder(QStandardPaths::MusicLocation, QStringLiteral("Music"));
+}
+
+QString pictures()
+{
+    return userFolder(QStandardPaths::PicturesLocation, QStringLiteral("Pictures"));
+}
 
 bool isPlace(const QString &setting)
 {

@@ -15,6 +15,12 @@ QString documents();
 /// "~/Library/Application Support/Caravel", "~" expanded.
 QString support();
 
+/// Where the user keeps music: as the desktop says (user-dirs.dirs), else "~/Music". Absolute.
+QString music();
+
+/// The same for pictures, else "~/Pictures".
+QString pictures();
+
 /// "Dropboxes/<name>" in the documents folder.
 QString dropbox(const QString &name);
 

@@ -60,6 +60,8 @@ template struct Setting<QDateTime>;
 template struct Setting<MusicFolders>;
 template struct Setting<MusicPrefix>;
 template struct Setting<PhotoPrefix>;
+template struct Setting<MusicSource>;
+template struct Setting<PhotosSource>;
 template struct Setting<BookmarkBrowser>;
 
 bool takesPart(const QString &saveName)
@@ -67,9 +69,45 @@ bool takesPart(const QString &saveName)
     return store().boolForKey(QStringLiteral("sync") + saveName);
 }
 
+namespace {
+
+/// Of the kind's source; 0 for those that share the first one's selection.
+qint64 selectionNumber(const QString &saveName)
+{
+    if (saveName == u"Music")
+        return static_cast<qint64>(musicLibrary());
+    if (saveName == u"Photos")
+        return static_cast<qint64>(photoLibrary());
+    if (saveName != u"Bookmarks")
+        return 0;
+    const BookmarkBrowser browser = bookmarkSource();
+    const bool hasOwn = browser == BookmarkBrowser::Places || browser == BookmarkBrowser::Chromium;
+    return hasOwn ? static_cast<qint64>(browser) : 0;
+}
+
+} // namespace
+
+MusicSource musicLibrary()
+{
+    const MusicSource source = musicSource();
+    const bool isKnown = source == MusicSource::Folders || source == MusicSource::Rhythmbox;
+    return isKnown ? source : MusicSource::ITunes;
+}
+
+PhotosSource photoLibrary()
+{
+    return photosSource() == PhotosSource::Folders ? PhotosSource::Folders : PhotosSource::IPhoto;
+}
+
+QString selectionName(const QString &saveName)
+{
+    const qint64 number = selectionNumber(saveName);
+    return number == 0 ? saveName : saveName + u'@' + QString::number(number);
+}
+
 QString selectionKey(const QString &saveName)
 {
-    return selectionPrefix + saveName;
+    return selectionPrefix + selectionName(saveName);
 }
 
 std::optional<QStringList> selection(const QString &saveName)
@@ -111,7 +149,6 @@ const std::vector<Key> &keys()
         keyOf(openOnMount),
         keyOf(syncOnMount),
         keyOf(ownOnly),
-        keyOf(keepRemovedFiles),
         keyOf(unmountAfterSync),
         keyOf(playSyncCompletionSound),
         keyOf(regCheckForUpdates),
@@ -133,7 +170,10 @@ const std::vector<Key> &keys()
         keyOf(volumeBoost),
         keyOf(deinterlace),
         keyOf(useQuickTime),
+        keyOf(musicSource),
+        keyOf(photosSource),
         keyOf(bookmarkSource),
+        keyOf(bookmarkProfile),
         keyOf(backupsToKeep),
         keyOf(lastSyncSize),
         keyOf(lastFreeSpace),

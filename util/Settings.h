@@ -74,8 +74,6 @@ inline constexpr Setting<bool> syncOnMount{u"syncOnMount", true};
 /// On: clean-up removes every file in a kind's folder that the run does not place. Off: only those
 /// that the kind's last index lists.
 inline constexpr Setting<bool> ownOnly{u"ownOnly", true};
-/// What a run takes from the stick though no sync had placed it is first copied to the computer.
-inline constexpr Setting<bool> keepRemovedFiles{u"keepRemovedFiles", true};
 /// A completed run ends with the stick's ejection.
 inline constexpr Setting<bool> unmountAfterSync{u"unmountAfterSync", false};
 inline constexpr Setting<bool> playSyncCompletionSound{u"playSyncCompletionSound", true};
@@ -129,10 +127,28 @@ inline constexpr Setting<bool> useQuickTime{u"useQuickTime", true};
 
 // --- Sources and history
 
-/// Browser whose bookmarks are synced; none for any other number.
-enum class BookmarkBrowser : qint64 { Safari = 0, Firefox = 1, OmniWeb = 2, Camino = 3 };
+/// Where playlists come from; any other number counts as ITunes.
+enum class MusicSource : qint64 { ITunes = 0, Folders = 1, Rhythmbox = 2 };
+inline constexpr Setting<MusicSource> musicSource{u"musicSource", MusicSource::ITunes, {0, 2}};
+/// Where albums come from; any other number counts as IPhoto.
+enum class PhotosSource : qint64 { IPhoto = 0, Folders = 1 };
+inline constexpr Setting<PhotosSource> photosSource{u"photosSource", PhotosSource::IPhoto, {0, 1}};
+/// Browser whose bookmarks are synced; none for any other number. Firefox is the one that writes
+/// its bookmarks to a page, Places the one that keeps them in a database; Chromium stands for its
+/// kin too.
+enum class BookmarkBrowser : qint64 {
+    Safari = 0,
+    Firefox = 1,
+    OmniWeb = 2,
+    Camino = 3,
+    Places = 4,
+    Chromium = 5
+};
 inline constexpr Setting<BookmarkBrowser> bookmarkSource{
-    u"bookmarkSource", BookmarkBrowser::Safari, {0, 3}};
+    u"bookmarkSource", BookmarkBrowser::Safari, {0, 5}};
+/// Folder of the profile that Places and Chromium read: a path, or a name among the browser's
+/// profiles. Empty: the first that is found.
+inline constexpr Setting<QString> bookmarkProfile{u"bookmarkProfile", ""};
 /// Backups of each game save: 1 for ten, 2 for twenty-five, 3 for fifty; all for any other number.
 inline constexpr Setting<qint64> backupsToKeep{u"backupsToKeep", 2, {0, 3}};
 
@@ -150,8 +166,16 @@ inline constexpr Setting<quint64> lastStickSize{u"lastStickSize", 0};
 /// Whether the kind of media of that save name takes part in runs: "sync" + save name.
 bool takesPart(const QString &saveName);
 
+/// musicSource and photosSource as they count.
+MusicSource musicLibrary();
+PhotosSource photoLibrary();
+
+/// What a kind's selection goes by: the save name, with "@" and its number behind it where the
+/// kind's source is another than the first. Each source has a selection of its own, which waits
+/// until the source comes back; the browsers with a file of bookmarks share the first's.
+QString selectionName(const QString &saveName);
 /// The key of what is selected in the kind of that save name, an array of identifiers: "enabled" +
-/// save name.
+/// selectionName().
 QString selectionKey(const QString &saveName);
 /// What is selected there; nothing where that was never stored.
 std::optional<QStringList> selection(const QString &saveName);

@@ -1,9 +1,11 @@
 #include "modules/bookmarks/CVSyncBookmarks.h"
 
+#include "modules/bookmarks/own/BrowserProfiles.h"
 #include "platform/core/Localized.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
 #include "util/Folders.h"
+#include "util/StringTools.h"
 
 namespace {
 
@@ -15,11 +17,14 @@ QString progressText(BookmarkBrowser browser)
     case BookmarkBrowser::Safari:
         return localized("Syncing Safari Bookmarks...");
     case BookmarkBrowser::Firefox:
+    case BookmarkBrowser::Places:
         return localized("Syncing Firefox Bookmarks...");
     case BookmarkBrowser::OmniWeb:
         return localized("Syncing OmniWeb Bookmarks...");
     case BookmarkBrowser::Camino:
         return localized("Syncing Camino Bookmarks...");
+    case BookmarkBrowser::Chromium:
+        return localized("Syncing Chromium Bookmarks...");
     }
     return {};
 }
@@ -79,8 +84,37 @@ CVSyncBookmarks::FolderList CVSyncBookmarks::foldersOf(BookmarkBrowser browser)
         return parseOmniWebBookmarks();
     case BookmarkBrowser::Camino:
         return parseCaminoBookmarks();
+    case BookmarkBrowser::Places:
+        return readFirefoxDatabase();
+    case BookmarkBrowser::Chromium:
+        return readChromiumBookmarks();
     }
     return std::vector<BookmarkFolder>();
+}
+
+QString CVSyncBookmarks::placeOf(BookmarkBrowser browser)
+{
+    const auto inSupport = [](const char *path) {
+        return StringTools::expandingTilde(QStringLiteral("~/Library/Application Support/") +
+                                           QString::fromLatin1(path));
+    };
+    switch (browser) {
+    case BookmarkBrowser::Safari:
+        return StringTools::expandingTilde(QStringLiteral("~/Library/Safari/Bookmarks.plist"));
+    case BookmarkBrowser::Firefox:
+        return StringTools::appendingPathComponent(
+            defaultFirefoxProfile().valueOr(inSupport("Firefox")),
+            QStringLiteral("bookmarks.html"));
+    case BookmarkBrowser::OmniWeb:
+        return inSupport("OmniWeb 5/Bookmarks.html");
+    case BookmarkBrowser::Camino:
+        return inSupport("Camino/bookmarks.plist");
+    case BookmarkBrowser::Places:
+        return BrowserProfiles::firefoxDatabase();
+    case BookmarkBrowser::Chromium:
+        return BrowserProfiles::chromiumFile();
+    }
+    return {};
 }
 
 std::optional<QStringList> CVSyncBookmarks::selectedIdentifiersForPSP(const QString &volume)

@@ -24,6 +24,10 @@ public:
     /// for another number. A folder is identified by its title. An error, which is in the system
     /// log unless nothing is there, where its file can't be read. Any thread, as the readers below.
     static FolderList availableIdentifiers();
+    /// Those of one browser.
+    static FolderList foldersOf(Settings::BookmarkBrowser browser);
+    /// The browser's file, whether or not it is there; empty where nothing leads to one.
+    static QString placeOf(Settings::BookmarkBrowser browser);
     static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
     static void setSelectedIdentifiers(const QStringList &identifiers, const QString &forPSP);
 
@@ -48,11 +52,15 @@ public:
     static FolderList parseFirefoxBookmarks();
     /// A folder without a title has no bookmarks.
     static FolderList parseOmniWebBookmarks();
+    /// Each folder of today's Firefox that holds bookmarks, by its path, which begins with the name
+    /// of the menu, the toolbar or the like. The browser may be running meanwhile.
+    static FolderList readFirefoxDatabase();
+    /// The same of Chromium and its kin.
+    static FolderList readChromiumBookmarks();
     /// The folder of Firefox's first profile, absolute; missing where "profiles.ini" names none.
     static FileResult<QString> defaultFirefoxProfile();
 
 private:
     qint64 source() const override { return static_cast<qint64>(Settings::bookmarkSource()); }
-    static FolderList foldersOf(Settings::BookmarkBrowser browser);
     QByteArray bookmarkLines(const FolderList &folders) const;
 };

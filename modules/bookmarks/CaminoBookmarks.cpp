@@ -1,6 +1,5 @@
 #include "modules/bookmarks/CVSyncBookmarks.h"
 #include "modules/bookmarks/own/BookmarkList.h"
-#include "util/StringTools.h"
 
 using namespace BookmarkList;
 
@@ -34,9 +33,8 @@ void addChild(const QVariantMap &child, BookmarkFolderMap &folders)
 
 CVSyncBookmarks::FolderList CVSyncBookmarks::parseCaminoBookmarks()
 {
-    const QString path = StringTools::expandingTilde(
-        QStringLiteral("~/Library/Application Support/Camino/bookmarks.plist"));
-    const FileResult<QVariantList> entries = topLevelEntries(path);
+    const FileResult<QVariantList> entries =
+        topLevelEntries(placeOf(Settings::BookmarkBrowser::Camino));
     if (!entries)
         return entries.error();
     BookmarkFolderMap folders;

@@ -45,9 +45,7 @@ std::optional<Bookmark> bookmarkOf(QStringView line)
 
 CVSyncBookmarks::FolderList CVSyncBookmarks::parseOmniWebBookmarks()
 {
-    const QString path = StringTools::expandingTilde(
-        QStringLiteral("~/Library/Application Support/OmniWeb 5/Bookmarks.html"));
-    const FileResult<QString> text = TextFile::read(path);
+    const FileResult<QString> text = TextFile::read(placeOf(Settings::BookmarkBrowser::OmniWeb));
     if (!text)
         return text.error();
     BookmarkFolderMap folders;

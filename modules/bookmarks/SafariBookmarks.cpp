@@ -1,6 +1,5 @@
 #include "modules/bookmarks/CVSyncBookmarks.h"
 #include "modules/bookmarks/own/BookmarkList.h"
-#include "util/StringTools.h"
 
 using namespace BookmarkList;
 
@@ -52,9 +51,8 @@ BookmarkFolder folderOf(const QVariantMap &node)
 
 CVSyncBookmarks::FolderList CVSyncBookmarks::readSafariBookmarks()
 {
-    const QString path =
-        StringTools::expandingTilde(QStringLiteral("~/Library/Safari/Bookmarks.plist"));
-    const FileResult<QVariantList> entries = topLevelEntries(path);
+    const FileResult<QVariantList> entries =
+        topLevelEntries(placeOf(Settings::BookmarkBrowser::Safari));
     if (!entries)
         return entries.error();
     std::vector<BookmarkFolder> folders;

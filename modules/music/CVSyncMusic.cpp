@@ -1,6 +1,7 @@
 #include "modules/music/CVSyncMusic.h"
 
 #include "modules/music/own/MusicNaming.h"
+#include "modules/music/own/MusicSources.h"
 #include "platform/core/Localized.h"
 #include "sync/Log.h"
 #include "sync/ModuleSelection.h"
@@ -9,17 +10,11 @@
 #include "util/Folders.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
-#include "util/StringTools.h"
+#include "util/TextFormat.h"
 
 #include <utility>
 
 namespace {
-
-QString libraryPath()
-{
-    return FileManagerTools::pathByResolvingAliasesInPath(
-        StringTools::expandingTilde(QStringLiteral("~/Music/iTunes/iTunes Music Library.xml")));
-}
 
 QString dropbox()
 {
@@ -63,10 +58,21 @@ QString CVSyncMusic::saveName()
 FileResult<std::vector<MusicLibrary::Playlist>> CVSyncMusic::availableIdentifiers()
 {
     FileManagerTools::createPath(dropbox());
-    const auto library = MusicLibrary::read(libraryPath(), MusicLibrary::Part::PlaylistsOnly);
+    return playlistsOf(Settings::musicLibrary());
+}
+
+FileResult<std::vector<MusicLibrary::Playlist>>
+CVSyncMusic::playlistsOf(Settings::MusicSource source)
+{
+    const auto library = MusicSources::read(source, {});
     if (!library)
         return library.error();
     return library->playlists();
+}
+
+QString CVSyncMusic::placeOf(Settings::MusicSource source)
+{
+    return MusicSources::place(source);
 }
 
 std::optional<QStringList> CVSyncMusic::selectedIdentifiersForPSP(const QString &volume)
@@ -111,7 +117,19 @@ std::vector<CVSyncItem> CVSyncMusic::itemsToSync()
 
 void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items)
 {
-    const auto library = MusicLibrary::read(libraryPath(), MusicLibrary::Part::Everything);
+    const MusicReading reading{
+        .part = MusicLibrary::Part::Everything,
+        .selected = selectedIdentifiers(),
+        .shouldStop = [this] { return shouldStop(); },
+        .progress =
+            [this](int done, int total) {
+                tellProgress(filled(localized("Reading songs: %@ of %@"),
+                                    {QString::number(done), QString::number(total)}));
+            },
+    };
+    const auto library = MusicSources::read(Settings::musicLibrary(), reading);
+    if (library && library->unreadPart)
+        noteUnreadableLibrary(*library->unreadPart);
     if (!library) {
         if (isAnythingSelected())
             noteUnreadableLibrary(library.error());
@@ -125,7 +143,8 @@ void CVSyncMusic::addLibraryItems(std::vector<CVSyncItem> &items)
         const QString name = playlist.name.value_or(QString());
         if (detailed)
             qCInfo(lcModules).noquote() << "Found playlist:" << name;
-        if (!playlist.name || !isSelected(name))
+        const auto identifier = playlist.identifier();
+        if (!identifier || !isSelected(*identifier))
             continue;
         if (detailed)
             qCInfo(lcModules).noquote() << "Processing playlist:" << name;

@@ -55,7 +55,6 @@ private:
 
     StoredTrack &track() { return m_library.m_tracks.back(); }
     Playlist &playlist() { return m_library.m_playlists.back(); }
-    Place keep(std::string_view text);
 
     MusicLibrary &m_library;
     std::int64_t m_trackId = 0; // of the key read last
@@ -121,7 +120,7 @@ MusicLibrary::Reader::Outline MusicLibrary::Reader::playlists()
 MusicLibrary::Reader::Outline MusicLibrary::Reader::text(Place StoredTrack::*field)
 {
     return Outline::value<std::string_view>(
-        [this, field](std::string_view text) { track().*field = keep(text); });
+        [this, field](std::string_view text) { track().*field = m_library.keep(text); });
 }
 
 MusicLibrary::Reader::Outline MusicLibrary::Reader::number(std::int32_t StoredTrack::*field)
@@ -133,13 +132,6 @@ MusicLibrary::Reader::Outline MusicLibrary::Reader::number(std::int32_t StoredTr
 MusicLibrary::Reader::Outline MusicLibrary::Reader::flag(bool Playlist::*field)
 {
     return Outline::value<bool>([this, field](bool isSet) { playlist().*field = isSet; });
-}
-
-MusicLibrary::Place MusicLibrary::Reader::keep(std::string_view text)
-{
-    const auto offset = static_cast<std::uint32_t>(m_library.m_text.size());
-    m_library.m_text.append(text);
-    return {offset, static_cast<std::uint32_t>(text.size())};
 }
 
 FileResult<MusicLibrary> MusicLibrary::read(const QString &path, Part part)
@@ -162,6 +154,29 @@ void MusicLibrary::sortTracks()
     };
     if (!std::is_sorted(m_tracks.begin(), m_tracks.end(), byId))
         std::stable_sort(m_tracks.begin(), m_tracks.end(), byId);
+}
+
+std::int64_t MusicLibrary::add(const Track &track)
+{
+    const auto id = static_cast<std::int64_t>(m_tracks.size());
+    m_tracks.push_back({id, keep(track.location), keep(track.artist), keep(track.album),
+                        keep(track.name), track.trackNumber, track.discNumber, track.isFile,
+                        track.isLossless});
+    return id;
+}
+
+std::optional<QString> MusicLibrary::Playlist::identifier() const
+{
+    return name && isFolder ? *name + u'/' : name;
+}
+
+MusicLibrary::Place MusicLibrary::keep(const Text &text)
+{
+    if (!text)
+        return {};
+    const auto offset = static_cast<std::uint32_t>(m_text.size());
+    m_text.append(*text);
+    return {offset, static_cast<std::uint32_t>(text->size())};
 }
 
 MusicLibrary::Text MusicLibrary::textAt(Place place) const

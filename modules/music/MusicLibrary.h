@@ -32,7 +32,8 @@ public:
 
     struct Playlist
     {
-        std::optional<QString> name; ///< identifies the playlist
+        std::optional<QString> name;
+        bool isFolder = false; ///< of files, instead of a list
         bool isMaster = false;
         bool isPodcasts = false;
         bool isSmart = false;
@@ -41,6 +42,10 @@ public:
         bool isVideos = false;
         qsizetype size = 0;               ///< number of entries, usable or not
         std::vector<std::int64_t> tracks; ///< track ids in playlist order
+
+        /// Identifies the playlist: its name, and a folder's with "/" behind it, so that a list of
+        /// that name is another. Nothing where it has no name.
+        std::optional<QString> identifier() const;
     };
 
     /// Whether a reader needs the tracks or the playlists alone.
@@ -50,6 +55,8 @@ public:
     /// system log says what is wrong and where. Any thread.
     static FileResult<MusicLibrary> read(const QString &path, Part part);
 
+    /// One to be filled from elsewhere; of the iTunes library, read() makes it.
+    MusicLibrary() = default;
     MusicLibrary(MusicLibrary &&) noexcept = default;
     MusicLibrary &operator=(MusicLibrary &&) noexcept = default;
 
@@ -58,6 +65,13 @@ public:
 
     /// The track with that id, its texts valid as long as the library.
     std::optional<Track> track(std::int64_t id) const;
+
+    /// Adds a track, copying its texts, and gives its id.
+    std::int64_t add(const Track &track);
+    void add(Playlist playlist) { m_playlists.push_back(std::move(playlist)); }
+
+    /// Why a part that is selected could not be read: what it holds is missing here.
+    std::optional<FileError> unreadPart;
 
 private:
     class Reader;
@@ -79,8 +93,8 @@ private:
         bool isLossless = false;
     };
 
-    MusicLibrary() = default;
     void sortTracks();
+    Place keep(const Text &text);
     Text textAt(Place place) const;
 
     std::string m_text;

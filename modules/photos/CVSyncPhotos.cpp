@@ -1,5 +1,6 @@
 #include "modules/photos/CVSyncPhotos.h"
 
+#include "modules/photos/own/FolderPhotoLibrary.h"
 #include "platform/core/Localized.h"
 #include "platform/lists/UserDefaults.h"
 #include "sync/ModuleSelection.h"
@@ -21,7 +22,7 @@ FileResult<QVariantMap> preferencesOfIPhoto()
 }
 
 // Where iPhoto itself says that its library lies, else where it lies by default.
-QString libraryPath(const FileResult<QVariantMap> &preferences)
+QString iPhotoPath(const FileResult<QVariantMap> &preferences)
 {
     const QString name = QStringLiteral("AlbumData.xml");
     const QVariant root = preferences.valueOr({}).value(QStringLiteral("RootDirectory"));
@@ -51,6 +52,29 @@ bool isShown(QStringView extension, qint64 firmware)
     });
 }
 
+FileResult<PhotoLibrary> readIPhoto(PhotoLibrary::Part part)
+{
+    const auto preferences = preferencesOfIPhoto();
+    FileResult<PhotoLibrary> library = PhotoLibrary::read(iPhotoPath(preferences), part);
+    // The library that the preferences name may be another.
+    if (!preferences && library)
+        library->unreadPart = preferences.error();
+    else if (!preferences && library.error().isMissing())
+        return preferences.error();
+    return library;
+}
+
+FileResult<PhotoLibrary> readLibrary(Settings::PhotosSource source, PhotoLibrary::Part part,
+                                     const QSet<QString> &selected)
+{
+    if (source == Settings::PhotosSource::IPhoto)
+        return readIPhoto(part);
+    const qint64 firmware = Settings::firmwareVersion();
+    return readFolderPhotos(
+        Folders::pictures(),
+        [firmware](QStringView extension) { return isShown(extension, firmware); }, selected);
+}
+
 QString captionOf(const PhotoLibrary::Image &image)
 {
     return image.caption ? *image.caption : PathComponents::stemOf(*image.path);
@@ -78,11 +102,21 @@ QString CVSyncPhotos::saveName()
 
 FileResult<std::vector<PhotoLibrary::Album>> CVSyncPhotos::availableIdentifiers()
 {
-    const auto library =
-        PhotoLibrary::read(libraryPath(preferencesOfIPhoto()), PhotoLibrary::Part::AlbumsOnly);
+    return albumsOf(Settings::photoLibrary());
+}
+
+FileResult<std::vector<PhotoLibrary::Album>> CVSyncPhotos::albumsOf(Settings::PhotosSource source)
+{
+    const auto library = readLibrary(source, PhotoLibrary::Part::AlbumsOnly, {});
     if (!library)
         return library.error();
     return library->albums();
+}
+
+QString CVSyncPhotos::placeOf(Settings::PhotosSource source)
+{
+    return source == Settings::PhotosSource::IPhoto ? iPhotoPath(preferencesOfIPhoto())
+                                                    : Folders::pictures();
 }
 
 std::optional<QStringList> CVSyncPhotos::selectedIdentifiersForPSP(const QString &volume)
@@ -126,12 +160,10 @@ std::vector<CVSyncItem> CVSyncPhotos::itemsToSync()
 
 void CVSyncPhotos::addAlbumItems(std::vector<CVSyncItem> &items)
 {
-    const auto preferences = preferencesOfIPhoto();
-    // The library that they name may be another.
-    if (!preferences && isAnythingSelected())
-        noteUnreadableLibrary(preferences.error());
-    const auto library =
-        PhotoLibrary::read(libraryPath(preferences), PhotoLibrary::Part::Everything);
+    const auto library = readLibrary(Settings::photoLibrary(), PhotoLibrary::Part::Everything,
+                                     selectedIdentifiers());
+    if (library && library->unreadPart && isAnythingSelected())
+        noteUnreadableLibrary(*library->unreadPart);
     if (!library) {
         if (isAnythingSelected())
             noteUnreadableLibrary(library.error());

@@ -40,6 +40,12 @@ public:
     /// Null where the key names none.
     const Image *image(const QString &key) const;
 
+    void add(Album album) { m_albums.push_back(std::move(album)); }
+    void add(const QString &key, Image image) { m_images.insert(key, std::move(image)); }
+
+    /// Why a part that is selected could not be read: what it holds is missing here.
+    std::optional<FileError> unreadPart;
+
 private:
     class Reader;
 

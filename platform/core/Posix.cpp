@@ -45,7 +45,8 @@ Entry measured(const dirent &entry, int folder)
     struct stat status;
     if (::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
         return {entry.d_name, EntryKind::Unknown};
-    return {entry.d_name, Posix::kindOf(status), static_cast<std::uint64_t>(status.st_size)};
+    return {entry.d_name, Posix::kindOf(status), static_cast<std::uint64_t>(status.st_size),
+            modifiedTime(status)};
 }
 
 bool isSelfOrParent(const char *name)
@@ -113,6 +114,11 @@ EntryKind kindOf(const struct stat &status)
     default:
         return EntryKind::Special;
     }
+}
+
+std::int64_t modifiedTime(const struct stat &status)
+{
+    return std::int64_t(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec;
 }
 
 std::optional<std::vector<Entry>> entriesOf(Descriptor folder, Sizes sizes)

@@ -50,7 +50,8 @@ struct FolderEntry
     int parent = -1;
     // Only where sizes were asked for
     bool isLink = false;
-    quint64 size = 0; ///< bytes; of a link itself
+    quint64 size = 0;    ///< bytes; of a link itself
+    qint64 modified = 0; ///< as in FileStamp; of a link itself
 };
 
 /// Size and free space of a file system in bytes; free is what an ordinary user can still fill.

@@ -54,7 +54,8 @@ private:
         }
         const bool isFolder = entry.kind == EntryKind::Folder;
         const QString path = prefix + name.toString();
-        m_found.push_back({path, isFolder, parent, entry.kind == EntryKind::Link, entry.size});
+        m_found.push_back(
+            {path, isFolder, parent, entry.kind == EntryKind::Link, entry.size, entry.modified});
         const int index = static_cast<int>(m_found.size()) - 1;
         if (isFolder && m_depth == Depth::Whole)
             listFolder(folder + '/' + entry.name, path + u'/', index, Links::Refuse);

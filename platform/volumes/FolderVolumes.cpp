@@ -76,29 +76,39 @@ QStringList FolderVolumes::mountedRemovableMedia() const
     return paths;
 }
 
-Ejection FolderVolumes::unmountAndEject(const QString &path)
+bool FolderVolumes::unmountAndEject(const QString &path)
 {
-    const auto refused = [&path](const QString &reason) {
-        qCWarning(lcPlatform).noquote() << "Can't eject" << path << ":" << reason;
-        return Ejection{.reason = reason};
-    };
-    if (!mountedRemovableMedia().contains(path))
-        return refused(QStringLiteral("no such volume"));
-    const QString folder = ejectedFolder(m_folder);
-    const QString aside = folder + path.mid(m_folder.size());
+    if (!mountedRemovableMedia().contains(path)) {
+        qCWarning(lcPlatform, "Can't eject %s: no such volume", qUtf8Printable(path));
+        return false;
+    }
+    const QString aside = ejectedFolder(m_folder) + path.mid(m_folder.size());
     struct stat status;
-    if (::lstat(Posix::native(aside).constData(), &status) == 0)
-        return refused(aside + QStringLiteral(" is there already"));
+    if (::lstat(Posix::native(aside).constData(), &status) == 0) {
+        qCWarning(lcPlatform, "Can't eject %s: %s is there already", qUtf8Printable(path),
+                  qUtf8Printable(aside));
+        return false;
+    }
     performOnMainThread(
         this, [this, &path] { Q_EMIT willUnmount(path); }, CallMode::Wait);
-    ::mkdir(Posix::native(folder).constData(), 0755); // the rename tells when it isn't there
-    if (!Posix::renameExclusively(Posix::native(path).constData(),
-                                  Posix::native(aside).constData()))
-        return refused(Posix::reason(errno));
+    if (!moveAside(path))
+        return false;
     // Not left to the watcher, which may have run out of watches.
     performOnMainThread(
         this, [this] { rescan(); }, CallMode::DontWait);
-    return {.isDone = true};
+    return true;
+}
+
+bool FolderVolumes::moveAside(const QString &path) const
+{
+    const QString folder = ejectedFolder(m_folder);
+    const QByteArray aside = Posix::native(folder + path.mid(m_folder.size()));
+    ::mkdir(Posix::native(folder).constData(), 0755); // the rename tells when it isn't there
+    if (Posix::renameExclusively(Posix::native(path).constData(), aside.constData()))
+        return true;
+    qCWarning(lcPlatform, "Can't eject %s: %s", qUtf8Printable(path),
+              qUtf8Printable(Posix::reason(errno)));
+    return false;
 }
 
 /// Watches the folder, or the nearest one above it while it doesn't exist.

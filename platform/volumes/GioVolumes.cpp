@@ -49,41 +49,42 @@ std::vector<Mounted> mountsOf(GVolumeMonitor *monitor)
 }
 
 /// One unmount or eject and what came of it.
-struct Attempt
+struct Ejection
 {
     bool eject = false;
-    bool hasEnded = false;
-    Ejection ejection;
+    bool done = false;
+    bool success = false;
+    QString reason;
 
     static void finished(GObject *object, GAsyncResult *result, gpointer data)
     {
-        auto *self = static_cast<Attempt *>(data);
+        auto *self = static_cast<Ejection *>(data);
         auto *mount = reinterpret_cast<GMount *>(object);
         GError *error = nullptr;
-        self->ejection.isDone =
+        self->success =
             (self->eject ? g_mount_eject_with_operation_finish(mount, result, &error)
                          : g_mount_unmount_with_operation_finish(mount, result, &error)) != FALSE;
         if (error)
-            self->ejection.reason = QString::fromUtf8(error->message).trimmed();
+            self->reason = QString::fromUtf8(error->message).trimmed();
         g_clear_error(&error);
-        self->hasEnded = true;
+        self->done = true;
     }
 };
 
 /// No mount operation is passed: nobody could answer its questions, so a busy volume is refused.
 Ejection ejectAndWait(GMount *mount)
 {
-    Attempt attempt;
+    Ejection ejection;
     Glib::ThreadContext context; // no other event loop is served meanwhile
-    attempt.eject = g_mount_can_eject(mount) != FALSE;
-    if (attempt.eject)
+    ejection.eject = g_mount_can_eject(mount) != FALSE;
+    if (ejection.eject)
         g_mount_eject_with_operation(mount, G_MOUNT_UNMOUNT_NONE, nullptr, nullptr,
-                                     Attempt::finished, &attempt);
+                                     Ejection::finished, &ejection);
     else
         g_mount_unmount_with_operation(mount, G_MOUNT_UNMOUNT_NONE, nullptr, nullptr,
-                                       Attempt::finished, &attempt);
-    context.serveUntil(attempt.hasEnded);
-    return attempt.ejection;
+                                       Ejection::finished, &ejection);
+    context.serveUntil(ejection.done);
+    return ejection;
 }
 
 } // namespace
@@ -173,18 +174,18 @@ QStringList GioVolumes::mountedRemovableMedia() const
     return paths;
 }
 
-Ejection GioVolumes::unmountAndEject(const QString &path)
+bool GioVolumes::unmountAndEject(const QString &path)
 {
     const std::vector<Mounted> mounts = d->mounts();
     const auto found = std::ranges::find(mounts, path, &Mounted::path);
     if (found == mounts.end()) {
         qCWarning(lcPlatform, "Can't eject %s: no such volume", qUtf8Printable(path));
-        return {.reason = QStringLiteral("no such volume")};
+        return false;
     }
     const Ejection ejection = ejectAndWait(found->mount.get());
-    if (!ejection.isDone)
+    if (!ejection.success)
         qCWarning(lcPlatform, "Can't eject %s: %s", qUtf8Printable(path),
                   qUtf8Printable(ejection.reason));
     d->queueRescan();
-    return ejection;
+    return ejection.success;
 }

@@ -279,10 +279,6 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <translation>Keine Beschreibung verfügbar</translation>
     </message>
     <message>
-        <source>%@ uses %@</source>
-        <translation>%@ verwendet %@</translation>
-    </message>
-    <message>
         <source>Can't eject the PSP now!</source>
         <translation>Die PSP kann jetzt nicht ausgeworfen werden!</translation>
     </message>
@@ -339,6 +335,10 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <translation>Camino-Lesezeichen werden synchronisiert …</translation>
     </message>
     <message>
+        <source>Syncing Chromium Bookmarks...</source>
+        <translation>Chromium-Lesezeichen werden synchronisiert …</translation>
+    </message>
+    <message>
         <source>Syncing Contact Icons...</source>
         <translation>Kontaktbilder werden synchronisiert …</translation>
     </message>
@@ -357,6 +357,10 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
     <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>%@ von %@ Dateien konnten nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>Reading songs: %@ of %@</source>
+        <translation>Titel werden gelesen: %@ von %@</translation>
     </message>
     <message>
         <source>PSP lost during sync!</source>
@@ -415,6 +419,14 @@ Klicken Sie auf „Jetzt synchronisieren“, um trotzdem zu synchronisieren.</tr
 
 Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>Eine Synchronisierung würde mehr als die Hälfte von „%@“ von der PSP entfernen, obwohl Ihre Auswahl dieselbe ist. Fehlt ein Datenträger mit Ihren Medien?
+
+Klicken Sie auf „Jetzt synchronisieren“, um trotzdem zu synchronisieren.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; comes from another source now. A sync would remove from the PSP what came from the one before.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>„%@“ kommt jetzt aus einer anderen Quelle. Eine Synchronisierung würde von der PSP entfernen, was aus der vorigen kam.
 
 Klicken Sie auf „Jetzt synchronisieren“, um trotzdem zu synchronisieren.</translation>
     </message>

@@ -279,10 +279,6 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <translation>No hay descripción disponible</translation>
     </message>
     <message>
-        <source>%@ uses %@</source>
-        <translation>%@ está usando %@</translation>
-    </message>
-    <message>
         <source>Can't eject the PSP now!</source>
         <translation>No se puede expulsar la PSP ahora</translation>
     </message>
@@ -339,6 +335,10 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <translation>Sincronizando los marcadores de Camino…</translation>
     </message>
     <message>
+        <source>Syncing Chromium Bookmarks...</source>
+        <translation>Sincronizando los marcadores de Chromium…</translation>
+    </message>
+    <message>
         <source>Syncing Contact Icons...</source>
         <translation>Sincronizando las imágenes de los contactos…</translation>
     </message>
@@ -357,6 +357,10 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
     <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>No se pudieron copiar %@ de %@ archivos.</translation>
+    </message>
+    <message>
+        <source>Reading songs: %@ of %@</source>
+        <translation>Leyendo canciones: %@ de %@</translation>
     </message>
     <message>
         <source>PSP lost during sync!</source>
@@ -415,6 +419,14 @@ Haga clic en «Sincronizar ahora» para sincronizar de todos modos.</translation
 
 Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>Una sincronización eliminaría de la PSP más de la mitad de «%@», aunque su selección es la misma. ¿Falta un disco con sus medios?
+
+Haga clic en «Sincronizar ahora» para sincronizar de todos modos.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; comes from another source now. A sync would remove from the PSP what came from the one before.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>«%@» viene ahora de otra fuente. Una sincronización eliminaría de la PSP lo que vino de la anterior.
 
 Haga clic en «Sincronizar ahora» para sincronizar de todos modos.</translation>
     </message>

@@ -279,10 +279,6 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <translation>Aucune description disponible</translation>
     </message>
     <message>
-        <source>%@ uses %@</source>
-        <translation>%@ utilise %@</translation>
-    </message>
-    <message>
         <source>Can't eject the PSP now!</source>
         <translation>Impossible d’éjecter la PSP maintenant !</translation>
     </message>
@@ -339,6 +335,10 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <translation>Synchronisation des signets de Camino…</translation>
     </message>
     <message>
+        <source>Syncing Chromium Bookmarks...</source>
+        <translation>Synchronisation des signets de Chromium…</translation>
+    </message>
+    <message>
         <source>Syncing Contact Icons...</source>
         <translation>Synchronisation des images des contacts…</translation>
     </message>
@@ -357,6 +357,10 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
     <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>%@ fichiers sur %@ n’ont pas pu être copiés.</translation>
+    </message>
+    <message>
+        <source>Reading songs: %@ of %@</source>
+        <translation>Lecture des morceaux : %@ sur %@</translation>
     </message>
     <message>
         <source>PSP lost during sync!</source>
@@ -415,6 +419,14 @@ Cliquez sur « Synchroniser maintenant » pour synchroniser quand même.</transl
 
 Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>Une synchronisation supprimerait de la PSP plus de la moitié de « %@ », alors que votre sélection est la même. Un disque contenant vos médias manque-t-il ?
+
+Cliquez sur « Synchroniser maintenant » pour synchroniser quand même.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; comes from another source now. A sync would remove from the PSP what came from the one before.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>« %@ » vient maintenant d’une autre source. Une synchronisation supprimerait de la PSP ce qui venait de la précédente.
 
 Cliquez sur « Synchroniser maintenant » pour synchroniser quand même.</translation>
     </message>

@@ -279,10 +279,6 @@ Please deselect some media to ensure the sync can be completed.</source>
         <translation>説明はありません</translation>
     </message>
     <message>
-        <source>%@ uses %@</source>
-        <translation>%@ が %@ を使用しています</translation>
-    </message>
-    <message>
         <source>Can't eject the PSP now!</source>
         <translation>今は PSP を取り出せません</translation>
     </message>
@@ -339,6 +335,10 @@ Please deselect some media to ensure the sync can be completed.</source>
         <translation>Camino のブックマークを同期しています…</translation>
     </message>
     <message>
+        <source>Syncing Chromium Bookmarks...</source>
+        <translation>Chromium のブックマークを同期しています…</translation>
+    </message>
+    <message>
         <source>Syncing Contact Icons...</source>
         <translation>連絡先の画像を同期しています…</translation>
     </message>
@@ -357,6 +357,10 @@ Please deselect some media to ensure the sync can be completed.</source>
     <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>ファイル %@ 個（%@ 個中）をコピーできませんでした。</translation>
+    </message>
+    <message>
+        <source>Reading songs: %@ of %@</source>
+        <translation>曲を読み込んでいます：%@ / %@</translation>
     </message>
     <message>
         <source>PSP lost during sync!</source>
@@ -415,6 +419,14 @@ Click &quot;Sync Now&quot; to sync all the same.</source>
 
 Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>選択内容は同じですが、同期すると「%@」の半分以上が PSP から削除されます。メディアの入ったディスクが接続されていますか？
+
+それでも同期するには、「今すぐ同期」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; comes from another source now. A sync would remove from the PSP what came from the one before.
+
+Click &quot;Sync Now&quot; to sync all the same.</source>
+        <translation>「%@」の取得元が変更されました。同期すると、以前の取得元からのものが PSP から削除されます。
 
 それでも同期するには、「今すぐ同期」をクリックしてください。</translation>
     </message>

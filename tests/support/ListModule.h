@@ -17,6 +17,7 @@ public:
         bool clears = true;
         QString name = u"Test"_s;
         std::optional<FileError> unreadable = {}; ///< the library
+        qint64 source = 0;
     };
 
     ListModule(const QString &volume, const QString &saveName, const Wishes &wishes)
@@ -43,6 +44,7 @@ public:
     }
 
 private:
+    qint64 source() const override { return m_wishes.source; }
     const Wishes &m_wishes;
 };
 

@@ -22,10 +22,10 @@ public:
     void vanish(const QString &path);
 
     QStringList mountedRemovableMedia() const override;
-    Ejection unmountAndEject(const QString &path) override
+    bool unmountAndEject(const QString &path) override
     {
         unmount(path);
-        return {.isDone = true};
+        return true;
     }
 
 private:
@@ -93,6 +93,7 @@ public:
         note(u"syncHeldBack %1 %2"_s.arg(static_cast<int>(why.reason)).arg(why.kind));
     }
     void syncWillStart() override { note(u"syncWillStart"_s); }
+    void syncIsPreparing(const QString &progress) override { note(progress); }
     void syncWillCleanUp() override { note(u"syncWillCleanUp"_s); }
     void syncNotEnoughFreeSpace(quint64 n) override { note(u"syncNotEnoughFreeSpace %1"_s.arg(n)); }
     void syncWillCancel() override { note(u"syncWillCancel"_s); }
@@ -115,7 +116,7 @@ public:
     void finalizeDidStart() override { note(u"finalizeDidStart"_s); }
     bool shouldUnmountPSP() override { return true; }
     void pspWillUnmount() override { note(u"pspWillUnmount"_s); }
-    void pspUnmountFailed(const FailedEject &) override { note(u"pspUnmountFailed"_s); }
+    void pspUnmountFailed() override { note(u"pspUnmountFailed"_s); }
     RunReport report; ///< of the last run
     void syncDidFinish(const RunReport &finished) override
     {

@@ -175,6 +175,12 @@ TEST(SyncOnMount, IsHeldBackWhereTheUserMayLoseWhatIsWanted)
     harness.wanted.clear();
     EXPECT_TRUE(harness.run()) << "by hand";
 
+    placeAll();
+    harness.wanted.pop_back();
+    harness.wishes.source = 1;
+    EXPECT_EQ(remount(), "syncHeldBack 6 Music") << "even one, where it came from elsewhere";
+    harness.manager.userHasLooked();
+    EXPECT_EQ(remount(), "syncWillStart");
     harness.wishes.unreadable = FileError::of(FileError::Operation::Parse, u"/library"_s, 0);
     EXPECT_EQ(remount(), "syncHeldBack 4 Music");
     EXPECT_EQ(remount(), "syncHeldBack 4 Music");

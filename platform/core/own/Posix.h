@@ -73,7 +73,11 @@ struct Entry
     std::string name;
     EntryKind kind = EntryKind::Unknown; ///< Unknown where the entry vanished meanwhile
     std::uint64_t size = 0;              ///< bytes, where sizes are read
+    std::int64_t modified = 0;           ///< as FileStamp has it, where sizes are read
 };
+
+/// Nanoseconds since 1970 began in UTC.
+std::int64_t modifiedTime(const struct stat &status);
 
 /// Sizes cost a stat call for each entry.
 enum class Sizes { Skip, Read };

@@ -114,7 +114,8 @@ TEST_F(CVSyncBookmarksTest, StagesTheChosenFolders)
     harness.set(u"syncContacts", true);
     int number = 0;
     for (const char *text : {"Syncing Safari Bookmarks...", "Syncing Firefox Bookmarks...",
-                             "Syncing OmniWeb Bookmarks...", "Syncing Camino Bookmarks...", ""}) {
+                             "Syncing OmniWeb Bookmarks...", "Syncing Camino Bookmarks...",
+                             "Syncing Firefox Bookmarks...", "Syncing Chromium Bookmarks...", ""}) {
         harness.set(u"bookmarkSource", number++);
         ASSERT_EQ(items().size(), 1U);
         EXPECT_EQ(items()[0].description.toStdString(), text);

@@ -107,3 +107,22 @@ TEST_F(CVSyncPhotosTest, FindsTheLibraryAndTheDropbox)
     harness.set(u"syncDropboxes", false);
     EXPECT_EQ(wishes(), "");
 }
+
+TEST_F(CVSyncPhotosTest, TakesFoldersAsAlbums)
+{
+    const QString pictures = harness.home(u"Pictures/"_s);
+    for (const char *place : {"top.jpg", "Sea/b.PNG", "Sea/a.jpeg", "Sea/film.mov", "Sea/.c.jpg",
+                              "Sea/Deep/d.bmp", "Texts/a.txt", ".thumbs/a.jpg"})
+        writeFile(pictures + QLatin1String(place), "x");
+    harness.set(u"photosSource", 1);
+    harness.set(u"sortPhotosBy", 1);
+    QStringList albums;
+    const auto found = CVSyncPhotos::availableIdentifiers();
+    for (const PhotoLibrary::Album &album : *found)
+        albums.append(*album.name + u' ' + QString::number(album.size));
+    EXPECT_EQ(joined(albums), "Pictures 1\nSea 2\nSea/Deep 1");
+    EXPECT_EQ(wishes(), "") << "what is selected belongs to the other source";
+    CVSyncPhotos::setSelectedIdentifiers({u"Sea/Deep"_s, u"Sea"_s}, {});
+    EXPECT_EQ(wishes(), "Sea/000. a.jpeg < a.jpeg\nSea/001. b.PNG < b.PNG\n"
+                        "Sea_Deep/000. d.bmp < d.bmp");
+}
