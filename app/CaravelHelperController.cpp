@@ -52,8 +52,8 @@ CaravelHelperController::CaravelHelperController(Services services, QObject *par
     , m_plans(m_catalogue, m_manager)
     , m_menu(m_manager, menuActions())
     , m_icon(m_services.statusBar, m_manager)
-    , m_status({m_manager, m_logger, m_plans, m_frontEnds, m_menu, m_icon, m_services.alerts,
-                m_services.sounds, m_services.clock,
+    , m_status({m_manager, m_logger, m_plans, m_record, m_frontEnds, m_menu, m_icon,
+                m_services.alerts, m_services.sounds, m_services.clock,
                 [this] {
                     openCaravel();
                 }})

@@ -3,6 +3,7 @@
 #include "app/FrontEnds.h"
 #include "app/LoginItems.h"
 #include "app/Plans.h"
+#include "app/RunRecord.h"
 #include "app/SelectionLists.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
@@ -47,6 +48,7 @@ public:
     CVSyncManager &syncManager() { return m_manager; }
     SyncStatus &status() { return m_status; }
     Plans &plans() { return m_plans; }
+    const RunRecord &record() const { return m_record; }
     SelectionLists &lists() { return m_lists; }
     FrontEnds &frontEnds() { return m_frontEnds; }
     MovieQueue &movies() { return m_movies; }
@@ -107,6 +109,7 @@ private:
     const ModuleCatalogue m_catalogue;
     CVSyncManager m_manager;
     Plans m_plans;
+    RunRecord m_record;
     FrontEnds m_frontEnds;
     StatusMenu m_menu;
     StatusIcon m_icon;

@@ -97,6 +97,15 @@ void bindPlans(ServedMethods &served, Plans &plans)
     });
 }
 
+void bindRecord(ServedMethods &served, const RunRecord &record)
+{
+    served.answer(Protocol::lastRunSummary, [&record] { return record.summary(); });
+    served.bind(Protocol::lastRunItems, [&record](Request request) {
+        const QVariantList &given = request.arguments;
+        return QVariant(record.items(given[0].toUInt(), given[1].toUInt()));
+    });
+}
+
 void bindLists(ServedMethods &served, CaravelHelperController &helper)
 {
     SelectionLists &lists = helper.lists();
@@ -153,6 +162,7 @@ std::vector<RemoteMethod> methods(CaravelHelperController &controller)
     bindState(served, controller);
     bindEstimate(served, controller.syncManager());
     bindPlans(served, controller.plans());
+    bindRecord(served, controller.record());
     bindLists(served, controller);
     bindSources(served);
     bindMovies(served, controller.movies());

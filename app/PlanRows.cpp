@@ -102,6 +102,8 @@ QString reasonText(Reason reason)
         return QStringLiteral("link");
     case Reason::TooLarge:
         return QStringLiteral("too large");
+    case Reason::NotKept:
+        return QStringLiteral("notKept");
     case Reason::Companion:
         return QStringLiteral("companion");
     }

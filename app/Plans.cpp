@@ -22,9 +22,13 @@ void Plans::watchSettings(DistributedNotificationCenter &center)
 {
     UserDefaults &store = UserDefaults::standard();
     connect(&store, &UserDefaults::changed, this, &Plans::checkBasis);
-    center.observe(
-        PrefsController::didChange(), this, [this] { checkBasis(); },
-        DistributedNotificationCenter::Own::Ignore);
+    // Observers are called in no order that is known: the store may not have been read anew yet.
+    const auto reread = [this, &store] {
+        store.synchronize();
+        checkBasis();
+    };
+    center.observe(PrefsController::didChange(), this, reread,
+                   DistributedNotificationCenter::Own::Ignore);
 }
 
 void Plans::request()

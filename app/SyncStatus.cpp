@@ -3,6 +3,7 @@
 #include "app/Log.h"
 #include "app/Plans.h"
 #include "app/RelativeDate.h"
+#include "app/RunRecord.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
 #include "platform/core/Clock.h"
@@ -16,9 +17,13 @@
 #include "util/Settings.h"
 #include "util/TextFormat.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
+
+/// Lines of an alert that lists something.
+constexpr qsizetype longestAlert = 10;
 
 QString size(std::optional<quint64> bytes)
 {
@@ -142,8 +147,20 @@ void SyncStatus::pspDidEject()
         showStick();
 }
 
-void SyncStatus::pspUnmountFailed()
+void SyncStatus::pspUnmountFailed(const FailedEject &failed)
 {
+    QStringList why;
+    for (const VolumeHolder &holder : failed.holders)
+        why.append(filled(localized("%@ uses %@"), {holder.program, holder.path}));
+    if (!failed.reason.isEmpty())
+        why.append(failed.reason);
+    for (const QString &line : why)
+        m_services.logger.log(QStringLiteral("Eject failed: %@"), line);
+    // Told first: who asked for the eject looks for the texts.
+    if (!why.isEmpty())
+        doAlert(localized("Can't eject the PSP now!"),
+                why.first(std::min<qsizetype>(why.size(), longestAlert)).join(u'\n'),
+                AlertStyle::Warning);
     show(localized("Eject Failed"), localized("The PSP may be in use by another application."));
 }
 
@@ -190,6 +207,7 @@ void SyncStatus::syncWillStart()
 {
     m_saidFilled = false;
     m_services.plans.forget();
+    m_services.record.begin(m_services.manager.pspVolume(), m_services.clock.now());
     m_loggedErrors.clear();
     m_services.icon.startSyncAnimation();
     show(localized("Preparing to Sync..."),
@@ -248,6 +266,11 @@ void SyncStatus::syncDidCopyLastBytes()
 
 void SyncStatus::syncDidProcessItem(const CVSyncItem &) {}
 
+void SyncStatus::syncDidProgress(const RunReport &report)
+{
+    m_services.record.update(report);
+}
+
 void SyncStatus::finalizeDidStart() {}
 
 void SyncStatus::syncWillCancel()
@@ -289,6 +312,7 @@ void SyncStatus::memoryStickFilled()
 
 void SyncStatus::syncDidFinish(const RunReport &report)
 {
+    m_services.record.end(report, m_services.clock.now());
     m_services.icon.stopSyncAnimation();
     m_services.frontEnds.updateSyncBytes();
     // Before the end, at which a front-end that waits for it leaves.
@@ -302,6 +326,11 @@ void SyncStatus::syncDidFinish(const RunReport &report)
     if (report.isComplete && report.hiddenFiles > 0)
         m_services.logger.log(QStringLiteral("Files in deeper folders than the PSP shows: %@"),
                               QString::number(report.hiddenFiles));
+    if (!report.kept.empty())
+        m_services.logger.log(filled(
+            QStringLiteral(
+                "Taken from the PSP, though no sync had placed it: %@; copies are kept in %@"),
+            {QString::number(report.kept.size()), report.keptFolder}));
     if (!report.isComplete)
         syncWasCancelled();
     else if (report.failures() > 0)

@@ -13,6 +13,7 @@ class Clock;
 class CVSyncManager;
 class Plans;
 class QMLogger;
+class RunRecord;
 class Sounds;
 class StatusIcon;
 class StatusMenu;
@@ -29,6 +30,7 @@ public:
         CVSyncManager &manager;
         QMLogger &logger;
         Plans &plans;
+        RunRecord &record;
         FrontEnds &frontEnds;
         StatusMenu &menu;
         StatusIcon &icon;
@@ -72,10 +74,11 @@ public:
     void syncDidCopyLastBytes() override;
     void syncDidProcessItem(const CVSyncItem &item) override;
     void syncError(const ErrorInfo &info) override;
+    void syncDidProgress(const RunReport &report) override;
     void finalizeDidStart() override;
     bool shouldUnmountPSP() override;
     void pspWillUnmount() override;
-    void pspUnmountFailed() override;
+    void pspUnmountFailed(const FailedEject &failed) override;
     void syncDidFinish(const RunReport &report) override;
     void newSyncBytesEstimate(quint64 bytes) override;
 

@@ -1,6 +1,7 @@
 #include "cli/PlanCommand.h"
 
 #include "cli/Output.h"
+#include "cli/Paging.h"
 #include "cli/Session.h"
 #include "frontend/Rows.h"
 #include "util/ByteCount.h"
@@ -14,8 +15,6 @@
 using Rows::text;
 
 namespace {
-
-constexpr quint32 pageRows = 1000;
 
 struct KindName
 {
@@ -61,20 +60,6 @@ bool awaitPlan(Session &session)
     if (!helper.failed())
         loop.exec();
     return ready.value_or(false);
-}
-
-QVariantList readItems(HelperClient &helper, const QString &saveName)
-{
-    QVariantList all;
-    while (!helper.failed()) {
-        const QVariantList page =
-            helper.ask(Protocol::planItems, {saveName, static_cast<uint>(all.size()), pageRows})
-                .toList();
-        if (page.isEmpty())
-            break;
-        all.append(page);
-    }
-    return all;
 }
 
 // --- As text
@@ -189,7 +174,7 @@ ExitStatus runPlan(const QString &kind, PlanOptions options)
         return refusal(helper);
     const QString saveName = saveNameOf(kind);
     const QVariantMap summary = helper.ask(Protocol::planSummary).toMap();
-    const QVariantList items = readItems(helper, saveName);
+    const QVariantList items = allRows(helper, Protocol::planItems, {saveName});
     if (helper.failed())
         return session.report();
     if (options.json) {

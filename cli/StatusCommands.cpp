@@ -6,6 +6,7 @@
 #include "frontend/Rows.h"
 #include "util/ByteCount.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -99,6 +100,8 @@ ExitStatus waitForEject(Session &session, const QString &volume)
     HelperClient &helper = session.helper();
     QEventLoop loop;
     QObject::connect(&helper, &HelperClient::gone, &loop, &QEventLoop::quit);
+    QObject::connect(&session.frontEnd(), &FrontEndObject::alert, &loop,
+                     [](const QString &, const QString &message) { Output::printError(message); });
     while (!helper.failed()) {
         const QVariant stick = helper.ask(Protocol::stick);
         const HelperState state = helper.state();
@@ -107,6 +110,7 @@ ExitStatus waitForEject(Session &session, const QString &volume)
         if (volumeOf(stick) != volume)
             return Done;
         if (HelperClient::isHelperText(state.statusText, "Eject Failed")) {
+            QCoreApplication::processEvents(); // an alert that came before the texts
             Output::error(state.statusText + u'\n' + state.statusSubText);
             return Refused;
         }
@@ -178,7 +182,7 @@ ExitStatus runEstimate(bool json)
 
 ExitStatus runEject()
 {
-    Session session;
+    Session session(Session::Stay::UntilItQuits); // takes the alert that says who is in the way
     HelperClient &helper = session.helper();
     const bool mounted = helper.askBool(Protocol::pspIsMounted);
     const bool canSync = helper.askBool(Protocol::canSync);

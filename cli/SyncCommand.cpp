@@ -3,6 +3,7 @@
 #include "cli/Follower.h"
 #include "cli/Output.h"
 #include "cli/ProgressDisplay.h"
+#include "cli/ReportCommand.h"
 #include "platform/bus/DistributedNotificationCenter.h"
 
 using namespace std::chrono_literals;
@@ -91,6 +92,8 @@ void SyncFollower::conclude(const HelperState &state, bool completed)
     Output::print(Output::printable(state.statusText));
     if (!state.statusSubText.isEmpty())
         Output::print(Output::printable(state.statusSubText));
+    for (const QString &line : reportLines(helper().ask(Protocol::lastRunSummary).toMap()))
+        Output::print(line);
     const bool isWhole = !HelperClient::isHelperText(state.statusText, "Sync Incomplete");
     finish(completed && isWhole ? Done : Refused);
 }

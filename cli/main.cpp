@@ -3,6 +3,7 @@
 #include "cli/Output.h"
 #include "cli/PlanCommand.h"
 #include "cli/PrefsCommand.h"
+#include "cli/ReportCommand.h"
 #include "cli/SaveCommands.h"
 #include "cli/SourcesCommand.h"
 #include "cli/StatusCommands.h"
@@ -104,6 +105,8 @@ CommandLine::CommandLine()
     addLog();
     addSync();
     addPlan();
+    addReading("report", "Show how the last sync ended, what it left out and what it kept",
+               [this] { return runReport(m_arguments.json); });
     add(m_app, "cancel", "Cancel the running sync", [] { return runCancel(); });
     add(m_app, "eject", "Eject the PSP", [] { return runEject(); });
     addReading("estimate", "Estimate how much of the PSP the selection takes",

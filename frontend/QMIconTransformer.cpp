@@ -32,7 +32,7 @@ QImage QMIconTransformer::transformedValue(const QString &icon) const
 {
     const QString name = QStringLiteral("%1/%2.png").arg(m_resourcePath, icon);
     QImage image = icon.contains(u'/') ? QImage() : imageIn(name);
-    if (image.isNull() && icon.startsWith(u'/'))
+    if (image.isNull() && !icon.isEmpty())
         image = imageIn(icon);
     return image.isNull() ? emptyImage() : image;
 }

@@ -144,6 +144,16 @@ inline constexpr Method planSummary{u"planSummary", {}, u"a{sv}"};
 inline constexpr Method planItems{
     u"planItems", {{u"s", u"kind"}, {u"u", u"first"}, {u"u", u"count"}}, u"aa{sv}"};
 
+/// How the last run ended: "started" and "ended" (seconds since 1970, "d"; without the latter it
+/// lasts, or was cut short), "outcome" ("complete", "incomplete", "cancelled", "disconnected",
+/// "full", "tooLarge"), "copied", "replaced", "removed", "kept", "leftOut" and "missing" ("u"),
+/// "copiedBytes" ("t"), "volume"; empty where there was none.
+inline constexpr Method lastRunSummary{u"lastRunSummary", {}, u"a{sv}"};
+/// A page of at most 1,000 rows: what was kept ("action" is "keep", "source" its copy) and left out
+/// ("leaveOut"), with "path" below the volume and "reason".
+inline constexpr Method lastRunItems{
+    u"lastRunItems", {{u"u", u"first"}, {u"u", u"count"}}, u"aa{sv}"};
+
 /// All of them, in the order in which the helper declares them.
 inline constexpr const Method *helperMethods[] = {
     &setApplication,
@@ -190,6 +200,8 @@ inline constexpr const Method *helperMethods[] = {
     &requestPlan,
     &planSummary,
     &planItems,
+    &lastRunSummary,
+    &lastRunItems,
     &sources,
     &stick,
 };

@@ -129,9 +129,11 @@ private:
     bool endRun();
     void finishRun(RunReport report);
     void beginEject();
-    bool endEject(bool succeeded);
+    bool unmount(const QString &volume);
+    void endEject(const std::optional<FailedEject> &failed);
 
     // What a run asks for and tells
+    void reportProgress(const RunReport &report) override;
     void setPlan(std::shared_ptr<const SyncPlan> plan) override;
     void setIsIndeterminate(bool indeterminate) override { m_isIndeterminate = indeterminate; }
     void setSyncBytes(quint64 total, quint64 copied) override;

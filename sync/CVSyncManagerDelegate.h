@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/volumes/VolumeHolders.h"
 #include "sync/ErrorInfo.h"
 #include "sync/HoldBack.h"
 #include "sync/RunReport.h"
@@ -7,6 +8,13 @@
 #include <QString>
 
 struct CVSyncItem;
+
+/// Why the PSP could not be ejected, as far as it is known.
+struct FailedEject
+{
+    QString reason; ///< the volume service's; may be empty
+    std::vector<VolumeHolder> holders;
+};
 
 /// What the sync manager tells the application. Unless noted, every call comes on the main thread,
 /// the sending thread waits until it has returned, and calls come in the order of events.
@@ -49,11 +57,13 @@ public:
     virtual void syncDidProcessItem(const CVSyncItem &item) = 0;
     /// A file operation failed; the run goes on.
     virtual void syncError(const ErrorInfo &error) = 0;
+    /// What the run has done by now; after each of its phases.
+    virtual void syncDidProgress(const RunReport &) {}
     virtual void finalizeDidStart() = 0;
     /// Whether a completed run may eject. Asked on the run's thread; must change nothing.
     virtual bool shouldUnmountPSP() = 0;
     virtual void pspWillUnmount() = 0;
-    virtual void pspUnmountFailed() = 0;
+    virtual void pspUnmountFailed(const FailedEject &failed) = 0;
     /// Last call of a run, exactly one. For a run that the system had no thread for it is, with an
     /// empty report, the only one after the first.
     virtual void syncDidFinish(const RunReport &report) = 0;

@@ -84,6 +84,11 @@ void CVSyncManager::setPlan(std::shared_ptr<const SyncPlan> plan)
     m_runPlan = std::move(plan);
 }
 
+void CVSyncManager::reportProgress(const RunReport &report)
+{
+    tell([&report](CVSyncManagerDelegate &delegate) { delegate.syncDidProgress(report); });
+}
+
 std::shared_ptr<const SyncPlan> CVSyncManager::runPlan() const
 {
     const std::scoped_lock lock(m_volumeMutex);
@@ -151,12 +156,12 @@ void CVSyncManager::eject()
     tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
     const bool isStarted = Workers::start([this, volume = pspVolume()] {
         // After the scan that the volume's going has queued.
-        if (endEject(m_services.volumes.unmountAndEject(volume)))
+        if (unmount(volume))
             performOnMainThread(
                 this, [this] { Q_EMIT ejected(); }, CallMode::DontWait);
     });
     if (!isStarted)
-        endEject(false);
+        endEject(FailedEject{QStringLiteral("there is no thread for it"), {}});
 }
 
 void CVSyncManager::ejectVolume(const QString &volume)
@@ -165,7 +170,18 @@ void CVSyncManager::ejectVolume(const QString &volume)
         this, [this] { m_forItself.forget(); }, CallMode::Wait);
     beginEject();
     tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
-    endEject(m_services.volumes.unmountAndEject(volume));
+    unmount(volume);
+}
+
+// Who holds the volume is looked up on this thread: there may be many processes.
+bool CVSyncManager::unmount(const QString &volume)
+{
+    const Ejection ejection = m_services.volumes.unmountAndEject(volume);
+    if (ejection.isDone)
+        endEject(std::nullopt);
+    else
+        endEject(FailedEject{ejection.reason, volumeHolders(volume)});
+    return ejection.isDone;
 }
 
 void CVSyncManager::beginEject()
@@ -174,13 +190,12 @@ void CVSyncManager::beginEject()
     m_pspIsUnmounting = true;
 }
 
-bool CVSyncManager::endEject(bool succeeded)
+void CVSyncManager::endEject(const std::optional<FailedEject> &failed)
 {
     m_isIndeterminate = false;
     m_pspIsUnmounting = false;
-    if (!succeeded)
-        tell([](CVSyncManagerDelegate &delegate) { delegate.pspUnmountFailed(); });
-    return succeeded;
+    if (failed)
+        tell([&failed](CVSyncManagerDelegate &delegate) { delegate.pspUnmountFailed(*failed); });
 }
 
 void CVSyncManager::tell(const std::function<void(CVSyncManagerDelegate &)> &callback)

@@ -25,6 +25,7 @@ struct PlannedItem
         Missing,  ///< the source doesn't exist
         Link,     ///< a link lies on the way to the destination
         TooLarge, ///< for the stick's file system
+        NotKept,  ///< what is to go for it could not be copied to the computer; found in the run
         /// The source is other systems' "._" file, which never goes along; what lies at its
         /// destination in another size goes all the same.
         Companion,

@@ -9,6 +9,7 @@
 #include "util/Settings.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 namespace {
@@ -22,6 +23,13 @@ SyncRun::SyncRun(SyncRunHost &host, Services services, StickEditor stick)
     : m_host(host)
     , m_services(std::move(services))
     , m_stick(std::move(stick))
+    , m_kept(m_stick.volume(), m_services.clock,
+             {[this] { return m_host.shouldCancelSync(); },
+              [this](const FileError &error) {
+                  m_lastError = error;
+                  if (!m_stick.isLostBy(error))
+                      qCWarning(lcSync).noquote() << "Can't keep a copy:" << error.description();
+              }})
 {
     m_stick.setWhenGone([this] {
         if (!std::exchange(m_saidGone, true)) {
@@ -118,7 +126,11 @@ bool SyncRun::fileManagerShouldProceedAfterError(const FileError &error)
 {
     m_lastError = error;
     // What is wrong with the stick as a whole is said once, at the end.
-    if (!m_stick.isLostBy(error))
-        m_host.syncModuleError(error);
+    if (m_stick.isLostBy(error))
+        return true;
+    const bool wasCancelled = m_host.shouldCancelSync();
+    m_host.syncModuleError(error);
+    if (error.number == ENOSPC && !wasCancelled)
+        m_report.isStickFull = m_host.shouldCancelSync();
     return true;
 }

@@ -2,12 +2,14 @@
 
 #include "sync/CVSyncManagerDelegate.h"
 #include "sync/CVSyncModuleDelegate.h"
+#include "sync/KeptFiles.h"
 #include "sync/ModuleKind.h"
 #include "sync/RunReport.h"
 #include "sync/StickEditor.h"
 #include "sync/SyncPlan.h"
 
 #include <QHash>
+#include <QSet>
 #include <QStringList>
 
 #include <memory>
@@ -22,6 +24,8 @@ public:
     virtual void cancelSync() = 0;
     /// What the run does, once that stands.
     virtual void setPlan(std::shared_ptr<const SyncPlan> plan) = 0;
+    /// What the run has done by now.
+    virtual void reportProgress(const RunReport &report) = 0;
     virtual void setIsIndeterminate(bool indeterminate) = 0;
     /// Of the run's copies; and of everything selected.
     virtual void setSyncBytes(quint64 total, quint64 copied) = 0;
@@ -69,6 +73,7 @@ private:
     void removeReplaced(const KindPlan &kind);
     void cleanUp(const KindPlan &kind, ItemPlacer *placer);
     void removePlanned(const PlannedRemoval &removal);
+    bool mayGo(const QString &path, bool isStranger);
     void copyKind(const KindPlan &kind, ItemPlacer &placer);
     void copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringList &index);
     void record(const PlannedItem &planned, const CopyOutcome &outcome);
@@ -89,6 +94,8 @@ private:
     std::shared_ptr<const SyncPlan> m_plan = std::make_shared<SyncPlan>();
     QHash<QString, QStringList> m_indexes; // syncIndex: per save name, relative to the volume
     QStringList m_notRemoved;              // paths; their folders stay
-    FileError m_lastError;                 // of the item that is being placed
+    KeptFiles m_kept;
+    QSet<QString> m_notKept; // destinations where something lies that can't go
+    FileError m_lastError;   // of the item that is being placed
     RunReport m_report;
 };

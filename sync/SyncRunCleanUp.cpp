@@ -11,6 +11,7 @@ void SyncRun::cleanUp()
     m_host.tell([](CVSyncManagerDelegate &delegate) { delegate.syncWillCleanUp(); });
     for (size_t i = 0; i < m_plan->kinds.size() && !m_host.shouldCancelSync(); ++i)
         cleanUp(m_plan->kinds[i], m_modules[i]->placer());
+    m_host.reportProgress(m_report);
     // So that the space that was freed counts in the test that follows.
     if (m_stick.isPresent())
         m_stick.flush();
@@ -38,6 +39,10 @@ void SyncRun::removePlanned(const PlannedRemoval &removal)
         qCInfo(lcSync).noquote().nospace()
             << "Removing file " << removal.path << "... " << int(removal.isEmptiedFolder) << ' '
             << int(removal.isUnwantedFile);
+    }
+    if (!mayGo(removal.path, removal.isStranger)) {
+        m_notRemoved.append(removal.path);
+        return;
     }
     const bool removed = removal.isEmptiedFolder ? m_stick.removeEmptyFolder(removal.path, this)
                                                  : m_stick.remove(removal.path, this);

@@ -14,6 +14,7 @@ void SyncRun::copy()
         });
         ItemPlacer *const placer = m_modules[i]->placer();
         copyKind(kind, placer ? *placer : m_stick);
+        m_host.reportProgress(m_report);
     }
     for (const FileError &error : files().finishClosing()) {
         fileManagerShouldProceedAfterError(error);
@@ -32,6 +33,8 @@ void SyncRun::copyKind(const KindPlan &kind, ItemPlacer &placer)
         std::ignore = m_stick.isPresent(); // a stick that is gone cancels the run
         if (m_host.syncModuleShouldCancel())
             return;
+        if (m_notKept.contains(planned.item.destination))
+            continue; // left out already
         if (files().exists(planned.item.source))
             copyItem(planned, placer, index);
         else
@@ -74,6 +77,9 @@ void SyncRun::leaveOut(const CVSyncItem &item, PlannedItem::Reason reason)
         break;
     case Reason::TooLarge:
         text = QStringLiteral("larger than the stick takes files");
+        break;
+    case Reason::NotKept:
+        text = QStringLiteral("no copy of what lies there could be kept: ") + m_lastError.text;
         break;
     default:
         // Nothing is overwritten; what was to go first may have stayed.

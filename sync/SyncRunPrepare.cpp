@@ -6,6 +6,7 @@
 #include "sync/StickFiles.h"
 #include "sync/SyncPlanner.h"
 #include "sync/SyncRun.h"
+#include "util/PathComponents.h"
 #include "util/Settings.h"
 
 namespace {
@@ -40,6 +41,7 @@ void SyncRun::prepare()
         m_indexes.insert(kind.saveName, kind.inPlace(m_stick.volume()));
         removeReplaced(kind);
     }
+    m_host.reportProgress(m_report);
     m_host.setSyncBytes(m_plan->syncBytesTotal(), 0);
     m_host.setSyncBytesEstimate(m_plan->syncBytesEstimate());
 }
@@ -79,8 +81,28 @@ void SyncRun::removeReplaced(const KindPlan &kind)
     for (const PlannedItem &planned : kind.items) {
         if (logsInDetail)
             logDecision(planned);
-        if (planned.action == PlannedItem::Action::Replace &&
-            !m_stick.remove(planned.item.destination, this))
-            m_notRemoved.append(planned.item.destination);
+        if (planned.action != PlannedItem::Action::Replace)
+            continue;
+        const QString path = planned.item.destination;
+        if (!mayGo(path, planned.isStranger))
+            m_notKept.insert(path);
+        else if (!m_stick.remove(path, this))
+            m_notRemoved.append(path);
     }
+}
+
+// What no sync placed is the user's own: a copy of it is on the computer before it goes.
+bool SyncRun::mayGo(const QString &path, bool isStranger)
+{
+    if (!isStranger || PathComponents::lastOf(path).startsWith(u"._") ||
+        !Settings::keepRemovedFiles() || !m_stick.isPresent() || !files().linkStatus(path).exists())
+        return true;
+    m_lastError = {};
+    const auto copy = m_kept.keep(path);
+    if (copy)
+        m_report.kept.push_back({path, *copy});
+    else if (!m_host.shouldCancelSync())
+        leaveOut(CVSyncItem({}, path, {}), PlannedItem::Reason::NotKept);
+    m_report.keptFolder = m_kept.folder();
+    return copy.has_value();
 }

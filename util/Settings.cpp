@@ -149,6 +149,7 @@ const std::vector<Key> &keys()
         keyOf(openOnMount),
         keyOf(syncOnMount),
         keyOf(ownOnly),
+        keyOf(keepRemovedFiles),
         keyOf(unmountAfterSync),
         keyOf(playSyncCompletionSound),
         keyOf(regCheckForUpdates),

@@ -74,6 +74,8 @@ inline constexpr Setting<bool> syncOnMount{u"syncOnMount", true};
 /// On: clean-up removes every file in a kind's folder that the run does not place. Off: only those
 /// that the kind's last index lists.
 inline constexpr Setting<bool> ownOnly{u"ownOnly", true};
+/// What a run takes from the stick though no sync had placed it is first copied to the computer.
+inline constexpr Setting<bool> keepRemovedFiles{u"keepRemovedFiles", true};
 /// A completed run ends with the stick's ejection.
 inline constexpr Setting<bool> unmountAfterSync{u"unmountAfterSync", false};
 inline constexpr Setting<bool> playSyncCompletionSound{u"playSyncCompletionSound", true};

@@ -76,39 +76,29 @@ QStringList FolderVolumes::mountedRemovableMedia() const
     return paths;
 }
 
-bool FolderVolumes::unmountAndEject(const QString &path)
+Ejection FolderVolumes::unmountAndEject(const QString &path)
 {
-    if (!mountedRemovableMedia().contains(path)) {
-        qCWarning(lcPlatform, "Can't eject %s: no such volume", qUtf8Printable(path));
-        return false;
-    }
-    const QString aside = ejectedFolder(m_folder) + path.mid(m_folder.size());
+    const auto refused = [&path](const QString &reason) {
+        qCWarning(lcPlatform).noquote() << "Can't eject" << path << ":" << reason;
+        return Ejection{.reason = reason};
+    };
+    if (!mountedRemovableMedia().contains(path))
+        return refused(QStringLiteral("no such volume"));
+    const QString folder = ejectedFolder(m_folder);
+    const QString aside = folder + path.mid(m_folder.size());
     struct stat status;
-    if (::lstat(Posix::native(aside).constData(), &status) == 0) {
-        qCWarning(lcPlatform, "Can't eject %s: %s is there already", qUtf8Printable(path),
-                  qUtf8Printable(aside));
-        return false;
-    }
+    if (::lstat(Posix::native(aside).constData(), &status) == 0)
+        return refused(aside + QStringLiteral(" is there already"));
     performOnMainThread(
         this, [this, &path] { Q_EMIT willUnmount(path); }, CallMode::Wait);
-    if (!moveAside(path))
-        return false;
+    ::mkdir(Posix::native(folder).constData(), 0755); // the rename tells when it isn't there
+    if (!Posix::renameExclusively(Posix::native(path).constData(),
+                                  Posix::native(aside).constData()))
+        return refused(Posix::reason(errno));
     // Not left to the watcher, which may have run out of watches.
     performOnMainThread(
         this, [this] { rescan(); }, CallMode::DontWait);
-    return true;
-}
-
-bool FolderVolumes::moveAside(const QString &path) const
-{
-    const QString folder = ejectedFolder(m_folder);
-    const QByteArray aside = Posix::native(folder + path.mid(m_folder.size()));
-    ::mkdir(Posix::native(folder).constData(), 0755); // the rename tells when it isn't there
-    if (Posix::renameExclusively(Posix::native(path).constData(), aside.constData()))
-        return true;
-    qCWarning(lcPlatform, "Can't eject %s: %s", qUtf8Printable(path),
-              qUtf8Printable(Posix::reason(errno)));
-    return false;
+    return {.isDone = true};
 }
 
 /// Watches the folder, or the nearest one above it while it doesn't exist.

@@ -49,42 +49,41 @@ std::vector<Mounted> mountsOf(GVolumeMonitor *monitor)
 }
 
 /// One unmount or eject and what came of it.
-struct Ejection
+struct Attempt
 {
     bool eject = false;
-    bool done = false;
-    bool success = false;
-    QString reason;
+    bool hasEnded = false;
+    Ejection ejection;
 
     static void finished(GObject *object, GAsyncResult *result, gpointer data)
     {
-        auto *self = static_cast<Ejection *>(data);
+        auto *self = static_cast<Attempt *>(data);
         auto *mount = reinterpret_cast<GMount *>(object);
         GError *error = nullptr;
-        self->success =
+        self->ejection.isDone =
             (self->eject ? g_mount_eject_with_operation_finish(mount, result, &error)
                          : g_mount_unmount_with_operation_finish(mount, result, &error)) != FALSE;
         if (error)
-            self->reason = QString::fromUtf8(error->message).trimmed();
+            self->ejection.reason = QString::fromUtf8(error->message).trimmed();
         g_clear_error(&error);
-        self->done = true;
+        self->hasEnded = true;
     }
 };
 
 /// No mount operation is passed: nobody could answer its questions, so a busy volume is refused.
 Ejection ejectAndWait(GMount *mount)
 {
-    Ejection ejection;
+    Attempt attempt;
     Glib::ThreadContext context; // no other event loop is served meanwhile
-    ejection.eject = g_mount_can_eject(mount) != FALSE;
-    if (ejection.eject)
+    attempt.eject = g_mount_can_eject(mount) != FALSE;
+    if (attempt.eject)
         g_mount_eject_with_operation(mount, G_MOUNT_UNMOUNT_NONE, nullptr, nullptr,
-                                     Ejection::finished, &ejection);
+                                     Attempt::finished, &attempt);
     else
         g_mount_unmount_with_operation(mount, G_MOUNT_UNMOUNT_NONE, nullptr, nullptr,
-                                       Ejection::finished, &ejection);
-    context.serveUntil(ejection.done);
-    return ejection;
+                                       Attempt::finished, &attempt);
+    context.serveUntil(attempt.hasEnded);
+    return attempt.ejection;
 }
 
 } // namespace
@@ -174,18 +173,18 @@ QStringList GioVolumes::mountedRemovableMedia() const
     return paths;
 }
 
-bool GioVolumes::unmountAndEject(const QString &path)
+Ejection GioVolumes::unmountAndEject(const QString &path)
 {
     const std::vector<Mounted> mounts = d->mounts();
     const auto found = std::ranges::find(mounts, path, &Mounted::path);
     if (found == mounts.end()) {
         qCWarning(lcPlatform, "Can't eject %s: no such volume", qUtf8Printable(path));
-        return false;
+        return {.reason = QStringLiteral("no such volume")};
     }
     const Ejection ejection = ejectAndWait(found->mount.get());
-    if (!ejection.success)
+    if (!ejection.isDone)
         qCWarning(lcPlatform, "Can't eject %s: %s", qUtf8Printable(path),
                   qUtf8Printable(ejection.reason));
     d->queueRescan();
-    return ejection.success;
+    return ejection;
 }

@@ -5,6 +5,13 @@
 
 #include <memory>
 
+/// How an ejection ended.
+struct Ejection
+{
+    bool isDone = false;
+    QString reason = {}; ///< why not, in the volume service's words; English, for the user
+};
+
 /// The removable volumes of the machine, their events, and their ejection.
 class Volumes : public QObject
 {
@@ -15,10 +22,9 @@ public:
     /// Mount paths in a stable order, each in normal form without a trailing slash. Any thread.
     virtual QStringList mountedRemovableMedia() const = 0;
 
-    /// Unmounts and ejects the volume at the path and waits for the outcome; false, with the reason
-    /// in the system log, where it is refused or no such volume is mounted. Any thread; from the
-    /// main thread it does not serve the event loop meanwhile.
-    virtual bool unmountAndEject(const QString &path) = 0;
+    /// Unmounts and ejects the volume at the path and waits for the outcome; a refusal goes to the
+    /// system log too. Any thread; from the main thread it does not serve the event loop meanwhile.
+    virtual Ejection unmountAndEject(const QString &path) = 0;
 
 Q_SIGNALS:
     // All on the main thread, each with the mount path.

@@ -279,6 +279,10 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <translation>Keine Beschreibung verfügbar</translation>
     </message>
     <message>
+        <source>%@ uses %@</source>
+        <translation>%@ verwendet %@</translation>
+    </message>
+    <message>
         <source>Can't eject the PSP now!</source>
         <translation>Die PSP kann jetzt nicht ausgeworfen werden!</translation>
     </message>

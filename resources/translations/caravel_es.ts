@@ -279,6 +279,10 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <translation>No hay descripción disponible</translation>
     </message>
     <message>
+        <source>%@ uses %@</source>
+        <translation>%@ está usando %@</translation>
+    </message>
+    <message>
         <source>Can't eject the PSP now!</source>
         <translation>No se puede expulsar la PSP ahora</translation>
     </message>

@@ -279,6 +279,10 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <translation>Aucune description disponible</translation>
     </message>
     <message>
+        <source>%@ uses %@</source>
+        <translation>%@ utilise %@</translation>
+    </message>
+    <message>
         <source>Can't eject the PSP now!</source>
         <translation>Impossible d’éjecter la PSP maintenant !</translation>
     </message>

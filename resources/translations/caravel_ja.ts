@@ -279,6 +279,10 @@ Please deselect some media to ensure the sync can be completed.</source>
         <translation>説明はありません</translation>
     </message>
     <message>
+        <source>%@ uses %@</source>
+        <translation>%@ が %@ を使用しています</translation>
+    </message>
+    <message>
         <source>Can't eject the PSP now!</source>
         <translation>今は PSP を取り出せません</translation>
     </message>

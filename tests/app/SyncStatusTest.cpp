@@ -2,6 +2,7 @@
 
 #include "app/FrontEnds.h"
 #include "app/Plans.h"
+#include "app/RunRecord.h"
 #include "app/StatusIcon.h"
 #include "app/StatusMenu.h"
 #include "support/FailingFileManager.h"
@@ -22,15 +23,16 @@ protected:
     QMLogger logger;
     const ModuleCatalogue kinds;
     Plans plans{kinds, harness.manager};
+    RunRecord record;
     FrontEnds frontEnds;
     FakeStatusBar statusBar;
     FakeAlerts alerts;
     FakeSounds sounds;
     StatusMenu menu{harness.manager, {}};
     StatusIcon icon{statusBar, harness.manager};
-    SyncStatus status{
-        {harness.manager, logger, plans, frontEnds, menu, icon, alerts, sounds, harness.clock, [] {
-         }}};
+    SyncStatus status{{harness.manager, logger, plans, record, frontEnds, menu, icon, alerts,
+                       sounds, harness.clock, [] {
+                       }}};
     const SystemLogCapture system;
 
     void SetUp() override

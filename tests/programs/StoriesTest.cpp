@@ -268,7 +268,9 @@ protected:
         static const std::pair<QRegularExpression, QString> masks[] = {
             {QRegularExpression(u"(Today|Yesterday) \\d\\d:\\d\\d [AP]M"_qs), u"DAY TIME"_qs},
             {QRegularExpression(u"\\w{3} \\d\\d \\d\\d:\\d\\d:\\d\\d [AP]M"_qs), u"TIME"_qs},
-            {QRegularExpression(u"\\b1\\d{9}\\b"_qs), u"STAMP"_qs},
+            {QRegularExpression(u"\\d{4}-\\d\\d-\\d\\d \\d\\d[.]\\d\\d[.]\\d\\d"_qs), u"DATE"_qs},
+            {QRegularExpression(u"\\d+ \\w{3} \\d{4} \\d\\d:\\d\\d:\\d\\d"_qs), u"TIME"_qs},
+            {QRegularExpression(u"\\b1\\d{9}(\\.\\d+)?\\b"_qs), u"STAMP"_qs},
             {QRegularExpression(u"\"(capacity|free|used)\":[^,}]+"_qs), u"\"\\1\":BYTES"_qs},
             {QRegularExpression(u"(Space: +).*"_qs), u"\\1SPACE"_qs},
             {QRegularExpression(u"[0-9.]+.[KMGT]B of [0-9.]+.[KMGT]B free"_qs), u"SPACE free"_qs},

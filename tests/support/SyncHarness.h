@@ -22,10 +22,10 @@ public:
     void vanish(const QString &path);
 
     QStringList mountedRemovableMedia() const override;
-    bool unmountAndEject(const QString &path) override
+    Ejection unmountAndEject(const QString &path) override
     {
         unmount(path);
-        return true;
+        return {.isDone = true};
     }
 
 private:
@@ -116,7 +116,7 @@ public:
     void finalizeDidStart() override { note(u"finalizeDidStart"_s); }
     bool shouldUnmountPSP() override { return true; }
     void pspWillUnmount() override { note(u"pspWillUnmount"_s); }
-    void pspUnmountFailed() override { note(u"pspUnmountFailed"_s); }
+    void pspUnmountFailed(const FailedEject &) override { note(u"pspUnmountFailed"_s); }
     RunReport report; ///< of the last run
     void syncDidFinish(const RunReport &finished) override
     {

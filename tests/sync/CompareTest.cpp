@@ -99,7 +99,8 @@ std::vector<MeasuredItem> measured(const Case &c, const StickFolder &folder,
 QString shown(const PlannedItem &planned)
 {
     const char *const actions[] = {"copy", "replace", "inPlace", "leaveOut"};
-    const char *const reasons[] = {"", " missing", " link", " too large", " companion"};
+    const char *const reasons[] = {"",           " missing",  " link",
+                                   " too large", " not kept", " companion"};
     return QLatin1String(actions[static_cast<int>(planned.action)]) +
            QLatin1String(reasons[static_cast<int>(planned.reason)]) +
            (planned.isStranger ? u"! "_s : u" "_s) + planned.item.destination.mid(root.size() + 1);

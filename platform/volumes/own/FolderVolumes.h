@@ -24,7 +24,7 @@ public:
     explicit FolderVolumes(const QString &folder, QObject *parent = nullptr);
 
     QStringList mountedRemovableMedia() const override;
-    bool unmountAndEject(const QString &path) override;
+    Ejection unmountAndEject(const QString &path) override;
 
 private:
     struct Volume
@@ -36,7 +36,6 @@ private:
     };
 
     std::vector<Volume> scan() const;
-    bool moveAside(const QString &path) const;
     void watch();
     void watch(const std::vector<Volume> &volumes, const std::vector<Volume> &watched);
     void rescan();

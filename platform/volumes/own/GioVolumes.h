@@ -15,7 +15,7 @@ public:
     ~GioVolumes() override;
 
     QStringList mountedRemovableMedia() const override;
-    bool unmountAndEject(const QString &path) override;
+    Ejection unmountAndEject(const QString &path) override;
 
 private:
     class Private;

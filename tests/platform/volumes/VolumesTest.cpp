@@ -1,4 +1,5 @@
 #include "platform/core/MainThread.h"
+#include "platform/volumes/VolumeHolders.h"
 #include "platform/volumes/own/FolderVolumes.h"
 
 #include "support/TestSupport.h"
@@ -75,3 +76,21 @@ TEST_F(FolderVolumesTest, FolderMadeLaterItsVolumesAndTheirEvents)
 }
 
 } // namespace
+
+TEST(VolumeHolders, ThoseThatHoldSomethingOnTheVolume)
+{
+    const TemporaryFolder folder;
+    const QString volume = folder / "stick";
+    QFile onIt(volume + u"/a folder/held"_s);
+    QFile beside(volume + u"2/held"_s);
+    writeFile(onIt.fileName(), "contents");
+    writeFile(beside.fileName(), "contents");
+    ASSERT_TRUE(beside.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(volumeHolders(volume).empty());
+    ASSERT_TRUE(onIt.open(QIODevice::ReadOnly));
+    const auto holders = volumeHolders(volume);
+    ASSERT_EQ(holders.size(), 1U);
+    EXPECT_EQ(holders[0].process, QCoreApplication::applicationPid());
+    EXPECT_EQ(holders[0].program, u"platform_tests");
+    EXPECT_EQ(holders[0].path, onIt.fileName());
+}
