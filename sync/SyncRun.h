@@ -69,6 +69,7 @@ private:
 
     void pause();
     void makePlan();
+    void keepReplaced(const KindPlan &kind);
     void markUnfinished();
     void removeReplaced(const KindPlan &kind);
     void cleanUp(const KindPlan &kind, ItemPlacer *placer);

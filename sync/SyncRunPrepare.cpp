@@ -32,6 +32,9 @@ void SyncRun::prepare()
             m_host.syncModuleError(error);
         m_report.hiddenFiles += kind.hiddenFiles;
     }
+    // Before the mark, which makes ours whatever lies where something is to be placed.
+    for (const KindPlan &kind : m_plan->kinds)
+        keepReplaced(kind);
     if (!m_host.shouldCancelSync())
         markUnfinished();
     // Until here nothing of the media was touched, and nothing will be after a cancel.
@@ -58,6 +61,15 @@ void SyncRun::makePlan()
     m_host.setPlan(m_plan);
 }
 
+void SyncRun::keepReplaced(const KindPlan &kind)
+{
+    for (const PlannedItem &planned : kind.items) {
+        if (planned.action == PlannedItem::Action::Replace &&
+            !mayGo(planned.item.destination, planned.isStranger))
+            m_notKept.insert(planned.item.destination);
+    }
+}
+
 void SyncRun::markUnfinished()
 {
     // What an earlier run was to place stays ours until an index lists it.
@@ -65,7 +77,7 @@ void SyncRun::markUnfinished()
     const qsizetype before = paths.size();
     for (const KindPlan &kind : m_plan->kinds) {
         for (const PlannedItem &planned : kind.items) {
-            if (planned.isCopied() &&
+            if (planned.isCopied() && !m_notKept.contains(planned.item.destination) &&
                 StickFiles::isOnVolume(planned.item.destination, m_stick.volume()))
                 paths.append(
                     StickFiles::relativeToVolume(planned.item.destination, m_stick.volume()));
@@ -81,12 +93,9 @@ void SyncRun::removeReplaced(const KindPlan &kind)
     for (const PlannedItem &planned : kind.items) {
         if (logsInDetail)
             logDecision(planned);
-        if (planned.action != PlannedItem::Action::Replace)
-            continue;
         const QString path = planned.item.destination;
-        if (!mayGo(path, planned.isStranger))
-            m_notKept.insert(path);
-        else if (!m_stick.remove(path, this))
+        if (planned.action == PlannedItem::Action::Replace && !m_notKept.contains(path) &&
+            !m_stick.remove(path, this))
             m_notRemoved.append(path);
     }
 }
@@ -97,6 +106,8 @@ bool SyncRun::mayGo(const QString &path, bool isStranger)
     if (!isStranger || PathComponents::lastOf(path).startsWith(u"._") ||
         !Settings::keepRemovedFiles() || !m_stick.isPresent() || !files().linkStatus(path).exists())
         return true;
+    if (m_host.shouldCancelSync())
+        return false;
     m_lastError = {};
     const auto copy = m_kept.keep(path);
     if (copy)

@@ -61,6 +61,7 @@ constexpr std::pair<const char *, const char *> written[] = {
     {"volumes/STICK/PSP/SYSTEM/BROWSER/bookmarks.html", "Caravel Contacts"},
     {"volumes/STICK/Caravel/Contacts/index.html", "Ada Quill"},
     {"volumes/STICK/Caravel/Contacts/0cc175b9c0f1b6a831c399e269772661.JPG", "JFIF"},
+    {"home/Library/Application Support/Caravel/LastRun.plist", "<key>ended</key>"},
     {"volumes/STICK/.caravel/LastSyncSize", "streamtyped"},
     {"volumes/STICK/.caravel/BackupSyncIndex.plist", "</plist>"},
     {"volumes/STICK/.caravel/LastSelection.plist", "<key>Contacts</key>"},
@@ -76,9 +77,12 @@ Snapshot snapshotOf(const QString &place)
     Snapshot snapshot;
     // A state that was kept twice, since the first attempt failed later, counts once.
     static const QRegularExpression newBackup(QStringLiteral("/GAME/17\\d+"));
+    static const QRegularExpression kept(QStringLiteral("/Removed from PSP/[^/]+"));
     for (const QString &path : treeOf(place)) {
         if (!path.endsWith(u'/') && !path.endsWith(u".lock"))
-            snapshot[QString(path).replace(newBackup, QStringLiteral("/GAME/new"))] =
+            snapshot[QString(path)
+                         .replace(newBackup, QStringLiteral("/GAME/new"))
+                         .replace(kept, QStringLiteral("/Removed from PSP/new"))] =
                 readFile(place + u'/' + path);
     }
     return snapshot;
@@ -167,8 +171,11 @@ protected:
                 take(QString::fromUtf8(path),
                      [&](const QByteArray &contents) { return contents.contains(part); });
         }
-        for (const auto &[path, bytes] : found)
-            lines.append(u"has "_qs + path);
+        // Of what a failure leaves unknown more may be kept than had to be.
+        for (const auto &[path, bytes] : found) {
+            if (!path.contains(u"/Removed from PSP/"))
+                lines.append(u"has "_qs + path);
+        }
         return lines.join(u'\n').toStdString();
     }
     /// What is as the sample has it, and the copies.
@@ -183,6 +190,11 @@ protected:
         if (m_what == u"restore") {
             after.erase(save + u"a/DEEP"_qs);
         } else {
+            // No sync had placed them.
+            for (const QString &mine :
+                 {u"PSP/MUSIC/Old/gone.mp3"_qs, u"PSP/MUSIC/Album 0/Song 1.mp3"_qs})
+                after[u"home/Documents/Caravel/Removed from PSP/new/"_qs + mine] =
+                    before.at(stick + mine);
             after.erase(stick + u"PSP/MUSIC/Old/gone.mp3"_qs);
             for (const auto &[path, part] : written)
                 after.erase(QString::fromUtf8(path));
