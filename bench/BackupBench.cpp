@@ -55,7 +55,7 @@ struct History
 
 void backupItems(benchmark::State &state)
 {
-    const History history;
+    History history;
     const ModuleCatalogue kinds = catalogue(history.harness.clock);
     const SelectionLists lists(kinds, history.harness.manager, history.harness.clock);
     qsizetype rows = 0;

@@ -72,6 +72,8 @@ std::string of(std::string_view path)
 {
     static constexpr char digits[] = "0123456789ABCDEF";
     std::string url = "file://";
+    if (path.find_first_of("%?#") == path.npos)
+        return url.append(path);
     for (const char c : path) {
         if (c == '%' || c == '?' || c == '#')
             url.append({'%', digits[c >> 4], digits[c & 15]});

@@ -13,6 +13,7 @@
 #include "util/StringTools.h"
 
 #include <QHash>
+#include <QStringEncoder>
 
 #include <map>
 #include <optional>
@@ -28,8 +29,8 @@ struct Song
 {
     const FolderEntry *entry;
     bool isWanted = false;
-    const FileTags *tags = nullptr; // once they are needed
-    std::int64_t id = -1;           // in the library, once it is there
+    const TagIndex::Entry *known = nullptr; // once its tags are needed
+    std::int64_t id = -1;                   // in the library, once it is there
 };
 
 /// A playlist with the places of its songs, and what a list calls them.
@@ -45,6 +46,8 @@ class FolderMusic
 public:
     FolderMusic(MediaFolder folder, const MusicReading &reading)
         : m_folder(std::move(folder))
+        , m_top(m_folder.path().toUtf8() + '/')
+        , m_path(m_top.toStdString())
         , m_reading(reading)
     {
     }
@@ -61,13 +64,12 @@ private:
     void readTags();
     void addTracks(Selection &selection);
     std::int64_t trackOf(Song &song, const QString &titleInList);
-    static TaggedFile tagged(const Song &song, const QByteArray &path);
-    QByteArray pathOf(const Song &song) const
-    {
-        return (m_folder.path() + u'/' + song.entry->path).toUtf8();
-    }
+    TaggedFile tagged(const Song &song);
+    std::string_view pathOf(const Song &song);
 
     const MediaFolder m_folder;
+    const QByteArray m_top; // its path with "/"
+    std::string m_path;     // begins with that
     const MusicReading &m_reading;
     std::vector<Song> m_songs;
     QStringList m_lists;                              // their paths below the folder
@@ -195,16 +197,24 @@ void FolderMusic::addFolders()
 
 // --- Tracks
 
-// The path outlives what is made of it.
-TaggedFile FolderMusic::tagged(const Song &song, const QByteArray &path)
+// Valid until the next one is asked for: 20,000 of them are felt.
+std::string_view FolderMusic::pathOf(const Song &song)
 {
-    TaggedFile file{{path.constData(), static_cast<size_t>(path.size())},
-                    song.entry->size,
-                    song.entry->modified};
+    const QString &path = song.entry->path;
+    QStringEncoder encoder(QStringEncoder::Utf8);
+    const auto top = static_cast<size_t>(m_top.size());
+    m_path.resize(top + static_cast<size_t>(encoder.requiredSpace(path.size())));
+    const char *const end = encoder.appendToBuffer(m_path.data() + top, path);
+    return {m_path.data(), end};
+}
+
+TaggedFile FolderMusic::tagged(const Song &song)
+{
+    TaggedFile file{pathOf(song), song.entry->size, song.entry->modified};
     if (song.entry->isLink) {
-        const auto target = files().stamp(QString::fromUtf8(path)).value_or(FileStamp());
-        file.size = static_cast<std::uint64_t>(target.size);
-        file.modified = target.modified;
+        const auto target = files().stamp(m_folder.path() + u'/' + song.entry->path);
+        file.size = static_cast<std::uint64_t>(target.value_or(FileStamp()).size);
+        file.modified = target.value_or(FileStamp()).modified;
     }
     return file;
 }
@@ -222,8 +232,8 @@ void FolderMusic::readTags()
     TagIndex &index = m_index.emplace(Folders::support() + QStringLiteral("/MusicTags"));
     std::vector<Song *> unread;
     for (Song &song : m_songs) {
-        song.tags = index.known(tagged(song, pathOf(song)));
-        if (song.isWanted && !song.tags)
+        song.known = index.known(tagged(song));
+        if (song.isWanted && !song.known)
             unread.push_back(&song);
     }
     int done = 0;
@@ -233,7 +243,7 @@ void FolderMusic::readTags()
             if (m_reading.shouldStop())
                 break;
         }
-        song->tags = &index.read(tagged(*song, pathOf(*song)));
+        song->known = &index.read(tagged(*song));
         ++done;
     }
     index.store();
@@ -256,13 +266,14 @@ std::int64_t FolderMusic::trackOf(Song &song, const QString &titleInList)
     if (song.id >= 0 && titleInList.isEmpty())
         return song.id;
     static const FileTags none;
-    const FileTags &tags = song.tags ? *song.tags : none; // none were read before a cancel
+    const FileTags &tags = song.known ? song.known->tags : none; // a cancel came first
     if (song.id >= 0 && tags.title)
         return song.id;
-    const std::string location = FileUrl::of(pathOf(song).toStdString());
-    const std::string title =
-        (titleInList.isEmpty() ? PathComponents::stemOf(song.entry->path) : titleInList)
-            .toStdString();
+    const std::string location = FileUrl::of(song.known ? song.known->file.path : pathOf(song));
+    std::string title;
+    if (!tags.title)
+        title = (titleInList.isEmpty() ? PathComponents::stemOf(song.entry->path) : titleInList)
+                    .toStdString();
     const std::int64_t id = m_library.add({.isFile = true,
                                            .isLossless = tags.isLossless,
                                            .trackNumber = tags.trackNumber,

@@ -14,7 +14,7 @@ QString MusicSources::place(MusicSource source)
     case MusicSource::Folders:
         return Folders::music();
     case MusicSource::Rhythmbox:
-        return rhythmboxFolder();
+        return rhythmboxDatabase();
     case MusicSource::ITunes:
         break;
     }

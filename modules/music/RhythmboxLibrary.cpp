@@ -3,6 +3,7 @@
 #include "modules/music/own/RhythmboxQuery.h"
 #include "platform/files/FileManager.h"
 #include "sync/Log.h"
+#include "util/PathComponents.h"
 #include "util/StringTools.h"
 
 #include <QDateTime>
@@ -91,7 +92,7 @@ public:
     {
     }
 
-    FileResult<MusicLibrary> read(const QString &folder);
+    FileResult<MusicLibrary> read(const QString &database);
 
 private:
     void readList(QXmlStreamReader &xml);
@@ -112,21 +113,21 @@ private:
     MusicLibrary m_library;
 };
 
-FileResult<MusicLibrary> Rhythmbox::read(const QString &folder)
+FileResult<MusicLibrary> Rhythmbox::read(const QString &database)
 {
     const FileResult<> lists =
-        readXml(folder + QStringLiteral("/playlists.xml"), [this](QXmlStreamReader &xml) {
-            while (xml.readNextStartElement())
-                readList(xml);
-        });
+        readXml(PathComponents::folderOf(database) + QStringLiteral("/playlists.xml"),
+                [this](QXmlStreamReader &xml) {
+                    while (xml.readNextStartElement())
+                        readList(xml);
+                });
     if (!lists && !lists.error().isMissing())
         return lists.error();
     int count = 0;
-    const FileResult<> songs =
-        readXml(folder + QStringLiteral("/rhythmdb.xml"), [&](QXmlStreamReader &xml) {
-            while ((++count % steps != 0 || !m_reading.shouldStop()) && xml.readNextStartElement())
-                readSong(xml);
-        });
+    const FileResult<> songs = readXml(database, [&](QXmlStreamReader &xml) {
+        while ((++count % steps != 0 || !m_reading.shouldStop()) && xml.readNextStartElement())
+            readSong(xml);
+    });
     if (!songs)
         return songs.error();
     MusicLibrary::Playlist all;
@@ -294,19 +295,19 @@ void Rhythmbox::cut(std::vector<const Song *> &songs, const Limit &limit) const
 
 } // namespace
 
-QString rhythmboxFolder()
+QString rhythmboxDatabase()
 {
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                        QStringLiteral("/rhythmbox");
-    const QString flatpak = StringTools::expandingTilde(
-        QStringLiteral("~/.var/app/org.gnome.Rhythmbox3/data/rhythmbox"));
-    const bool hasOwn = files().exists(own + QStringLiteral("/rhythmdb.xml"));
-    return !hasOwn && files().exists(flatpak) ? flatpak : own;
+    const QString name = QStringLiteral("/rhythmbox/rhythmdb.xml");
+    const QString own =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + name;
+    const QString flatpak =
+        StringTools::expandingTilde(QStringLiteral("~/.var/app/org.gnome.Rhythmbox3/data")) + name;
+    return !files().exists(own) && files().exists(flatpak) ? flatpak : own;
 }
 
-FileResult<MusicLibrary> readRhythmbox(const QString &folder, const MusicReading &reading)
+FileResult<MusicLibrary> readRhythmbox(const QString &database, const MusicReading &reading)
 {
-    FileResult<MusicLibrary> library = Rhythmbox(reading).read(folder);
+    FileResult<MusicLibrary> library = Rhythmbox(reading).read(database);
     if (!library && !library.error().isMissing())
         qCWarning(lcModules).noquote()
             << "Can't read the music library:" << library.error().description();

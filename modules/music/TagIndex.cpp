@@ -4,6 +4,7 @@
 #include "platform/files/FileManager.h"
 #include "sync/Log.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -66,8 +67,7 @@ TagIndex::TagIndex(const QString &path)
     , m_stored(files().readFile(path, indexLimit).valueOr({}))
 {
     if (!parse({m_stored.constData(), static_cast<size_t>(m_stored.size())})) {
-        m_records.clear();
-        m_byPath.clear();
+        m_old.clear();
     }
 }
 
@@ -76,7 +76,7 @@ bool TagIndex::parse(std::string_view contents)
     if (!contents.starts_with(header))
         return contents.empty();
     contents.remove_prefix(header.size());
-    m_byPath.reserve(contents.size() / 128);
+    m_old.reserve(contents.size() / 128);
     while (!contents.empty()) {
         Fixed fixed;
         if (contents.size() < sizeof fixed)
@@ -90,53 +90,60 @@ bool TagIndex::parse(std::string_view contents)
                 return false;
             texts[i] = *text;
         }
-        Record &record =
-            m_records.emplace_back(Record{{*texts[0], fixed.size, fixed.modified},
-                                          {texts[1], texts[2], texts[3], fixed.trackNumber,
-                                           fixed.discNumber, fixed.isLossless != 0}});
-        m_byPath[record.file.path] = &record;
+        m_old.push_back({{*texts[0], fixed.size, fixed.modified},
+                         {texts[1], texts[2], texts[3], fixed.trackNumber, fixed.discNumber,
+                          fixed.isLossless != 0}});
     }
     return true;
 }
 
-const FileTags *TagIndex::known(const TaggedFile &file)
+TagIndex::Entry *TagIndex::find(std::string_view path)
 {
-    const auto found = m_byPath.find(file.path);
-    if (found == m_byPath.end() || found->second->file.size != file.size ||
-        found->second->file.modified != file.modified)
+    if (m_next < m_old.size() && m_old[m_next].file.path == path)
+        return &m_old[m_next++];
+    if (m_byPath.empty()) {
+        m_byPath.reserve(m_old.size());
+        for (Entry &entry : m_old)
+            m_byPath[entry.file.path] = &entry;
+    }
+    const auto found = m_byPath.find(path);
+    if (found == m_byPath.end())
         return nullptr;
-    found->second->isCurrent = true;
-    return &found->second->tags;
+    m_next = static_cast<size_t>(found->second - m_old.data()) + 1;
+    return found->second;
 }
 
-const FileTags &TagIndex::read(const TaggedFile &file)
+const TagIndex::Entry *TagIndex::known(const TaggedFile &file)
+{
+    Entry *entry = find(file.path);
+    if (!entry || entry->file.size != file.size || entry->file.modified != file.modified)
+        return nullptr;
+    entry->isCurrent = true;
+    return entry;
+}
+
+const TagIndex::Entry &TagIndex::read(const TaggedFile &file)
 {
     ReadTags tags = readTags(file.path);
-    Record &record = m_records.emplace_back();
-    record.file = {keep(std::string(file.path)), file.size, file.modified};
-    record.tags = {orAbsent(keep(std::move(tags.artist))),
-                   orAbsent(keep(std::move(tags.album))),
-                   orAbsent(keep(std::move(tags.title))),
-                   tags.trackNumber,
-                   tags.discNumber,
-                   tags.isLossless};
-    record.isCurrent = true;
-    m_byPath[record.file.path] = &record;
-    m_isChanged = true;
-    return record.tags;
+    return m_added.emplace_back(
+        Entry{.file = {keep(std::string(file.path)), file.size, file.modified},
+              .tags = {orAbsent(keep(std::move(tags.artist))),
+                       orAbsent(keep(std::move(tags.album))), orAbsent(keep(std::move(tags.title))),
+                       tags.trackNumber, tags.discNumber, tags.isLossless},
+              .isCurrent = true});
 }
 
 void TagIndex::store() const
 {
-    QByteArray contents(header.data(), static_cast<qsizetype>(header.size()));
-    bool isChanged = m_isChanged;
-    for (const Record &record : m_records) {
-        isChanged |= !record.isCurrent;
-        if (record.isCurrent)
-            append(contents, record.file, record.tags);
-    }
-    if (!isChanged)
+    if (m_added.empty() && std::ranges::all_of(m_old, &Entry::isCurrent))
         return;
+    QByteArray contents(header.data(), static_cast<qsizetype>(header.size()));
+    for (const Entry &entry : m_old) {
+        if (entry.isCurrent)
+            append(contents, entry.file, entry.tags);
+    }
+    for (const Entry &entry : m_added)
+        append(contents, entry.file, entry.tags);
     if (const auto written = files().writeAtomically(m_path, contents); !written)
         qCWarning(lcModules).noquote() << "Can't keep the tags:" << written.error().description();
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 /// What a music file says of itself. An absent text is one that the file lacks.
 struct FileTags
@@ -33,32 +34,35 @@ public:
     /// Takes over what the file at that path holds, which is ours; nothing of a damaged one.
     explicit TagIndex(const QString &path);
 
-    /// The tags of a file that has not changed since they were read; null where they are not known.
-    /// Valid as long as the index. What was not asked for when the index is stored is dropped.
-    const FileTags *known(const TaggedFile &file);
+    struct Entry
+    {
+        TaggedFile file;
+        FileTags tags;
+        bool isCurrent = false; ///< it was asked for
+    };
+
+    /// The entry of a file that has not changed since its tags were read; null where they are not
+    /// known. Valid as long as the index. What was not asked for when the index is stored is
+    /// dropped. Files that come in the order of the last time are found soonest.
+    const Entry *known(const TaggedFile &file);
 
     /// Reads the file's tags, and keeps them. A file that can't be read, or isn't what its
     /// extension says, has none.
-    const FileTags &read(const TaggedFile &file);
+    const Entry &read(const TaggedFile &file);
 
     /// Writes the index where it is another than the stored one. A failure is logged.
     void store() const;
 
 private:
-    struct Record
-    {
-        TaggedFile file;
-        FileTags tags;
-        bool isCurrent = false;
-    };
-
     bool parse(std::string_view contents);
+    Entry *find(std::string_view path);
     std::string_view keep(std::string text) { return m_texts.emplace_back(std::move(text)); }
 
     const QString m_path;
-    QByteArray m_stored; // the texts of the records that were stored lie there
+    QByteArray m_stored; // the texts of the entries that were stored lie there
     std::deque<std::string> m_texts;
-    std::deque<Record> m_records;
-    std::unordered_map<std::string_view, Record *> m_byPath;
-    bool m_isChanged = false;
+    std::vector<Entry> m_old;  // as they were stored
+    std::deque<Entry> m_added; // since then
+    size_t m_next = 0;         // where the next file is most likely to be found
+    std::unordered_map<std::string_view, Entry *> m_byPath; // made when it isn't there
 };

@@ -4,6 +4,9 @@
 Runs each under Xvfb and a bus of its own, gives it songs or bookmarks, and keeps of what it wrote
 what the helper reads, compressed as qUncompress() takes it. Home's path becomes "/HOME". Debian's
 packages: rhythmbox, firefox-esr, chromium, xvfb, dbus, ffmpeg.
+
+What lies there was written by Rhythmbox 3.4.6, Firefox ESR 153.7.0, Chromium 156.0.8078.79 and
+ffmpeg 5.1.9.
 """
 
 import json
