@@ -50,7 +50,7 @@ LAB_KERNEL=/boot/vmlinuz-$release
 command -v qemu-system-x86_64 >/dev/null || skip_all "there is no qemu-system-x86_64"
 
 preset=${CARAVEL_PRESET:-release}
-options=(-DCARAVEL_WERROR=OFF)
+options=()
 if command -v ccache >/dev/null; then
     options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi

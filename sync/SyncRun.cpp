@@ -51,6 +51,7 @@ RunReport SyncRun::run()
     copy();
     finalize();
     recordSizes();
+    std::ignore = files().finishClosing(); // of what was removed, also where the stick is gone
     ejectStick();
     m_report.isComplete = !m_host.shouldCancelSync();
     return std::move(m_report);

@@ -48,6 +48,7 @@ void SaveOnStick::removeStaged()
     const QString staged = StickFiles::restoreFolder(m_stick.volume());
     if (files().linkStatus(staged).exists())
         m_stick.remove(staged, nullptr);
+    m_stick.flush();
 }
 
 bool SaveOnStick::takeAway(FileOperationHandler &handler)
@@ -66,6 +67,5 @@ bool SaveOnStick::put(const QString &backup, FileOperationHandler &handler)
                       m_stick.move(partial, m_folder, handler);
     m_stick.flush();
     removeStaged();
-    m_stick.flush();
     return done;
 }

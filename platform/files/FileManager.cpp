@@ -1,6 +1,7 @@
 #include "platform/files/FileManager.h"
 
 #include "platform/core/own/Posix.h"
+#include "platform/files/own/HeldFiles.h"
 #include "platform/files/own/LateClosing.h"
 #include "platform/files/own/MountInfo.h"
 
@@ -21,6 +22,8 @@ using Posix::retryInterrupted;
 
 namespace {
 
+constexpr int readOnly = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
 std::atomic<FileManager *> replacement = nullptr;
 
 FileStatus statusFrom(const struct stat &status)
@@ -29,6 +32,26 @@ FileStatus statusFrom(const struct stat &status)
                       : S_ISLNK(status.st_mode) ? FileStatus::Kind::Link
                                                 : FileStatus::Kind::File;
     return {kind, static_cast<quint64>(status.st_size)};
+}
+
+/// And lets go of what was removed before. Every file system is flushed where that one can't be.
+bool flushFileSystemOf(int any)
+{
+    const HeldFiles::Batch removed = HeldFiles::take();
+    const bool isFlushed = any >= 0 && ::syncfs(any) == 0;
+    if (!isFlushed)
+        ::sync();
+    HeldFiles::flushOthers(removed, any);
+    return isFlushed;
+}
+
+/// Some file systems have nothing to flush for a folder and say EINVAL.
+bool flushFolderOf(const QByteArray &path)
+{
+    const QByteArray folder = path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+    const auto descriptor = Posix::openFolder(AT_FDCWD, folder.constData(), Posix::Links::Follow);
+    return descriptor &&
+           (retryInterrupted([&] { return ::fsync(descriptor.get()); }) == 0 || errno == EINVAL);
 }
 
 /// A file that stands in for another until all of it is on the device. Removed again unless it was
@@ -41,8 +64,12 @@ public:
     {
         const qsizetype slash = target.lastIndexOf('/');
         m_path = target.left(slash + 1) + '.' + target.mid(slash + 1) + ".new";
-        while (!isOurs() && open())
-            ;
+        openOurs();
+        if (m_file >= 0 && HeldFiles::areNeededAt(m_file) && ::lseek(m_file, 0, SEEK_END) > 0) {
+            HeldFiles::hold(AT_FDCWD, m_path.constData());
+            ::unlink(m_path.constData());
+            openOurs();
+        }
         if (m_file >= 0 && ::ftruncate(m_file, 0) != 0)
             close();
     }
@@ -63,14 +90,27 @@ public:
 
     bool moveIntoPlace(const QByteArray &target)
     {
-        if (retryInterrupted([this] { return ::fsync(m_file); }) != 0 ||
-            std::rename(m_path.constData(), target.constData()) != 0)
+        // There fsync would write the name before the clusters that it leads to.
+        const bool isOrdered = HeldFiles::areNeededAt(m_file);
+        if (!(isOrdered ? flushFileSystemOf(m_file) : flushFile()))
             return false;
+        const Posix::Descriptor old(isOrdered ? ::open(target.constData(), readOnly) : -1);
+        if (std::rename(m_path.constData(), target.constData()) != 0)
+            return false;
+        // First that the temporary's name has gone, then what the other leads to; only then may the
+        // old file's clusters be free.
+        const bool isFlushed = !old || (flushFolderOf(target) && flushFile());
         close(); // and unlocked, which must not come before the file has its place
-        return true;
+        return isFlushed;
     }
 
 private:
+    void openOurs()
+    {
+        while (!isOurs() && open())
+            ;
+    }
+
     bool open()
     {
         close();
@@ -80,6 +120,11 @@ private:
         if (m_file >= 0)
             retryInterrupted([this] { return ::flock(m_file, LOCK_EX); });
         return m_file >= 0;
+    }
+
+    bool flushFile()
+    {
+        return retryInterrupted([this] { return ::fsync(m_file); }) == 0;
     }
 
     /// Whether the open file still has the name: whoever held the lock has moved it into place.
@@ -101,21 +146,6 @@ private:
     QByteArray m_path;
     int m_file = -1;
 };
-
-void flushFileSystemOf(const Posix::Descriptor &any)
-{
-    if (!any || ::syncfs(any.get()) != 0)
-        ::sync();
-}
-
-/// Some file systems have nothing to flush for a folder and say EINVAL.
-bool flushFolderOf(const QByteArray &path)
-{
-    const QByteArray folder = path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
-    const auto descriptor = Posix::openFolder(AT_FDCWD, folder.constData(), Posix::Links::Follow);
-    return descriptor &&
-           (retryInterrupted([&] { return ::fsync(descriptor.get()); }) == 0 || errno == EINVAL);
-}
 
 } // namespace
 
@@ -191,7 +221,7 @@ bool FileManager::closeAndFlush(int descriptor)
     Posix::Descriptor any(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
     const bool isClosed = close(descriptor);
     const int error = errno;
-    flushFileSystemOf(any);
+    flushFileSystemOf(any.get());
     if (any && LateClosing::isWorthwhile(any.get()))
         LateClosing::close(any.release());
     errno = error;
@@ -200,13 +230,14 @@ bool FileManager::closeAndFlush(int descriptor)
 
 std::vector<FileError> FileManager::finishClosing()
 {
+    HeldFiles::flushOthers(HeldFiles::take(), -1);
     return LateClosing::finish();
 }
 
 void FileManager::flush(const QString &path)
 {
-    flushFileSystemOf(Posix::Descriptor(
-        ::open(Posix::native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)));
+    const Posix::Descriptor any(::open(Posix::native(path).constData(), readOnly));
+    flushFileSystemOf(any.get());
 }
 
 FileResult<> FileManager::writeAtomically(const QString &path, const QByteArray &contents)

@@ -1,11 +1,13 @@
 #include "platform/files/FileManager.h"
 #include "platform/files/OpenFile.h"
+#include "platform/files/own/HeldFiles.h"
 #include "platform/files/own/Trees.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 using Posix::Descriptor;
@@ -48,6 +50,11 @@ private:
     bool m_failed = false;
     bool m_stopped = false;
 };
+
+std::string folderOf(const std::string &path)
+{
+    return path.substr(0, std::max<size_t>(path.rfind('/'), 1));
+}
 
 class TreeCopier
 {
@@ -205,6 +212,7 @@ public:
 
     bool remove(const std::string &path)
     {
+        m_holds = HeldFiles::areNeededIn(folderOf(path));
         removeEntry(AT_FDCWD, path.c_str(), path, EntryKind::Unknown);
         return !m_report.failed();
     }
@@ -217,6 +225,8 @@ private:
     /// Whether nothing is left; what failed has been reported.
     bool removeEntry(int at, const char *name, const std::string &path, EntryKind kind)
     {
+        if (m_holds)
+            HeldFiles::hold(at, name);
         if (kind == EntryKind::Folder)
             return removeFolder(at, name, path);
         if (::unlinkat(at, name, 0) == 0 || isGone(errno))
@@ -269,6 +279,7 @@ private:
     }
 
     ErrorReport m_report;
+    bool m_holds = false;
 };
 
 } // namespace
@@ -308,6 +319,8 @@ bool FileManager::remove(const QString &path, FileOperationHandler *handler)
 bool FileManager::removeEmptyFolder(const QString &path, FileOperationHandler *handler)
 {
     const std::string folder = nativeText(path);
+    if (HeldFiles::areNeededIn(folder))
+        HeldFiles::hold(AT_FDCWD, folder.c_str());
     if (::rmdir(folder.c_str()) == 0 || errno == ENOENT)
         return true;
     ErrorReport(handler).add(Operation::Remove, folder, errno);
