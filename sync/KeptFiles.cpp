@@ -50,10 +50,7 @@ std::optional<QString> KeptFiles::keep(const QString &path)
             isWhole = isWhole && keepEntry(path + u'/' + entry.path, entry.isFolder, entry.isLink);
     }
     m_hasKept |= isWhole;
-    if (isWhole)
-        return copy;
-    files().remove(copy, nullptr);
-    return std::nullopt;
+    return isWhole ? std::optional(copy) : std::nullopt;
 }
 
 // A run that began within the same second has a folder of its own.
@@ -76,7 +73,12 @@ bool KeptFiles::keepEntry(const QString &path, bool isFolder, bool isLink)
         FileManagerTools::createPath(kept);
         return files().status(kept).isFolder();
     }
+    if (files().linkStatus(kept).exists())
+        return true; // with what it lies in, or before that
     FileManagerTools::createPath(PathComponents::folderOf(kept));
-    return isLink ? files().copy(path, kept, &handler)
-                  : FileManagerTools::copyPath(path, kept, handler).isComplete();
+    const bool isWhole = isLink ? files().copy(path, kept, &handler)
+                                : FileManagerTools::copyPath(path, kept, handler).isComplete();
+    if (!isWhole)
+        files().remove(kept, nullptr);
+    return isWhole;
 }

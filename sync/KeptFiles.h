@@ -25,8 +25,7 @@ public:
     KeptFiles(QString volume, const Clock &clock, Asked asked);
 
     /// Copies a file or a folder with all that is in it; links as links. Where the copy lies, once
-    /// all of it is on the computer's disk; else nothing, and what was copied in part is taken away
-    /// again.
+    /// all of it is on the computer's disk; else nothing, and no file is there in part.
     std::optional<QString> keep(const QString &path);
 
     /// Where all of them lie; empty while there are none.
