@@ -1,6 +1,19 @@
 #include "cli/Session.h"
 
 #include "cli/Output.h"
+#include "platform/bus/NamedConnection.h"
+
+Session::Session(Stay stay)
+    : m_frontEnd(stay)
+{
+    m_helper.connectToHelper(m_frontEnd.path());
+}
+
+Session::~Session()
+{
+    m_helper.tell(Protocol::applicationWillQuit);
+    NamedConnection::flush();
+}
 
 ExitStatus Session::report() const
 {

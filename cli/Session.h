@@ -11,10 +11,10 @@ class Session
 public:
     using Stay = FrontEndObject::Stay;
     /// Reaches the helper, starting it when none runs, as a connected front-end of its.
-    explicit Session(Stay stay = Stay::ForOneQuestion)
-        : m_frontEnd(m_helper, stay)
-    {
-    }
+    explicit Session(Stay stay = Stay::ForOneQuestion);
+    ~Session();
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
 
     HelperClient &helper() { return m_helper; }
     FrontEndObject &frontEnd() { return m_frontEnd; }
@@ -27,5 +27,5 @@ public:
 
 private:
     HelperClient m_helper;
-    FrontEndObject m_frontEnd; // gone first, while the helper can be told
+    FrontEndObject m_frontEnd;
 };

@@ -1,24 +1,25 @@
 #include "frontend/FrontEndObject.h"
 
-#include "frontend/HelperClient.h"
 #include "protocol/ServedMethods.h"
 
 namespace Callback = Protocol::FrontEnd;
 
-FrontEndObject::FrontEndObject(HelperClient &helper, Stay stay)
-    : m_helper(helper)
+namespace {
+
+QString objectPath(FrontEndObject::Stay stay)
 {
     QString path = QStringLiteral("/CaravelFrontEnd");
-    if (stay == Stay::ForOneQuestion)
+    if (stay == FrontEndObject::Stay::ForOneQuestion)
         path += Callback::queryEnding;
-    m_connection.exportObject(path, Callback::interface.toString(), methods());
-    m_helper.connectToHelper(path);
+    return path;
 }
 
-FrontEndObject::~FrontEndObject()
+} // namespace
+
+FrontEndObject::FrontEndObject(Stay stay)
+    : m_path(objectPath(stay))
 {
-    m_helper.tell(Protocol::applicationWillQuit);
-    NamedConnection::flush();
+    m_connection.exportObject(m_path, Callback::interface.toString(), methods());
 }
 
 std::vector<RemoteMethod> FrontEndObject::methods()
@@ -30,9 +31,13 @@ std::vector<RemoteMethod> FrontEndObject::methods()
         Q_EMIT alert(given[0].toString(), given[1].toString(), given[2].toInt());
     });
     for (const auto *method :
-         {&Callback::updateUserInterface, &Callback::updateSyncBytes, &Callback::reloadMoviesView,
+         {&Callback::updateUserInterface, &Callback::updateSyncBytes,
           &Callback::startConversionAnimation, &Callback::stopConversionAnimation})
         served.perform(*method, [this](const RemoteRequest &) { Q_EMIT changed(); });
+    served.perform(Callback::reloadMoviesView, [this](const RemoteRequest &) {
+        Q_EMIT changed();
+        Q_EMIT moviesChanged();
+    });
     served.perform(Callback::updateSyncBytesEstimate,
                    [this](const RemoteRequest &) { Q_EMIT estimateChanged(); });
     served.perform(Callback::syncDidFinish, [this](const RemoteRequest &request) {

@@ -4,22 +4,18 @@
 
 #include <QObject>
 
-class HelperClient;
-
-/// This process as a connected front-end of the helper's: what the helper tells it comes out as
-/// signals.
+/// This process as a front-end of the helper's: what the helper tells it comes out as signals. Who
+/// connects it (Protocol::setApplication with its path) says goodbye for it. Main thread.
 class FrontEndObject : public QObject
 {
     Q_OBJECT
 public:
     /// What goes after one question is shown no alert.
     enum class Stay { ForOneQuestion, UntilItQuits };
-    /// Connects the client, which outlives it; where that fails the client says why.
-    FrontEndObject(HelperClient &helper, Stay stay);
+    explicit FrontEndObject(Stay stay);
 
-    /// Tells the helper that the front-end quits (with the last one a helper that doesn't start on
-    /// login quits too), and waits until that is on its way.
-    ~FrontEndObject() override;
+    /// Where the helper finds it on this process's connection.
+    const QString &path() const { return m_path; }
 
     /// Whether it counts as an open window, which holds the helper's quitting back; not at first.
     void setIsOpen(bool isOpen) { m_isOpen = isOpen; }
@@ -28,6 +24,8 @@ Q_SIGNALS:
     void alert(const QString &title, const QString &message, int style);
     /// Something that the helper shows has changed; carries no state.
     void changed();
+    /// Comes beside changed() where it is the rows of the movies' list.
+    void moviesChanged();
     void estimateChanged();
     void syncDidFinish(bool completed);
     void pspDidMount();
@@ -40,7 +38,7 @@ Q_SIGNALS:
 private:
     std::vector<RemoteMethod> methods();
 
-    HelperClient &m_helper;
+    const QString m_path;
     bool m_isOpen = false;
     NamedConnection m_connection;
 };

@@ -1,16 +1,11 @@
 #include "frontend/HelperClient.h"
 
+#include "frontend/HelperProcess.h"
 #include "platform/bus/NamedConnection.h"
 #include "platform/core/Localized.h"
 #include "platform/files/FileManager.h"
-#include "platform/lists/Bundle.h"
-#include "util/FileManagerTools.h"
-#include "util/Folders.h"
 
-#include <QDir>
 #include <QEventLoop>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QTimer>
 
 using namespace std::chrono_literals;
@@ -22,37 +17,6 @@ constexpr auto answerLimit = 60s; // a list reads whole libraries, an eject flus
 constexpr auto startLimit = 10s;
 
 const QString goneAway = QStringLiteral("the helper has gone away");
-
-QString helperBundle()
-{
-    return Bundle::main().path() + QStringLiteral("/Contents/Helpers/CaravelHelper");
-}
-
-// The helper outlives this command: it keeps neither its terminal nor its folder, so that a folder
-// given relative to that has to be spelled out.
-bool startDetached(const QString &program)
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    const QString volumes = QStringLiteral("CARAVEL_VOLUMES");
-    if (const QString folder = environment.value(volumes); !folder.isEmpty())
-        environment.insert(volumes, QDir().absoluteFilePath(folder));
-    QProcess process;
-    process.setProgram(program);
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(QDir::rootPath());
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    return process.startDetached();
-}
-
-std::unique_ptr<RemoteObject> remoteHelper()
-{
-    const QString connection = Protocol::helperConnection(Bundle::main().version());
-    return std::make_unique<RemoteObject>(NamedConnection::busName(connection),
-                                          Protocol::helperPath.toString(),
-                                          Protocol::helperInterface.toString());
-}
 
 } // namespace
 
@@ -67,7 +31,7 @@ void HelperClient::connectToHelper(const QString &objectPath)
     }
     // One that is just going takes nobody any more, and another is found or started.
     for (int tries = 0; tries < 3; ++tries) {
-        m_remote = remoteHelper();
+        m_remote = HelperProcess::remote();
         if ((!m_remote->isAvailable() && !startHelper()) || introduce(objectPath))
             return;
     }
@@ -92,28 +56,27 @@ bool HelperClient::introduce(const QString &objectPath)
 
 void HelperClient::tellRunningHelper(const Protocol::Method &method)
 {
-    remoteHelper()->send(method.key());
+    HelperProcess::remote()->send(method.key());
 }
 
 // The bus starts the helper where it knows how to; else its executable beside ours is started, by
-// one command at a time: a second helper would send the first away under the other's hands.
+// one front-end at a time.
 bool HelperClient::startHelper()
 {
     if (m_remote->call(Protocol::pspIsMounted.key(), {}, startLimit).value)
         return true;
-    FileManagerTools::createPath(Folders::support());
-    const auto lock = FileManager::defaultManager().lock(
-        Folders::support() + QStringLiteral("/.starting"), startLimit);
+    const auto lock = FileManager::defaultManager().lock(HelperProcess::startLock(), startLimit);
     return m_remote->isAvailable() || startOwnHelper();
 }
 
 bool HelperClient::startOwnHelper()
 {
-    const QString program = Bundle(helperBundle()).executable();
+    const Bundle helper = HelperProcess::bundle();
+    const QString program = helper.executable();
     if (program.isEmpty())
         fail(Kind::NoHelper,
-             QStringLiteral("no helper: none is installed in %1").arg(helperBundle()));
-    else if (!startDetached(program))
+             QStringLiteral("no helper: none is installed in %1").arg(helper.path()));
+    else if (!HelperProcess::startDetached(program))
         fail(Kind::NoHelper, QStringLiteral("no helper: %1 can't be started").arg(program));
     else if (!waitUntilThere())
         fail(
@@ -167,8 +130,8 @@ HelperState HelperClient::state()
 
 bool HelperClient::isHelperText(const QString &text, const char *english)
 {
-    const Bundle helper(helperBundle());
-    return isLocalizedForm(text, english, helper.resourcePath() + QStringLiteral("/translations"));
+    return isLocalizedForm(
+        text, english, HelperProcess::bundle().resourcePath() + QStringLiteral("/translations"));
 }
 
 void HelperClient::tell(const Protocol::Method &method, const QVariantList &arguments)

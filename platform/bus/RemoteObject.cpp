@@ -81,10 +81,10 @@ void RemoteObject::send(const QString &method, const QVariantList &arguments)
 }
 
 void RemoteObject::ask(const QString &method, const QVariantList &arguments, QObject *context,
-                       std::function<void(const Answer &)> answered)
+                       std::function<void(const Answer &)> answered, Service service)
 {
     QDBusMessage call = d->message(method, arguments);
-    call.setAutoStartService(false);
+    call.setAutoStartService(service == Service::Started);
     constexpr int noLimit = std::numeric_limits<int>::max();
     auto *watcher = new QDBusPendingCallWatcher(d->m_bus.asyncCall(call, noLimit), context);
     connect(watcher, &QDBusPendingCallWatcher::finished, context,

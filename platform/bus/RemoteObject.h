@@ -44,9 +44,11 @@ public:
     };
 
     /// Sends a call and goes on: `answered` is called once with what became of it, as long as
-    /// `context` lives. There is no limit.
+    /// `context` lives. There is no limit. Where it is wanted and nobody has the name, the bus
+    /// starts the service, if it knows how to.
+    enum class Service { AsItIs, Started };
     void ask(const QString &method, const QVariantList &arguments, QObject *context,
-             std::function<void(const Answer &)> answered);
+             std::function<void(const Answer &)> answered, Service service = Service::AsItIs);
 
     /// Calls and waits for the answer, without serving the event loop. Dictionaries, lists and
     /// strings come as plain Qt values.

@@ -24,6 +24,30 @@
         <translation>Beenden</translation>
     </message>
     <message>
+        <source>There is no session bus to reach the helper by.</source>
+        <translation>Es gibt keinen Sitzungsbus, über den das Hilfsprogramm zu erreichen wäre.</translation>
+    </message>
+    <message>
+        <source>The helper did not answer: %@</source>
+        <translation>Das Hilfsprogramm hat nicht geantwortet: %@</translation>
+    </message>
+    <message>
+        <source>The helper was started but did not appear.</source>
+        <translation>Das Hilfsprogramm wurde gestartet, ist aber nicht erschienen.</translation>
+    </message>
+    <message>
+        <source>The helper is not installed. Please install Caravel again.</source>
+        <translation>Das Hilfsprogramm ist nicht installiert. Bitte installieren Sie Caravel neu.</translation>
+    </message>
+    <message>
+        <source>The helper can't be started.</source>
+        <translation>Das Hilfsprogramm kann nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>The helper keeps ending by itself.</source>
+        <translation>Das Hilfsprogramm beendet sich immer wieder von selbst.</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>Wird initialisiert …</translation>
     </message>

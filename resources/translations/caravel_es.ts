@@ -24,6 +24,30 @@
         <translation>Salir</translation>
     </message>
     <message>
+        <source>There is no session bus to reach the helper by.</source>
+        <translation>No hay ningún bus de sesión por el que contactar con el programa auxiliar.</translation>
+    </message>
+    <message>
+        <source>The helper did not answer: %@</source>
+        <translation>El programa auxiliar no ha respondido: %@</translation>
+    </message>
+    <message>
+        <source>The helper was started but did not appear.</source>
+        <translation>El programa auxiliar se ha iniciado, pero no ha aparecido.</translation>
+    </message>
+    <message>
+        <source>The helper is not installed. Please install Caravel again.</source>
+        <translation>El programa auxiliar no está instalado. Vuelva a instalar Caravel.</translation>
+    </message>
+    <message>
+        <source>The helper can't be started.</source>
+        <translation>No se puede iniciar el programa auxiliar.</translation>
+    </message>
+    <message>
+        <source>The helper keeps ending by itself.</source>
+        <translation>El programa auxiliar se cierra una y otra vez por sí solo.</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>Inicializando…</translation>
     </message>

@@ -24,6 +24,30 @@
         <translation>Quitter</translation>
     </message>
     <message>
+        <source>There is no session bus to reach the helper by.</source>
+        <translation>Il n’y a pas de bus de session pour joindre l’assistant.</translation>
+    </message>
+    <message>
+        <source>The helper did not answer: %@</source>
+        <translation>L’assistant n’a pas répondu : %@</translation>
+    </message>
+    <message>
+        <source>The helper was started but did not appear.</source>
+        <translation>L’assistant a été lancé, mais il n’est pas apparu.</translation>
+    </message>
+    <message>
+        <source>The helper is not installed. Please install Caravel again.</source>
+        <translation>L’assistant n’est pas installé. Veuillez réinstaller Caravel.</translation>
+    </message>
+    <message>
+        <source>The helper can't be started.</source>
+        <translation>L’assistant ne peut pas être lancé.</translation>
+    </message>
+    <message>
+        <source>The helper keeps ending by itself.</source>
+        <translation>L’assistant s’arrête sans cesse de lui-même.</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>Initialisation…</translation>
     </message>

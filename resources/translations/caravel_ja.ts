@@ -24,6 +24,30 @@
         <translation>終了</translation>
     </message>
     <message>
+        <source>There is no session bus to reach the helper by.</source>
+        <translation>ヘルパーに接続するためのセッションバスがありません。</translation>
+    </message>
+    <message>
+        <source>The helper did not answer: %@</source>
+        <translation>ヘルパーが応答しませんでした: %@</translation>
+    </message>
+    <message>
+        <source>The helper was started but did not appear.</source>
+        <translation>ヘルパーを起動しましたが、現れませんでした。</translation>
+    </message>
+    <message>
+        <source>The helper is not installed. Please install Caravel again.</source>
+        <translation>ヘルパーがインストールされていません。Caravel をもう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The helper can't be started.</source>
+        <translation>ヘルパーを起動できません。</translation>
+    </message>
+    <message>
+        <source>The helper keeps ending by itself.</source>
+        <translation>ヘルパーが何度も自動的に終了します。</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>初期化しています…</translation>
     </message>

@@ -1,0 +1,6 @@
+#include "window/SettingsDialog.h"
+
+SettingsDialog::SettingsDialog(HelperConnection *, QWidget *parent)
+    : QDialog(parent)
+{
+}
