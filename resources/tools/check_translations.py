@@ -9,7 +9,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 CATALOGUES = ROOT / "resources" / "translations"
-FOLDERS = ("app", "cli", "frontend", "modules", "platform", "protocol", "sync", "util")
+FOLDERS = ("app", "cli", "frontend", "modules", "platform", "protocol", "sync", "util", "window")
 LANGUAGES = {"de", "en", "es", "fr", "ja"}
 
 TOKEN = re.compile(
