@@ -257,7 +257,7 @@ void CaravelHelperController::restoreBackup(const QString &identifier)
     case Restored::Done:
         return;
     case Restored::NoBackup:
-        qCWarning(lcApp).noquote() << "There is no backup to restore named" << identifier;
+        restoreFailed(identifier, localized("There is no such backup. Nothing was changed."));
         return;
     case Restored::NoStick:
         restoreFailed(identifier, localized("No PSP is connected. Nothing was changed."));

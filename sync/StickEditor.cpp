@@ -178,8 +178,9 @@ void StickEditor::setIcon(const QString &icon)
     Workspace::noteFileSystemChanged(m_volume);
 }
 
-void StickEditor::flush()
+FileResult<> StickEditor::flush()
 {
     if (std::exchange(m_isToFlush, false))
-        files().flush(m_volume);
+        return files().flush(m_volume);
+    return {};
 }

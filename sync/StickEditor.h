@@ -53,7 +53,7 @@ public:
     void setIcon(const QString &icon);
 
     /// Writes what is buffered to the device, where anything was changed.
-    void flush();
+    FileResult<> flush();
 
     /// The first folder on the way to the path, itself left out, that is a link; empty: none. What
     /// was seen once is remembered.

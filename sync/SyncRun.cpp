@@ -72,8 +72,14 @@ void SyncRun::start()
     m_stick.setIcon(QStringLiteral("%1/PSP%2.icns")
                         .arg(m_services.resourceFolder)
                         .arg(m_services.clock.now().date().month()));
-    m_stick.flush();
+    flush();
     pause();
+}
+
+void SyncRun::flush()
+{
+    if (const auto flushed = m_stick.flush(); !flushed)
+        fileManagerShouldProceedAfterError(flushed.error());
 }
 
 // In which a cancel costs nothing.

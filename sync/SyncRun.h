@@ -68,6 +68,7 @@ private:
     void ejectStick();
 
     void pause();
+    void flush();
     void makePlan();
     void keepReplaced(const KindPlan &kind);
     void markUnfinished();

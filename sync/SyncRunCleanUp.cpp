@@ -14,7 +14,7 @@ void SyncRun::cleanUp()
     m_host.reportProgress(m_report);
     // So that the space that was freed counts in the test that follows.
     if (m_stick.isPresent())
-        m_stick.flush();
+        flush();
 }
 
 void SyncRun::cleanUp(const KindPlan &kind, ItemPlacer *placer)

@@ -293,7 +293,9 @@ void MovieQueue::headIsStored(const StoredMovie &stored)
         m_services.logger.log(QStringLiteral("Movie conversion completed: %@"), movie.title);
     if (!m_progress.warning().isEmpty())
         warn(movie, m_progress.warning());
-    if (stored.identifier) {
+    if (stored.identifier && m_movieQueueDidAbort) {
+        CVSyncMovies::deleteMovieWithIdentifier(*stored.identifier); // removed while it was stored
+    } else if (stored.identifier) {
         if (movie.isEnabled)
             select(selection() << *stored.identifier);
         // It may have got another title meanwhile.

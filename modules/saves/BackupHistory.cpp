@@ -32,6 +32,14 @@ QStringList namesIn(const QString &folder)
     return names;
 }
 
+bool flush(const QString &path, FileOperationHandler &handler)
+{
+    const auto flushed = files().flush(path);
+    if (!flushed)
+        handler.fileManagerShouldProceedAfterError(flushed.error());
+    return bool(flushed);
+}
+
 } // namespace
 
 std::optional<Backup> Backup::named(const QString &identifier)
@@ -102,13 +110,14 @@ bool keep(const QString &source, const QString &newFolder, FileOperationHandler 
     FileManagerTools::createPath(partial);
     FileManagerTools::createPath(PathComponents::folderOf(newFolder));
     bool whole = files().copy(source, partial + u'/' + PathComponents::lastOf(source), &handler);
-    files().flush(partial);
-    whole = whole && files().move(partial, newFolder, &handler);
+    whole = whole && flush(partial, handler) && files().move(partial, newFolder, &handler);
     // What a restore takes off the stick next may be the only other copy.
-    files().flush(root());
-    if (!whole)
-        files().remove(partial, nullptr);
-    return whole;
+    if (whole && flush(root(), handler))
+        return true;
+    files().remove(partial, nullptr);
+    if (whole)
+        files().remove(newFolder, nullptr);
+    return false;
 }
 
 void prune(qsizetype kept)

@@ -4,6 +4,8 @@
 #include "sync/StickEditor.h"
 #include "sync/StickFiles.h"
 
+#include <tuple>
+
 namespace {
 
 QString incoming(const QString &volume)
@@ -48,7 +50,7 @@ void SaveOnStick::removeStaged()
     const QString staged = StickFiles::restoreFolder(m_stick.volume());
     if (files().linkStatus(staged).exists())
         m_stick.remove(staged, nullptr);
-    m_stick.flush();
+    std::ignore = m_stick.flush(); // what is left of it goes at the next start
 }
 
 bool SaveOnStick::takeAway(FileOperationHandler &handler)
@@ -65,7 +67,9 @@ bool SaveOnStick::put(const QString &backup, FileOperationHandler &handler)
                       makeFolder(m_stick, StickFiles::restoreFolder(volume), handler) &&
                       m_stick.copyTree(backup, partial, handler) &&
                       m_stick.move(partial, m_folder, handler);
-    m_stick.flush();
+    const auto flushed = m_stick.flush();
+    if (!flushed)
+        handler.fileManagerShouldProceedAfterError(flushed.error());
     removeStaged();
-    return done;
+    return done && flushed;
 }

@@ -34,15 +34,17 @@ FileStatus statusFrom(const struct stat &status)
     return {kind, static_cast<quint64>(status.st_size)};
 }
 
-/// And lets go of what was removed before. Every file system is flushed where that one can't be.
-bool flushFileSystemOf(int any)
+/// And lets go of what was removed before. 0, or the error that kept something from the device;
+/// every file system is flushed where that one can't be.
+int flushFileSystemOf(int any)
 {
     const HeldFiles::Batch removed = HeldFiles::take();
-    const bool isFlushed = any >= 0 && ::syncfs(any) == 0;
-    if (!isFlushed)
+    const int error = any < 0 ? EBADF : ::syncfs(any) == 0 ? 0 : errno;
+    if (error != 0)
         ::sync();
     HeldFiles::flushOthers(removed, any);
-    return isFlushed;
+    const bool isUnknownThere = error == EBADF || error == ENOSYS || error == EINVAL;
+    return isUnknownThere ? 0 : error;
 }
 
 /// Some file systems have nothing to flush for a folder and say EINVAL.
@@ -219,13 +221,12 @@ bool FileManager::close(int descriptor)
 bool FileManager::closeAndFlush(int descriptor)
 {
     Posix::Descriptor any(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0));
-    const bool isClosed = close(descriptor);
-    const int error = errno;
-    flushFileSystemOf(any.get());
+    const int closing = close(descriptor) ? 0 : errno;
+    const int flushing = flushFileSystemOf(any.get());
     if (any && LateClosing::isWorthwhile(any.get()))
         LateClosing::close(any.release());
-    errno = error;
-    return isClosed;
+    errno = closing != 0 ? closing : flushing;
+    return errno == 0;
 }
 
 std::vector<FileError> FileManager::finishClosing()
@@ -234,10 +235,12 @@ std::vector<FileError> FileManager::finishClosing()
     return LateClosing::finish();
 }
 
-void FileManager::flush(const QString &path)
+FileResult<> FileManager::flush(const QString &path)
 {
     const Posix::Descriptor any(::open(Posix::native(path).constData(), readOnly));
-    flushFileSystemOf(any.get());
+    if (const int error = flushFileSystemOf(any.get()); error != 0)
+        return FileError::of(FileError::Operation::Write, path, error);
+    return {};
 }
 
 FileResult<> FileManager::writeAtomically(const QString &path, const QByteArray &contents)

@@ -131,7 +131,8 @@ public:
 
     /// Closes a file that was written, then writes the buffers of its file system to the device
     /// (syncfs), or those of every file system where that fails. Closing comes first: some file
-    /// systems write only then. The answer is the closing's. Where the file system makes the last
+    /// systems write only then. False and errno where either fails: the file may not be on the
+    /// device. Where the file system makes the last
     /// close of a file wait, that is done beside the caller, at most sixteen at a time, and
     /// finishClosing() waits for them all and tells what failed. Not on the main thread, which
     /// waits for nobody.
@@ -144,8 +145,8 @@ public:
     virtual qint64 transfer(int from, int to, size_t count);
 
     /// Writes the buffers of the file system that holds the path to its device (syncfs); flushes
-    /// every file system where that fails.
-    virtual void flush(const QString &path);
+    /// every file system where that fails. Fails where something may not be on the device.
+    virtual FileResult<> flush(const QString &path);
 
     /// Copies a file or a folder tree; links are copied as links. An existing destination is an
     /// error. Errors go to the handler (may be null: every error is then passed over) and the copy

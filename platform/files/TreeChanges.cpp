@@ -303,7 +303,11 @@ bool FileManager::move(const QString &source, const QString &destination,
     }
     TreeCopier copier(*this, handler);
     if (copier.copy(from, to)) {
-        flush(destination); // the only copy must not be one that a power cut can take
+        // The only copy must not be one that a power cut can take.
+        if (const auto flushed = flush(destination); !flushed) {
+            ErrorReport(handler).add(flushed.error());
+            return false;
+        }
         return remove(source, handler);
     }
     if (copier.madeDestination())

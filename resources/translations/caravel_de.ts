@@ -379,6 +379,10 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <translation>Es ist keine PSP angeschlossen. Nichts wurde geändert.</translation>
     </message>
     <message>
+        <source>There is no such backup. Nothing was changed.</source>
+        <translation>Diese Sicherung gibt es nicht. Es wurde nichts geändert.</translation>
+    </message>
+    <message>
         <source>Sync Incomplete</source>
         <translation>Synchronisierung unvollständig</translation>
     </message>

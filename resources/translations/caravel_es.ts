@@ -379,6 +379,10 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <translation>No hay ninguna PSP conectada. No se ha cambiado nada.</translation>
     </message>
     <message>
+        <source>There is no such backup. Nothing was changed.</source>
+        <translation>Esa copia de seguridad no existe. No se ha cambiado nada.</translation>
+    </message>
+    <message>
         <source>Sync Incomplete</source>
         <translation>Sincronización incompleta</translation>
     </message>

@@ -379,6 +379,10 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <translation>Aucune PSP n’est connectée. Rien n’a été modifié.</translation>
     </message>
     <message>
+        <source>There is no such backup. Nothing was changed.</source>
+        <translation>Cette sauvegarde n’existe pas. Rien n’a été modifié.</translation>
+    </message>
+    <message>
         <source>Sync Incomplete</source>
         <translation>Synchronisation incomplète</translation>
     </message>

@@ -379,6 +379,10 @@ Please deselect some media to ensure the sync can be completed.</source>
         <translation>PSP が接続されていません。何も変更されていません。</translation>
     </message>
     <message>
+        <source>There is no such backup. Nothing was changed.</source>
+        <translation>そのバックアップはありません。何も変更されませんでした。</translation>
+    </message>
+    <message>
         <source>Sync Incomplete</source>
         <translation>同期は不完全です</translation>
     </message>

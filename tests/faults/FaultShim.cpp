@@ -272,6 +272,30 @@ ON_PATH(rmdir, "unlink", (const char *path), (path), AT_FDCWD, path)
 ON_PATH(unlinkat, "unlink", (int folder, const char *path, int flags), (folder, path, flags),
         folder, path)
 
+namespace {
+
+int duplicated(int result, int descriptor, int command)
+{
+    if (command == F_DUPFD_CLOEXEC && result >= 0)
+        faults().watch(result, faults().isWatched(descriptor));
+    return result;
+}
+
+} // namespace
+
+#define FCNTL(NAME)                                                                                \
+    extern "C" int NAME(int descriptor, int command, ...)                                          \
+    {                                                                                              \
+        static const auto next = real<int (*)(int, int, ...)>(#NAME);                              \
+        va_list arguments;                                                                         \
+        va_start(arguments, command);                                                              \
+        void *argument = va_arg(arguments, void *);                                                \
+        va_end(arguments);                                                                         \
+        return duplicated(next(descriptor, command, argument), descriptor, command);               \
+    }
+FCNTL(fcntl)
+FCNTL(fcntl64)
+
 #define ON_DESCRIPTOR(NAME, ALL)                                                                   \
     extern "C" int NAME(int descriptor)                                                            \
     {                                                                                              \

@@ -9,10 +9,13 @@
 #include "util/QMLogger.h"
 #include "util/Settings.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 using namespace std::chrono_literals;
 
@@ -26,11 +29,14 @@ public:
     ~Mover() override { FileManager::setDefaultManager(nullptr); }
     std::atomic<bool> refuses = false;
     std::atomic<bool> hasHeldTheMainThread = false;
+    std::function<void()> whileMoving = [] {
+    };
     bool move(const QString &source, const QString &destination,
               FileOperationHandler *handler) override
     {
         if (isMainThread())
             hasHeldTheMainThread = true;
+        performOnMainThread(QCoreApplication::instance(), whileMoving, CallMode::Wait);
         return !refuses && FileManager::move(source, destination, handler);
     }
 };
@@ -120,4 +126,10 @@ TEST_F(MovieQueueTest, StoresBesideTheMainThreadAndKeepsTheMark)
     convert("sleep 0.2; echo movie >\"$3\"; echo thumbnail >\"$4\"", {u"a.avi"_s});
     EXPECT_EQ(joined(*CVSyncMovies::selectedIdentifiersForPSP(harness.stick())), "x\nM4V00001/a");
     EXPECT_FALSE(files.hasHeldTheMainThread);
+
+    files.whileMoving = [&] {
+        queue.removeMovieItem(queue.moviesItems().last().toMap());
+    };
+    convert("echo movie >\"$3\"; echo thumbnail >\"$4\"", {u"removed.avi"_s});
+    EXPECT_EQ(queue.moviesItems().size(), 1);
 }
