@@ -105,6 +105,16 @@ QVariantList RunRecord::items(quint32 first, quint32 count) const
     return m_items.mid(first, std::min(count, PlanRows::longestPage));
 }
 
+std::optional<RunRecord::Counts> RunRecord::leftOut() const
+{
+    const auto count = [this](const char *key) {
+        return m_summary.value(QLatin1StringView(key)).toUInt();
+    };
+    if (m_summary.value(QStringLiteral("outcome")) != outcomeText(RunReport::Outcome::Incomplete))
+        return std::nullopt;
+    return Counts{count("leftOut"), count("copied") + count("replaced") + count("leftOut")};
+}
+
 void RunRecord::read()
 {
     if (!files().exists(path()))

@@ -6,6 +6,8 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include <optional>
+
 /// How the last run ended, kept in "LastRun.plist" in the support folder so that it outlives the
 /// helper. Written without an end while a run lasts; found so at the start, the run was cut short
 /// and counts as cancelled. Main thread.
@@ -24,6 +26,14 @@ public:
     /// As Protocol::lastRunSummary and lastRunItems show it; empty where no run was.
     const QVariantMap &summary() const { return m_summary; }
     QVariantList items(quint32 first, quint32 count) const;
+
+    struct Counts
+    {
+        uint leftOut = 0; ///< though it exists
+        uint wanted = 0;  ///< of what exists
+    };
+    /// Of a run that was completed but for what it left out; else nothing.
+    std::optional<Counts> leftOut() const;
 
 private:
     void read();

@@ -31,6 +31,7 @@ void StatusIcon::show(Menu &menu)
         return;
     m_statusItem = m_statusBar.makeStatusItem();
     setImages(idleImage(), activeImage);
+    m_statusItem->setToolTip(m_toolTip);
     m_statusItem->setMenu(&menu);
     m_statusItem->setEnabled(true);
 }
@@ -62,6 +63,13 @@ void StatusIcon::setImages(const QString &name, const QString &alternateName)
 QString StatusIcon::idleImage() const
 {
     return m_manager.pspIsMounted() ? pspImage : noPSPImage;
+}
+
+void StatusIcon::setToolTip(const QString &text)
+{
+    m_toolTip = text;
+    if (m_statusItem)
+        m_statusItem->setToolTip(text);
 }
 
 void StatusIcon::pspDidMount()

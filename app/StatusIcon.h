@@ -22,6 +22,8 @@ public:
     /// Takes the item out of the user's reach; for a helper that is quitting.
     void disable();
 
+    void setToolTip(const QString &text);
+
     void pspDidMount();
     void pspDidUnmount();
 
@@ -37,6 +39,7 @@ private:
     StatusBar &m_statusBar;
     CVSyncManager &m_manager;
     std::unique_ptr<StatusItem> m_statusItem;
+    QString m_toolTip;
     QTimer m_syncAnimationTimer;
     quint32 m_syncAnimationFrame = 0;
     qint32 m_syncAnimationDirection = 1;

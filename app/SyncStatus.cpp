@@ -44,13 +44,16 @@ SyncStatus::SyncStatus(Services services)
 void SyncStatus::setInitialTexts()
 {
     m_statusText = localized("Initializing...");
-    m_statusSubText = lastSyncText();
+    const QString leftOut = leftOutText();
+    m_statusSubText = leftOut.isEmpty() ? lastSyncText() : leftOut;
 }
 
 void SyncStatus::setStatusText(const QString &text)
 {
     m_statusText = text;
     m_services.menu.setStatusText(text);
+    const QString leftOut = leftOutText();
+    m_services.icon.setToolTip(leftOut.isEmpty() ? text : text + QStringLiteral(" – ") + leftOut);
     if (Settings::useDetailedLogging())
         m_services.logger.log(text);
 }
@@ -69,6 +72,13 @@ void SyncStatus::show(const QString &text, const QString &subText)
     notifyUserInterface();
 }
 
+/// While nothing runs: what the last run left out stays the second line until the next one.
+void SyncStatus::showIdle(const QString &text, const QString &subText)
+{
+    const QString leftOut = leftOutText();
+    show(text, leftOut.isEmpty() ? subText : leftOut);
+}
+
 void SyncStatus::notifyUserInterface()
 {
     m_services.menu.update();
@@ -81,6 +91,16 @@ QString SyncStatus::lastSyncText() const
     return filled(localized("Last Sync: %@"), {relativeDate(lastSync, m_services.clock.now())});
 }
 
+/// Empty where the last run left nothing out, or was not completed.
+QString SyncStatus::leftOutText() const
+{
+    const std::optional<RunRecord::Counts> counts = m_services.record.leftOut();
+    if (!counts)
+        return {};
+    return filled(localized("%@ of %@ files could not be copied."),
+                  {QString::number(counts->leftOut), QString::number(counts->wanted)});
+}
+
 void SyncStatus::doAlert(const QString &title, const QString &message, AlertStyle style)
 {
     m_services.frontEnds.doAlert(title, message, style);
@@ -91,8 +111,8 @@ void SyncStatus::doAlert(const QString &title, const QString &message, AlertStyl
 void SyncStatus::showStick()
 {
     const bool syncedBefore = Settings::lastSync().has_value();
-    show(filled(localized("%@ Available"), {size(m_services.manager.pspFreeSpace())}),
-         syncedBefore ? lastSyncText() : localized("Click \"Sync Now\" to perform a sync."));
+    showIdle(filled(localized("%@ Available"), {size(m_services.manager.pspFreeSpace())}),
+             syncedBefore ? lastSyncText() : localized("Click \"Sync Now\" to perform a sync."));
 }
 
 void SyncStatus::pspDidMount(const QString &)
@@ -108,7 +128,7 @@ void SyncStatus::pspDidUnmount()
 {
     m_services.plans.forget();
     m_services.icon.pspDidUnmount();
-    show(localized("No PSP Connected"), localized("Connect a PSP to perform a sync."));
+    showIdle(localized("No PSP Connected"), localized("Connect a PSP to perform a sync."));
     m_services.frontEnds.pspDidUnmount();
 }
 
@@ -142,6 +162,8 @@ void SyncStatus::pspWillUnmount()
 
 void SyncStatus::pspDidEject()
 {
+    m_services.alerts.notify(localized("PSP Ejected"),
+                             localized("It is safe to remove the PSP now."));
     // Another stick's mount was told of long ago, or never.
     if (m_services.manager.pspIsMounted() && !m_services.manager.isSyncing())
         showStick();
@@ -360,7 +382,7 @@ void SyncStatus::syncWasIncomplete(const RunReport &report)
     if (!Settings::useDetailedLogging())
         m_services.logger.log(filled(text, counts));
     setStatusText(localized("Sync Incomplete"));
-    setStatusSubText(filled(localized("%@ of %@ files could not be copied."), counts));
+    setStatusSubText(leftOutText());
     logLeftOut(report);
 }
 

@@ -54,7 +54,8 @@ public:
     /// Through a front-end where one is connected and takes it, else by ourselves.
     void doAlert(const QString &title, const QString &message, AlertStyle style);
 
-    /// An eject is done. Where another stick is the PSP's now, the texts are about that.
+    /// An eject is done, which one notification says. Where another stick is the PSP's now, the
+    /// texts are about that.
     void pspDidEject();
 
     void pspDidMount(const QString &volume) override;
@@ -87,6 +88,8 @@ private:
     void showStick();
     void notifyUserInterface();
     QString lastSyncText() const;
+    QString leftOutText() const;
+    void showIdle(const QString &text, const QString &subText);
     void memoryStickFilled();
     void syncWasCancelled();
     void syncWasIncomplete(const RunReport &report);

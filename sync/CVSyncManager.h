@@ -105,7 +105,7 @@ public:
     quint32 syncPercentEstimate();
 
 Q_SIGNALS:
-    /// What eject() was asked for is done. Another stick may be the PSP's now.
+    /// An eject, of eject() or at a run's end, is done. Another stick may be the PSP's now.
     void ejected();
 
 private:
@@ -129,7 +129,7 @@ private:
     bool endRun();
     void finishRun(RunReport report);
     void beginEject();
-    bool unmount(const QString &volume);
+    void unmount(const QString &volume);
     void endEject(const std::optional<FailedEject> &failed);
 
     // What a run asks for and tells

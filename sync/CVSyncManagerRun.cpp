@@ -154,12 +154,7 @@ void CVSyncManager::eject()
         beginEject();
     }
     tell([](CVSyncManagerDelegate &delegate) { delegate.pspWillUnmount(); });
-    const bool isStarted = Workers::start([this, volume = pspVolume()] {
-        // After the scan that the volume's going has queued.
-        if (unmount(volume))
-            performOnMainThread(
-                this, [this] { Q_EMIT ejected(); }, CallMode::DontWait);
-    });
+    const bool isStarted = Workers::start([this, volume = pspVolume()] { unmount(volume); });
     if (!isStarted)
         endEject(FailedEject{QStringLiteral("there is no thread for it"), {}});
 }
@@ -174,14 +169,17 @@ void CVSyncManager::ejectVolume(const QString &volume)
 }
 
 // Who holds the volume is looked up on this thread: there may be many processes.
-bool CVSyncManager::unmount(const QString &volume)
+void CVSyncManager::unmount(const QString &volume)
 {
     const Ejection ejection = m_services.volumes.unmountAndEject(volume);
-    if (ejection.isDone)
-        endEject(std::nullopt);
-    else
+    if (!ejection.isDone) {
         endEject(FailedEject{ejection.reason, volumeHolders(volume)});
-    return ejection.isDone;
+        return;
+    }
+    endEject(std::nullopt);
+    // After the scan that the volume's going has queued.
+    performOnMainThread(
+        this, [this] { Q_EMIT ejected(); }, CallMode::DontWait);
 }
 
 void CVSyncManager::beginEject()

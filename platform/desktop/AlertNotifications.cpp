@@ -26,28 +26,51 @@ QString iconName(AlertStyle style)
     return {};
 }
 
+// An alert is never to be missed.
+enum class Lasts { AsUsual, UntilDismissed };
+
+struct Look
+{
+    uint replaced; // the service's number of the notification whose place it takes; 0: none
+    QString icon;
+    Lasts lasts;
+};
+
+QDBusMessage callFor(const Look &look, const QString &title, const QString &message)
+{
+    const QString service = QStringLiteral("org.freedesktop.Notifications");
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/Notifications"),
+                                       service, QStringLiteral("Notify"));
+    const bool stays = look.lasts == Lasts::UntilDismissed;
+    // Urgency: 1 is normal, 2 stays until it is dismissed. Time: 0 is for ever, -1 the service's.
+    const QVariantMap hints{
+        {QStringLiteral("urgency"), QVariant::fromValue<uchar>(stays ? 2 : 1)},
+        {QStringLiteral("desktop-entry"), QStringLiteral("org.caravel.Caravel")}};
+    call.setArguments({QStringLiteral("Caravel"), look.replaced, look.icon, title,
+                       message.toHtmlEscaped(), QStringList(), hints, stays ? 0 : -1});
+    return call;
+}
+
 /// Through the bus service "org.freedesktop.Notifications".
 class AlertNotifications : public Alerts
 {
 public:
     void show(const QString &title, const QString &message, AlertStyle style) override
     {
-        const QString service = QStringLiteral("org.freedesktop.Notifications");
-        QDBusMessage call = QDBusMessage::createMethodCall(
-            service, QStringLiteral("/org/freedesktop/Notifications"), service,
-            QStringLiteral("Notify"));
-        // Urgency: 1 is normal, 2 stays until it is dismissed. An alert is never to be missed.
-        const QVariantMap hints{
-            {QStringLiteral("urgency"), QVariant::fromValue<uchar>(2)},
-            {QStringLiteral("desktop-entry"), QStringLiteral("org.caravel.Caravel")}};
-        constexpr int neverExpires = 0;
-        call.setArguments({QStringLiteral("Caravel"), m_shown.value({title, message}, 0U),
-                           iconName(style), title, message.toHtmlEscaped(), QStringList(), hints,
-                           neverExpires});
+        const QDBusMessage call =
+            callFor({m_shown.value({title, message}, 0U), iconName(style), Lasts::UntilDismissed},
+                    title, message);
         auto *watcher =
             new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), &m_calls);
         QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &m_calls,
                          [this, title, message, watcher] { answered(title, message, *watcher); });
+    }
+
+    void notify(const QString &title, const QString &message) override
+    {
+        QDBusConnection::sessionBus().send(
+            callFor({0U, iconName(AlertStyle::Informational), Lasts::AsUsual}, title, message));
     }
 
 private:

@@ -45,6 +45,11 @@ public:
         window->activateWindow();
     }
 
+    void notify(const QString &title, const QString &message) override
+    {
+        m_notifications->notify(title, message);
+    }
+
 private:
     static QMessageBox *newWindow(const QString &title)
     {
@@ -59,6 +64,7 @@ private:
 
     // By title and message; null once closed
     QHash<std::pair<QString, QString>, QPointer<QMessageBox>> m_windows;
+    const std::unique_ptr<Alerts> m_notifications = makeAlertNotifications();
 };
 
 } // namespace

@@ -13,6 +13,8 @@ class Alerts
 public:
     virtual ~Alerts() = default;
     virtual void show(const QString &title, const QString &message, AlertStyle style) = 0;
+    /// Good news, as a desktop notification that goes by itself; nothing where there are none.
+    virtual void notify(const QString &title, const QString &message) = 0;
 };
 
 /// Windows that block nothing: one per alert, which the same alert again brings forward.

@@ -18,6 +18,7 @@ public:
     ~DesktopStatusItem() override { setEnabled(false); }
 
     void setImage(const QString &name) override;
+    void setToolTip(const QString &text) override;
     void setAlternateImage(const QString &name) override;
     void setMenu(Menu *menu) override;
     void setEnabled(bool enabled) override;
@@ -27,10 +28,12 @@ private:
     void watcherCame();
     void watcherWent();
     void showImage();
+    void showToolTip();
 
     StatusImages m_images;
     QString m_image;
     QString m_alternateImage;
+    QString m_toolTip;
     Menu *m_menu = nullptr;
     QDBusServiceWatcher m_watcher;
     std::unique_ptr<StatusNotifier> m_notifier; // while enabled
@@ -65,6 +68,12 @@ void DesktopStatusItem::setAlternateImage(const QString &name)
     showImage();
 }
 
+void DesktopStatusItem::setToolTip(const QString &text)
+{
+    m_toolTip = text;
+    showToolTip();
+}
+
 void DesktopStatusItem::setMenu(Menu *menu)
 {
     m_menu = menu;
@@ -92,6 +101,7 @@ void DesktopStatusItem::setEnabled(bool enabled)
     else
         watcherWent();
     showImage();
+    showToolTip();
 }
 
 void DesktopStatusItem::watcherCame()
@@ -109,6 +119,7 @@ void DesktopStatusItem::watcherWent()
     if (X11Tray::isPossible() && !m_x11Tray)
         m_x11Tray = std::make_unique<X11Tray>(m_images, *m_menu);
     showImage();
+    showToolTip();
 }
 
 void DesktopStatusItem::showImage()
@@ -118,6 +129,14 @@ void DesktopStatusItem::showImage()
         m_notifier->setImage(shown);
     if (m_x11Tray)
         m_x11Tray->setImage(shown);
+}
+
+void DesktopStatusItem::showToolTip()
+{
+    if (m_notifier)
+        m_notifier->setToolTip(m_toolTip);
+    if (m_x11Tray)
+        m_x11Tray->setToolTip(m_toolTip);
 }
 
 class DesktopStatusBar : public StatusBar

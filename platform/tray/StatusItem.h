@@ -14,6 +14,8 @@ public:
     virtual ~StatusItem() = default;
 
     virtual void setImage(const QString &name) = 0;
+    /// What is shown beside the program's name while the pointer rests on the item.
+    virtual void setToolTip(const QString &text) = 0;
     /// Shown in the image's place while the menu is open.
     virtual void setAlternateImage(const QString &name) = 0;
     /// Not owned; outlives the item.

@@ -115,9 +115,10 @@ class StatusNotifier::Object : public QObject
     Q_PROPERTY(bool ItemIsMenu READ itemIsMenu CONSTANT)
     Q_PROPERTY(QDBusObjectPath Menu READ menuPath CONSTANT)
 public:
-    Object(StatusImages &images, ::Menu &menu, QString menuPath);
+    Object(StatusImages &images, QString menuPath);
 
     void setImage(const QString &name);
+    void setToolTip(const QString &text);
 
     QString category() const { return QStringLiteral("Hardware"); }
     QString id() const { return QStringLiteral("caravel-helper"); }
@@ -127,7 +128,7 @@ public:
     QString noName() const { return {}; }
     StatusPixmaps noPixmap() const { return {}; }
     StatusPixmaps iconPixmap() const;
-    StatusToolTip toolTip() const;
+    StatusToolTip toolTip() const { return {{}, {}, title(), m_toolTip}; }
     bool itemIsMenu() const { return true; }
     QDBusObjectPath menuPath() const { return QDBusObjectPath(m_menuPath); }
 
@@ -137,26 +138,27 @@ Q_SIGNALS:
 
 private:
     StatusImages &m_images;
-    ::Menu &m_menu;
     const QString m_menuPath;
     QString m_image;
+    QString m_toolTip;
 };
 
-StatusNotifier::Object::Object(StatusImages &images, ::Menu &menu, QString menuPath)
+StatusNotifier::Object::Object(StatusImages &images, QString menuPath)
     : m_images(images)
-    , m_menu(menu)
     , m_menuPath(std::move(menuPath))
 {
-    connect(&m_menu, &::Menu::itemChanged, this, [this](int index) {
-        if (index == 0)
-            Q_EMIT NewToolTip();
-    });
 }
 
 void StatusNotifier::Object::setImage(const QString &name)
 {
     if (std::exchange(m_image, name) != name)
         Q_EMIT NewIcon();
+}
+
+void StatusNotifier::Object::setToolTip(const QString &text)
+{
+    if (std::exchange(m_toolTip, text) != text)
+        Q_EMIT NewToolTip();
 }
 
 StatusPixmaps StatusNotifier::Object::iconPixmap() const
@@ -167,14 +169,9 @@ StatusPixmaps StatusNotifier::Object::iconPixmap() const
     return pixmaps;
 }
 
-StatusToolTip StatusNotifier::Object::toolTip() const
-{
-    return {{}, {}, title(), m_menu.count() > 0 ? m_menu.itemAtIndex(0).title : QString()};
-}
-
 StatusNotifier::StatusNotifier(StatusImages &images, Menu &menu)
     : m_menu(menu, QStringLiteral("/MenuBar"))
-    , m_object(std::make_unique<Object>(images, menu, m_menu.path()))
+    , m_object(std::make_unique<Object>(images, m_menu.path()))
 {
     qDBusRegisterMetaType<StatusPixmap>();
     qDBusRegisterMetaType<StatusPixmaps>();
@@ -200,6 +197,11 @@ StatusNotifier::~StatusNotifier()
 void StatusNotifier::setImage(const QString &name)
 {
     m_object->setImage(name);
+}
+
+void StatusNotifier::setToolTip(const QString &text)
+{
+    m_object->setToolTip(text);
 }
 
 QString StatusNotifier::watcher()

@@ -28,7 +28,6 @@ public:
                                  menu.popup(icon.geometry().bottomLeft());
                          });
         icon.setContextMenu(&menu);
-        icon.setToolTip(QStringLiteral("Caravel"));
     }
 
     void update(int index)
@@ -66,4 +65,9 @@ void X11Tray::setImage(const QString &name)
         icon.addPixmap(QPixmap::fromImage(image));
     d->icon.setIcon(icon);
     d->icon.setVisible(!icon.isNull());
+}
+
+void X11Tray::setToolTip(const QString &text)
+{
+    d->icon.setToolTip(QStringLiteral("Caravel: ") + text);
 }

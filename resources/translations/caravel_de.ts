@@ -387,6 +387,14 @@ Bitte wählen Sie weniger Medien aus, damit die Synchronisierung abgeschlossen w
         <translation>Synchronisierung unvollständig</translation>
     </message>
     <message>
+        <source>PSP Ejected</source>
+        <translation>PSP ausgeworfen</translation>
+    </message>
+    <message>
+        <source>It is safe to remove the PSP now.</source>
+        <translation>Sie können die PSP jetzt sicher entfernen.</translation>
+    </message>
+    <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>%@ von %@ Dateien konnten nicht kopiert werden.</translation>
     </message>

@@ -387,6 +387,14 @@ Deseleccione algunos elementos multimedia para que la sincronización pueda comp
         <translation>Sincronización incompleta</translation>
     </message>
     <message>
+        <source>PSP Ejected</source>
+        <translation>PSP expulsada</translation>
+    </message>
+    <message>
+        <source>It is safe to remove the PSP now.</source>
+        <translation>Ya puede retirar la PSP con seguridad.</translation>
+    </message>
+    <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>No se pudieron copiar %@ de %@ archivos.</translation>
     </message>

@@ -387,6 +387,14 @@ Veuillez désélectionner certains médias afin que la synchronisation puisse ê
         <translation>Synchronisation incomplète</translation>
     </message>
     <message>
+        <source>PSP Ejected</source>
+        <translation>PSP éjectée</translation>
+    </message>
+    <message>
+        <source>It is safe to remove the PSP now.</source>
+        <translation>Vous pouvez maintenant retirer la PSP en toute sécurité.</translation>
+    </message>
+    <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>%@ fichiers sur %@ n’ont pas pu être copiés.</translation>
     </message>

@@ -387,6 +387,14 @@ Please deselect some media to ensure the sync can be completed.</source>
         <translation>同期は不完全です</translation>
     </message>
     <message>
+        <source>PSP Ejected</source>
+        <translation>PSP を取り出しました</translation>
+    </message>
+    <message>
+        <source>It is safe to remove the PSP now.</source>
+        <translation>PSP を安全に取り外せます。</translation>
+    </message>
+    <message>
         <source>%@ of %@ files could not be copied.</source>
         <translation>ファイル %@ 個（%@ 個中）をコピーできませんでした。</translation>
     </message>

@@ -92,6 +92,12 @@ TEST_F(SyncStatusTest, SaysWhyARunEnded)
                      "2 of 2 files could not be copied.\n"
                      "Not copied: STICK/PSP/LINK/two (a link lies on the way)");
     EXPECT_EQ(texts(), "Sync Incomplete\n2 of 2 files could not be copied.");
+    icon.show(menu.menu());
+    harness.volumes.unmount(harness.stick());
+    EXPECT_EQ(texts(), "No PSP Connected\n2 of 2 files could not be copied.");
+    EXPECT_EQ(statusBar.toolTip, u"No PSP Connected – 2 of 2 files could not be copied."_s);
+    harness.mountStick();
+    SyncHarness::settle();
     EXPECT_TRUE(alerts.titles.isEmpty() && sounds.played.isEmpty());
     harness.wishes.items = [this] {
         return std::vector<CVSyncItem>{{harness.sources / u"one"_s, harness.place(u"one"_s), {}}};
@@ -104,6 +110,7 @@ TEST_F(SyncStatusTest, SaysWhyARunEnded)
     };
     EXPECT_EQ(run(), "Memory stick filled while syncing!\nSync was cancelled.");
     EXPECT_EQ(joined(alerts.titles), "Memory stick full!") << "once, however many files fail";
+    EXPECT_EQ(statusBar.toolTip, u"Sync Cancelled"_s);
     status.syncError({{u"Error"_s, u"Couldn't remove"_s}});
     EXPECT_EQ(alerts.titles.size(), 1);
 }

@@ -73,6 +73,11 @@ QImage FakeTray::image() const
     return {};
 }
 
+QString FakeTray::toolTip() const
+{
+    return property(QStringLiteral("ToolTip")).toList().value(3).toString();
+}
+
 QVariantList FakeTray::callMenu(const QString &method, const QVariantList &arguments) const
 {
     QDBusMessage message =

@@ -19,6 +19,7 @@ public:
     bool hasItem() const;
     /// The image shown, at 22 pixels.
     QImage image() const;
+    QString toolTip() const;
     /// The menu as it is without having been opened; what is disabled stands in brackets.
     QStringList menu() const;
     void sendMenuEvent(int id, const QString &event) const;

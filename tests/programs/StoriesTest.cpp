@@ -194,8 +194,8 @@ protected:
         const auto answer = frontEnd.helper.call(words[0], arguments, 30s, false);
         return answer.value ? answer.value->toString() : answer.error;
     }
-    /// "tray comes", "tray shows", "tray opens" and "tray closes" (its menu), "tray chooses
-    /// INDEX", "tray is empty", "tray swings" (moves).
+    /// "tray comes", "tray shows", "tray says" (its tool tip), "tray opens" and "tray closes" (its
+    /// menu), "tray chooses INDEX", "tray is empty", "tray swings" (moves).
     QString trayActs(const QStringList &words)
     {
         if (words[0] == u"comes")
@@ -207,6 +207,8 @@ protected:
                                                         : QStringLiteral("closed"));
         if (words[0] == u"swings")
             return waitFor([this] { return shownIcon().isEmpty(); }) ? QString() : never();
+        if (words[0] == u"says")
+            return tray->toolTip();
         const bool isShown = words[0] == u"shows";
         if (!isShown && words[0] != u"is")
             return {};

@@ -12,6 +12,7 @@ class FakeStatusBar : public StatusBar
 {
 public:
     QStringList images;
+    QString toolTip;
     int items = 0; ///< that exist now
     bool enabled = false;
     const Menu *menu = nullptr;
@@ -30,6 +31,7 @@ private:
         }
         ~Item() override { --m_bar.items; }
         void setImage(const QString &name) override { m_image = name; }
+        void setToolTip(const QString &text) override { m_bar.toolTip = text; }
         void setAlternateImage(const QString &name) override
         {
             m_bar.images.append(m_image + u'/' + name);
@@ -53,6 +55,7 @@ public:
         titles.append(title);
         message = text;
     }
+    void notify(const QString &, const QString &) override {}
 };
 
 class FakeSounds : public Sounds

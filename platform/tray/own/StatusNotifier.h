@@ -19,6 +19,7 @@ public:
     ~StatusNotifier();
 
     void setImage(const QString &name);
+    void setToolTip(const QString &text);
     /// Asks the desktop's watcher to show it. Once for each watcher that appears.
     void registerWithWatcher() const;
     /// The watcher's bus name.

@@ -20,6 +20,7 @@ public:
     static bool isPossible();
 
     void setImage(const QString &name);
+    void setToolTip(const QString &text);
 
 private:
     class Private;
