@@ -75,10 +75,18 @@ bool KeptFiles::keepEntry(const QString &path, bool isFolder, bool isLink)
     }
     if (files().linkStatus(kept).exists())
         return true; // with what it lies in, or before that
-    FileManagerTools::createPath(PathComponents::folderOf(kept));
-    const bool isWhole = isLink ? files().copy(path, kept, &handler)
-                                : FileManagerTools::copyPath(path, kept, handler).isComplete();
+    // Under its name once it is whole: a run that is killed leaves no part of it there.
+    const QString part = PathComponents::folderOf(m_folder) + QStringLiteral("/.unfinished");
+    FileManagerTools::createPath(PathComponents::folderOf(part));
+    files().remove(part, nullptr);
+    bool isWhole = isLink ? files().copy(path, part, &handler)
+                          : FileManagerTools::copyPath(path, part, handler).isComplete();
+    if (isWhole) {
+        FileManagerTools::createPath(PathComponents::folderOf(kept));
+        isWhole = files().move(part, kept, &handler);
+        files().flush(kept);
+    }
     if (!isWhole)
-        files().remove(kept, nullptr);
+        files().remove(part, nullptr);
     return isWhole;
 }

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int startPauses = 5;
 constexpr auto startPause = std::chrono::seconds(1);
+constexpr qint64 reportInterval = 1000; // ms
 
 } // namespace
 
@@ -114,6 +115,15 @@ void SyncRun::write(const QString &path, const QByteArray &contents)
     const auto written = m_stick.write(path, contents);
     if (!written && !m_stick.isLostBy(written.error()))
         qCWarning(lcSync).noquote() << "Can't write" << path << ":" << written.error().text;
+}
+
+// What a run that is killed was known to have done by then.
+void SyncRun::reportNowAndThen()
+{
+    if (m_sinceReport.isValid() && !m_sinceReport.hasExpired(reportInterval))
+        return;
+    m_sinceReport.start();
+    m_host.reportProgress(m_report);
 }
 
 void SyncRun::ejectStick()

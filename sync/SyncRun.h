@@ -8,6 +8,7 @@
 #include "sync/StickEditor.h"
 #include "sync/SyncPlan.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QSet>
 #include <QStringList>
@@ -83,6 +84,7 @@ private:
     void writeLastSelection();
     QStringList indexOf(const KindPlan &kind) const;
     void write(const QString &path, const QByteArray &contents);
+    void reportNowAndThen();
 
     bool fileManagerCopiedBytes(quint64 bytes, const QString &toPath) override;
     bool fileManagerShouldProceedAfterError(const FileError &error) override;
@@ -100,4 +102,5 @@ private:
     QSet<QString> m_notKept; // destinations where something lies that can't go
     FileError m_lastError;   // of the item that is being placed
     RunReport m_report;
+    QElapsedTimer m_sinceReport;
 };

@@ -19,8 +19,10 @@ void SyncRun::cleanUp()
 
 void SyncRun::cleanUp(const KindPlan &kind, ItemPlacer *placer)
 {
-    for (const PlannedRemoval &removal : kind.removals)
+    for (const PlannedRemoval &removal : kind.removals) {
         removePlanned(removal);
+        reportNowAndThen();
+    }
     if (placer)
         placer->prune();
 }

@@ -51,6 +51,7 @@ void SyncRun::copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringLi
         index.append(StickFiles::relativeToVolume(planned.item.destination, m_stick.volume()));
     }
     m_host.syncModuleDidProcessItem(planned.item);
+    reportNowAndThen();
 }
 
 void SyncRun::record(const PlannedItem &planned, const CopyOutcome &outcome)

@@ -345,7 +345,8 @@ qsizetype Faults::expectSurvived(const QString &plan)
     begin();
     const Outcome outcome = run(plan);
     EXPECT_TRUE(outcome.exited) << where << '\n' << outcome.log.toStdString();
-    static const QRegularExpression end(QStringLiteral("Sync was c.*ed|could not be copied"));
+    static const QRegularExpression end(
+        QStringLiteral("Sync was c.*ed|could not be copied|sync was not started"));
     EXPECT_EQ(outcome.lines.filter(end).size(), m_what == u"sync" ? 1 : 0) << where;
     const qsizetype alerts = outcome.lines.filter(QStringLiteral("alert: ")).size();
     EXPECT_LE(alerts, 1) << where << outcome.lines.join(u'\n').toStdString();

@@ -24,8 +24,8 @@ public:
         helper.reset();
     }
 
-    /// One run, until the user hears that it has ended; whether it completed. The estimate that
-    /// follows may still run.
+    /// One run, until the user hears that it has ended, or won't begin; whether it completed. The
+    /// estimate that follows may still run.
     bool sync()
     {
         helper->logger().clear();
@@ -33,10 +33,11 @@ public:
             return helper->logger().log().contains(text);
         };
         helper->syncManager().sync();
-        while (!says(u"Sync was c") && !says(u"could not be copied."))
+        while (!says(u"Sync was c") && !says(u"could not be copied.") && !wasRefused())
             QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-        return !says(u"Sync was cancelled.");
+        return !says(u"Sync was cancelled.") && !wasRefused();
     }
+    bool wasRefused() const { return alerts.titles.contains(u"The sync was not started!"_s); }
 
     FakeStatusBar statusBar;
     FakeAlerts alerts;
