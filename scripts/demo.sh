@@ -234,7 +234,7 @@ plain_home() {
     run_caravel prefs photosSource 1
     run_caravel prefs bookmarkSource 5
     run_caravel list music
-    run_caravel select music Evening Band/First
+    run_caravel select music Evening Band/First/
     run_caravel select photos --all
     run_caravel select bookmarks "Bookmarks Bar/News"
     run_caravel sync

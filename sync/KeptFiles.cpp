@@ -83,8 +83,7 @@ bool KeptFiles::keepEntry(const QString &path, bool isFolder, bool isLink)
                           : FileManagerTools::copyPath(path, part, handler).isComplete();
     if (isWhole) {
         FileManagerTools::createPath(PathComponents::folderOf(kept));
-        isWhole = files().move(part, kept, &handler);
-        files().flush(kept);
+        isWhole = files().move(part, kept, &handler) && files().flush(kept);
     }
     if (!isWhole)
         files().remove(part, nullptr);
