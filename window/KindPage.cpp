@@ -1,18 +1,85 @@
 #include "window/KindPage.h"
 
+#include "frontend/Preferences.h"
+#include "window/ContactsBody.h"
+#include "window/MoviesBody.h"
+#include "window/SavesBody.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+PageBody *makeBody(HelperConnection *helper, const QString &kind)
+{
+    Preferences::begin();
+    if (kind == u"Contacts")
+        return new ContactsBody;
+    if (kind == u"Movies")
+        return new MoviesBody(helper);
+    if (kind == u"Backup")
+        return new SavesBody(helper);
+    return new ListBody(helper, kind);
+}
+
+QStringList filesIn(const QMimeData *data)
+{
+    QStringList paths;
+    for (const QUrl &url : data->urls()) {
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    }
+    return paths;
+}
+
+} // namespace
+
 KindPage::KindPage(HelperConnection *helper, const QString &kind, QWidget *parent)
     : QWidget(parent)
-    , m_helper(helper)
-    , m_kind(kind)
+    , m_body(makeBody(helper, kind))
 {
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_body);
+    setAcceptDrops(m_body->takesFiles());
+    connect(m_body, &PageBody::changed, this, &KindPage::selectionChanged);
 }
 
 void KindPage::reload()
 {
-    Q_EMIT selectionChanged();
+    m_body->reload();
 }
 
 QString KindPage::summary() const
 {
-    return {};
+    return m_body->summary();
+}
+
+void KindPage::focusSearch()
+{
+    m_body->focusSearch();
+}
+
+bool KindPage::takesFiles() const
+{
+    return m_body->takesFiles();
+}
+
+void KindPage::addFiles(const QStringList &paths)
+{
+    m_body->addFiles(paths);
+}
+
+void KindPage::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!filesIn(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void KindPage::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    addFiles(filesIn(event->mimeData()));
 }

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class HelperConnection;
+class PageBody;
 
 /// The page of one kind of media: what there is, and what of it is to be on the stick. Main thread.
 class KindPage : public QWidget
@@ -18,11 +19,21 @@ public:
     /// A short text for the side list, as "3 of 12"; empty while nothing is known.
     QString summary() const;
 
+    /// Puts the cursor into the search field, where there is one.
+    void focusSearch();
+
+    /// Whether files can be added to what there is. Those that are dropped on the page are.
+    bool takesFiles() const;
+    void addFiles(const QStringList &paths);
+
 Q_SIGNALS:
     /// What is to be synced, or what there is, has changed; summary() too.
     void selectionChanged();
 
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
 private:
-    HelperConnection *m_helper;
-    const QString m_kind;
+    PageBody *m_body;
 };

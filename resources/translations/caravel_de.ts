@@ -79,6 +79,734 @@
         <translation>Nie</translation>
     </message>
     <message>
+        <source>%@ found</source>
+        <translation>%@ gefunden</translation>
+    </message>
+    <message>
+        <source>%@ has nothing to choose from: %@</source>
+        <translation>%@ enthält nichts zum Auswählen: %@</translation>
+    </message>
+    <message>
+        <source>%@ movies have been removed.</source>
+        <translation>%@ Filme wurden entfernt.</translation>
+    </message>
+    <message>
+        <source>%@ of %@ selected</source>
+        <translation>%@ von %@ ausgewählt</translation>
+    </message>
+    <message>
+        <source>%@ of %@ shown</source>
+        <translation>%@ von %@ angezeigt</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ von %@</translation>
+    </message>
+    <message>
+        <source>2.00 or later</source>
+        <translation>2.00 oder neuer</translation>
+    </message>
+    <message>
+        <source>1.x</source>
+        <translation>1.x</translation>
+    </message>
+    <message>
+        <source>320 × 240</source>
+        <translation>320 × 240</translation>
+    </message>
+    <message>
+        <source>368 × 208</source>
+        <translation>368 × 208</translation>
+    </message>
+    <message>
+        <source>480 × 272 (the PSP&apos;s own)</source>
+        <translation>480 × 272 (wie die PSP)</translation>
+    </message>
+    <message>
+        <source>720 × 480 (for a TV)</source>
+        <translation>720 × 480 (für den Fernseher)</translation>
+    </message>
+    <message>
+        <source>A better one takes more room on the PSP.</source>
+        <translation>Eine bessere braucht mehr Platz auf der PSP.</translation>
+    </message>
+    <message>
+        <source>A selection of its own for each Memory Stick</source>
+        <translation>Eine eigene Auswahl für jeden Memory Stick</translation>
+    </message>
+    <message>
+        <source>Add Movies</source>
+        <translation>Filme hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Movies...</source>
+        <translation>Filme hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Albums come from</source>
+        <translation>Alben kommen aus</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Also after a movie has been converted.</source>
+        <translation>Auch nachdem ein Film umgewandelt wurde.</translation>
+    </message>
+    <message>
+        <source>Another: %@</source>
+        <translation>Andere: %@</translation>
+    </message>
+    <message>
+        <source>Artist and album</source>
+        <translation>Interpret und Album</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Interpret</translation>
+    </message>
+    <message>
+        <source>Backups of %@</source>
+        <translation>Sicherungen von %@</translation>
+    </message>
+    <message>
+        <source>Backups of each game save</source>
+        <translation>Sicherungen je Spielstand</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Am besten</translation>
+    </message>
+    <message>
+        <source>Bookmarks come from</source>
+        <translation>Lesezeichen kommen aus</translation>
+    </message>
+    <message>
+        <source>Caravel waits for the PSP as long as you are logged in, and shows its icon in the tray.</source>
+        <translation>Caravel wartet auf die PSP, solange Sie angemeldet sind, und zeigt sein Symbol in der Leiste.</translation>
+    </message>
+    <message>
+        <source>Checks all that is shown.</source>
+        <translation>Wählt alles aus, was angezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin</source>
+        <translation>Chromium und Verwandte</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Contacts and Saves</source>
+        <translation>Kontakte und Spielstände</translation>
+    </message>
+    <message>
+        <source>Converts files to what the PSP plays.</source>
+        <translation>Wandelt Dateien in das um, was die PSP abspielt.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Default: %@</source>
+        <translation>Voreinstellung: %@</translation>
+    </message>
+    <message>
+        <source>Deinterlace</source>
+        <translation>Zeilensprung entfernen</translation>
+    </message>
+    <message>
+        <source>Delete All...</source>
+        <translation>Alle löschen …</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>Löschen …</translation>
+    </message>
+    <message>
+        <source>Disc and track</source>
+        <translation>CD- und Titelnummer</translation>
+    </message>
+    <message>
+        <source>Each file is named. Useful where something doesn&apos;t work.</source>
+        <translation>Jede Datei wird genannt. Nützlich, wenn etwas nicht klappt.</translation>
+    </message>
+    <message>
+        <source>Each source has a selection of its own.</source>
+        <translation>Jede Quelle hat ihre eigene Auswahl.</translation>
+    </message>
+    <message>
+        <source>Each sync copies the game saves that have changed to this computer.</source>
+        <translation>Jede Synchronisierung kopiert die geänderten Spielstände auf diesen Computer.</translation>
+    </message>
+    <message>
+        <source>Edits the name of the selected movie.</source>
+        <translation>Ändert den Namen des ausgewählten Films.</translation>
+    </message>
+    <message>
+        <source>Eject the PSP after a sync</source>
+        <translation>Die PSP nach der Synchronisierung auswerfen</translation>
+    </message>
+    <message>
+        <source>Empties the log for good.</source>
+        <translation>Leert das Protokoll endgültig.</translation>
+    </message>
+    <message>
+        <source>Everybody in this computer&apos;s address book is put on one page, with a small picture where there is one. It is made anew at each sync, and only where something has changed it is written.
+
+The PSP shows the page in its browser: with bookmarks synced, one of them leads there. System software 2.00 or later is needed.</source>
+        <translation>Alle aus dem Adressbuch dieses Computers kommen auf eine Seite, mit einem kleinen Bild, wo es eines gibt. Sie wird bei jeder Synchronisierung neu erstellt und nur geschrieben, wenn sich etwas geändert hat.
+
+Die PSP zeigt die Seite in ihrem Browser: Werden Lesezeichen synchronisiert, führt eines dorthin. Dafür ist die Systemsoftware 2.00 oder neuer nötig.</translation>
+    </message>
+    <message>
+        <source>Fair</source>
+        <translation>Mäßig</translation>
+    </message>
+    <message>
+        <source>Files that something else has put there go too. Otherwise only files that an earlier sync has placed are removed.</source>
+        <translation>Auch was etwas anderes dort abgelegt hat, geht. Sonst werden nur Dateien entfernt, die eine frühere Synchronisierung abgelegt hat.</translation>
+    </message>
+    <message>
+        <source>Firefox (page)</source>
+        <translation>Firefox (Seite)</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Folders and playlists</source>
+        <translation>Ordner und Wiedergabelisten</translation>
+    </message>
+    <message>
+        <source>Folders of music on the PSP</source>
+        <translation>Musikordner auf der PSP</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Folgen</translation>
+    </message>
+    <message>
+        <source>For movies that are added from now on. The two large sizes need system software 3.30 or later.</source>
+        <translation>Für Filme, die ab jetzt hinzugefügt werden. Die beiden großen brauchen die Systemsoftware 3.30 oder neuer.</translation>
+    </message>
+    <message>
+        <source>For recordings of television that show combs where things move.</source>
+        <translation>Für Fernsehaufnahmen, die bei Bewegungen Kämme zeigen.</translation>
+    </message>
+    <message>
+        <source>Game save</source>
+        <translation>Spielstand</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message>
+        <source>It is kept on the stick. Such a stick is never synced as soon as it is connected.</source>
+        <translation>Sie liegt auf dem Stick. Ein solcher Stick wird nie gleich beim Verbinden synchronisiert.</translation>
+    </message>
+    <message>
+        <source>It is no longer in this list then. The PSP&apos;s own game save stays as it is.</source>
+        <translation>Sie steht danach nicht mehr in dieser Liste. Der Spielstand auf der PSP bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>It lies in “Removed from PSP” in the folder “Caravel”.</source>
+        <translation>Sie liegt in „Removed from PSP“ im Ordner „Caravel“.</translation>
+    </message>
+    <message>
+        <source>Keep a copy of removed files that no sync has placed</source>
+        <translation>Von entfernten Dateien, die keine Synchronisierung abgelegt hat, eine Kopie behalten</translation>
+    </message>
+    <message>
+        <source>Keep game saves</source>
+        <translation>Spielstände sichern</translation>
+    </message>
+    <message>
+        <source>Keeps the newest line in sight.</source>
+        <translation>Hält die neueste Zeile im Blick.</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Gesichert am</translation>
+    </message>
+    <message>
+        <source>Last kept</source>
+        <translation>Zuletzt gesichert</translation>
+    </message>
+    <message>
+        <source>Least</source>
+        <translation>Am geringsten</translation>
+    </message>
+    <message>
+        <source>Least, at half the frames</source>
+        <translation>Am geringsten, mit halb so vielen Bildern</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Wird geladen …</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Move all backups of “%@” to the Trash (%@)?</source>
+        <translation>Alle Sicherungen von „%@“ in den Papierkorb legen (%@)?</translation>
+    </message>
+    <message>
+        <source>Move the backup of “%@” from %@ to the Trash?</source>
+        <translation>Die Sicherung von „%@“ vom %@ in den Papierkorb legen?</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Moves all backups of the game save to the Trash.</source>
+        <translation>Legt alle Sicherungen des Spielstands in den Papierkorb.</translation>
+    </message>
+    <message>
+        <source>Moves the selected backup to the Trash.</source>
+        <translation>Legt die ausgewählte Sicherung in den Papierkorb.</translation>
+    </message>
+    <message>
+        <source>Moves the selected movies to the Trash, or takes them out of the conversion.</source>
+        <translation>Legt die ausgewählten Filme in den Papierkorb oder nimmt sie aus der Umwandlung.</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Music, photos and movies in the folder “Dropboxes” come along without being selected.</source>
+        <translation>Musik, Fotos und Filme im Ordner „Dropboxes“ kommen mit, ohne ausgewählt zu sein.</translation>
+    </message>
+    <message>
+        <source>Names of photos begin with</source>
+        <translation>Namen der Fotos beginnen mit</translation>
+    </message>
+    <message>
+        <source>Names of songs begin with</source>
+        <translation>Namen der Titel beginnen mit</translation>
+    </message>
+    <message>
+        <source>Newer on the PSP than what is kept</source>
+        <translation>Auf der PSP neuer als gesichert</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>No game save is kept yet. They are copied from the PSP at each sync.</source>
+        <translation>Noch ist kein Spielstand gesichert. Sie werden bei jeder Synchronisierung von der PSP kopiert.</translation>
+    </message>
+    <message>
+        <source>Not everything could be put back. Look for it in the Trash.</source>
+        <translation>Nicht alles konnte zurückgelegt werden. Sehen Sie im Papierkorb nach.</translation>
+    </message>
+    <message>
+        <source>Nothing else was found on this computer.</source>
+        <translation>Sonst wurde auf diesem Computer nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Nothing of %@ was found on this computer. It would lie here: %@</source>
+        <translation>Von %@ wurde auf diesem Computer nichts gefunden. Es läge hier: %@</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Of the game save that is selected above.</source>
+        <translation>Des Spielstands, der oben ausgewählt ist.</translation>
+    </message>
+    <message>
+        <source>Of the movie&apos;s own. More than 100 % makes it louder.</source>
+        <translation>Von der des Films. Mehr als 100 % macht ihn lauter.</translation>
+    </message>
+    <message>
+        <source>Older ones are removed.</source>
+        <translation>Ältere werden entfernt.</translation>
+    </message>
+    <message>
+        <source>On the PSP, not kept yet</source>
+        <translation>Auf der PSP, noch nicht gesichert</translation>
+    </message>
+    <message>
+        <source>Only Memory Sticks that have been synced before.</source>
+        <translation>Nur Memory Sticks, die schon einmal synchronisiert wurden.</translation>
+    </message>
+    <message>
+        <source>Only when the sync was completed.</source>
+        <translation>Nur wenn die Synchronisierung vollständig war.</translation>
+    </message>
+    <message>
+        <source>Open this window when a PSP is connected</source>
+        <translation>Dieses Fenster öffnen, wenn eine PSP verbunden wird</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
+        <translation>Sonst lässt eine Synchronisierung die Filme der PSP, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
+        <translation>Sonst lässt eine Synchronisierung die Musik der PSP, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
+        <translation>Sonst lässt eine Synchronisierung die Fotos der PSP, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>
+        <translation>Sonst lässt eine Synchronisierung die Lesezeichen des PSP-Browsers, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Otherwise only the icon in the tray tells of it.</source>
+        <translation>Sonst zeigt es nur das Symbol in der Leiste.</translation>
+    </message>
+    <message>
+        <source>Place of Caravel&apos;s folder</source>
+        <translation>Ort des Ordners von Caravel</translation>
+    </message>
+    <message>
+        <source>Play a sound after a sync</source>
+        <translation>Nach der Synchronisierung einen Ton abspielen</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Wiedergabeliste</translation>
+    </message>
+    <message>
+        <source>Playlists come from</source>
+        <translation>Wiedergabelisten kommen aus</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Profile of the browser</source>
+        <translation>Profil des Browsers</translation>
+    </message>
+    <message>
+        <source>Put the backup of “%@” from %@ back on the PSP?</source>
+        <translation>Die Sicherung von „%@“ vom %@ auf die PSP zurücklegen?</translation>
+    </message>
+    <message>
+        <source>Puts the selected backup back on the PSP.</source>
+        <translation>Legt die ausgewählte Sicherung auf die PSP zurück.</translation>
+    </message>
+    <message>
+        <source>Quality of the picture</source>
+        <translation>Bildqualität</translation>
+    </message>
+    <message>
+        <source>Quality of the sound</source>
+        <translation>Tonqualität</translation>
+    </message>
+    <message>
+        <source>Remove what is not selected from the media folders</source>
+        <translation>Aus den Medienordnern entfernen, was nicht ausgewählt ist</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore...</source>
+        <translation>Wiederherstellen …</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Keine auswählen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Shows what holds these words. What is out of sight stays as it is.</source>
+        <translation>Zeigt, was diese Wörter enthält. Was nicht zu sehen ist, bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Songs</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Such a stick has to be formatted by the PSP before it can be synced.</source>
+        <translation>Ein solcher Stick muss von der PSP formatiert werden, bevor er synchronisiert werden kann.</translation>
+    </message>
+    <message>
+        <source>Sync as soon as a PSP is connected</source>
+        <translation>Synchronisieren, sobald eine PSP verbunden wird</translation>
+    </message>
+    <message>
+        <source>Sync bookmarks</source>
+        <translation>Lesezeichen synchronisieren</translation>
+    </message>
+    <message>
+        <source>Sync contacts</source>
+        <translation>Kontakte synchronisieren</translation>
+    </message>
+    <message>
+        <source>Sync movies</source>
+        <translation>Filme synchronisieren</translation>
+    </message>
+    <message>
+        <source>Sync music</source>
+        <translation>Musik synchronisieren</translation>
+    </message>
+    <message>
+        <source>Sync photos</source>
+        <translation>Fotos synchronisieren</translation>
+    </message>
+    <message>
+        <source>Sync the dropboxes</source>
+        <translation>Die Dropboxen synchronisieren</translation>
+    </message>
+    <message>
+        <source>Syncing</source>
+        <translation>Synchronisierung</translation>
+    </message>
+    <message>
+        <source>System software of the PSP</source>
+        <translation>Systemsoftware der PSP</translation>
+    </message>
+    <message>
+        <source>Take %@ (%@)</source>
+        <translation>%@ nehmen (%@)</translation>
+    </message>
+    <message>
+        <source>Take %@</source>
+        <translation>%@ nehmen</translation>
+    </message>
+    <message>
+        <source>Tell about Memory Sticks without the PSP&apos;s folders</source>
+        <translation>Auf Memory Sticks ohne die Ordner der PSP hinweisen</translation>
+    </message>
+    <message>
+        <source>The PSP plays the songs of a folder in the order of their names.</source>
+        <translation>Die PSP spielt die Titel eines Ordners in der Reihenfolge ihrer Namen.</translation>
+    </message>
+    <message>
+        <source>The PSP shows the photos of a folder in the order of their names.</source>
+        <translation>Die PSP zeigt die Fotos eines Ordners in der Reihenfolge ihrer Namen.</translation>
+    </message>
+    <message>
+        <source>The conversion failed</source>
+        <translation>Die Umwandlung ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The first one plays only MP3 music, shows only JPEG photos, and has no browser for bookmarks and contacts.</source>
+        <translation>Die erste spielt nur MP3-Musik, zeigt nur JPEG-Fotos und hat keinen Browser für Lesezeichen und Kontakte.</translation>
+    </message>
+    <message>
+        <source>The folder “Caravel” there holds converted movies, game saves and the dropboxes. What the old place holds is not moved.</source>
+        <translation>Der Ordner „Caravel“ dort enthält umgewandelte Filme, Spielstände und die Dropboxen. Was am alten Ort liegt, wird nicht bewegt.</translation>
+    </message>
+    <message>
+        <source>The game save has not been put back.</source>
+        <translation>Der Spielstand wurde nicht zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>The game save is being put back on the PSP...</source>
+        <translation>Der Spielstand wird auf die PSP zurückgelegt …</translation>
+    </message>
+    <message>
+        <source>The game save is on the PSP.</source>
+        <translation>Der Spielstand ist auf der PSP.</translation>
+    </message>
+    <message>
+        <source>The game save that is on the PSP now is kept as the newest backup, and then replaced.</source>
+        <translation>Der Spielstand, der jetzt auf der PSP ist, wird als neueste Sicherung behalten und dann ersetzt.</translation>
+    </message>
+    <message>
+        <source>The helper has given no answer.</source>
+        <translation>Das Hilfsprogramm hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>The helper has not taken the selection as it was made. What is shown now is what it has.</source>
+        <translation>Das Hilfsprogramm hat die Auswahl nicht so übernommen. Angezeigt wird jetzt, was es hat.</translation>
+    </message>
+    <message>
+        <source>The last 10</source>
+        <translation>Die letzten 10</translation>
+    </message>
+    <message>
+        <source>The last 25</source>
+        <translation>Die letzten 25</translation>
+    </message>
+    <message>
+        <source>The last 50</source>
+        <translation>Die letzten 50</translation>
+    </message>
+    <message>
+        <source>The movies could not be added.</source>
+        <translation>Die Filme konnten nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>The name or the folder of a profile of Firefox or Chromium. Left empty, the first one is taken.</source>
+        <translation>Der Name oder der Ordner eines Profils von Firefox oder Chromium. Leer gelassen, gilt das erste.</translation>
+    </message>
+    <message>
+        <source>The position in the album</source>
+        <translation>Die Stelle im Album</translation>
+    </message>
+    <message>
+        <source>The position in the playlist</source>
+        <translation>Die Stelle in der Wiedergabeliste</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be written.</source>
+        <translation>Die Einstellungen können nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The selected lines, or all of them.</source>
+        <translation>Die ausgewählten Zeilen oder alle.</translation>
+    </message>
+    <message>
+        <source>The source that is chosen in the settings is unknown.</source>
+        <translation>Die Quelle, die in den Einstellungen gewählt ist, ist unbekannt.</translation>
+    </message>
+    <message>
+        <source>The whole address book, as a page for the PSP&apos;s browser.</source>
+        <translation>Das ganze Adressbuch, als Seite für den Browser der PSP.</translation>
+    </message>
+    <message>
+        <source>There is no movie yet. Add one with the button, or drop its file here: it is converted to what the PSP plays.</source>
+        <translation>Noch gibt es keinen Film. Fügen Sie mit der Taste einen hinzu oder ziehen Sie seine Datei hierher: Er wird in das umgewandelt, was die PSP abspielt.</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be a movie&apos;s name: %@</source>
+        <translation>So kann ein Film nicht heißen: %@</translation>
+    </message>
+    <message>
+        <source>This must be a full path, or one that begins with &quot;~/&quot;.</source>
+        <translation>Dies muss ein vollständiger Pfad sein oder einer, der mit „~/“ beginnt.</translation>
+    </message>
+    <message>
+        <source>Those of the page that is shown.</source>
+        <translation>Die der angezeigten Seite.</translation>
+    </message>
+    <message>
+        <source>Unchecks all that is shown.</source>
+        <translation>Wählt alles ab, was angezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>Waits for its conversion</source>
+        <translation>Wartet auf seine Umwandlung</translation>
+    </message>
+    <message>
+        <source>What %@ has written can&apos;t be read; it may be damaged: %@</source>
+        <translation>Was %@ geschrieben hat, kann nicht gelesen werden und ist vielleicht beschädigt: %@</translation>
+    </message>
+    <message>
+        <source>What the songs of one folder have in common.</source>
+        <translation>Was die Titel eines Ordners gemeinsam haben.</translation>
+    </message>
+    <message>
+        <source>Write a detailed log</source>
+        <translation>Ein ausführliches Protokoll schreiben</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>selected and out of sight: %@</source>
+        <translation>ausgewählt und nicht zu sehen: %@</translation>
+    </message>
+    <message>
+        <source>“%@” has been moved to the Trash.</source>
+        <translation>„%@“ wurde in den Papierkorb gelegt.</translation>
+    </message>
+    <message>
+        <source>“%@” has been taken out of the conversion.</source>
+        <translation>„%@“ wurde aus der Umwandlung genommen.</translation>
+    </message>
+    <message>
+        <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
+        <translation>„Firefox (Seite)“ ist ein alter, der seine Lesezeichen in einer Seite aufbewahrt.</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>heute</translation>

@@ -79,6 +79,734 @@
         <translation>Nunca</translation>
     </message>
     <message>
+        <source>%@ found</source>
+        <translation>%@ encontrados</translation>
+    </message>
+    <message>
+        <source>%@ has nothing to choose from: %@</source>
+        <translation>%@ no contiene nada que elegir: %@</translation>
+    </message>
+    <message>
+        <source>%@ movies have been removed.</source>
+        <translation>Se han eliminado %@ películas.</translation>
+    </message>
+    <message>
+        <source>%@ of %@ selected</source>
+        <translation>%@ de %@ seleccionados</translation>
+    </message>
+    <message>
+        <source>%@ of %@ shown</source>
+        <translation>%@ de %@ visibles</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ de %@</translation>
+    </message>
+    <message>
+        <source>2.00 or later</source>
+        <translation>2.00 o posterior</translation>
+    </message>
+    <message>
+        <source>1.x</source>
+        <translation>1.x</translation>
+    </message>
+    <message>
+        <source>320 × 240</source>
+        <translation>320 × 240</translation>
+    </message>
+    <message>
+        <source>368 × 208</source>
+        <translation>368 × 208</translation>
+    </message>
+    <message>
+        <source>480 × 272 (the PSP&apos;s own)</source>
+        <translation>480 × 272 (la de la PSP)</translation>
+    </message>
+    <message>
+        <source>720 × 480 (for a TV)</source>
+        <translation>720 × 480 (para un televisor)</translation>
+    </message>
+    <message>
+        <source>A better one takes more room on the PSP.</source>
+        <translation>Una mejor ocupa más espacio en la PSP.</translation>
+    </message>
+    <message>
+        <source>A selection of its own for each Memory Stick</source>
+        <translation>Una selección propia para cada Memory Stick</translation>
+    </message>
+    <message>
+        <source>Add Movies</source>
+        <translation>Añadir películas</translation>
+    </message>
+    <message>
+        <source>Add Movies...</source>
+        <translation>Añadir películas…</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Albums come from</source>
+        <translation>Los álbumes proceden de</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Also after a movie has been converted.</source>
+        <translation>También después de convertir una película.</translation>
+    </message>
+    <message>
+        <source>Another: %@</source>
+        <translation>Otro: %@</translation>
+    </message>
+    <message>
+        <source>Artist and album</source>
+        <translation>Artista y álbum</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Backups of %@</source>
+        <translation>Copias de %@</translation>
+    </message>
+    <message>
+        <source>Backups of each game save</source>
+        <translation>Copias de cada partida</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>La mejor</translation>
+    </message>
+    <message>
+        <source>Bookmarks come from</source>
+        <translation>Los marcadores proceden de</translation>
+    </message>
+    <message>
+        <source>Caravel waits for the PSP as long as you are logged in, and shows its icon in the tray.</source>
+        <translation>Caravel espera la PSP mientras dure su sesión y muestra su icono en la bandeja.</translation>
+    </message>
+    <message>
+        <source>Checks all that is shown.</source>
+        <translation>Marca todo lo que se muestra.</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin</source>
+        <translation>Chromium y afines</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Contacts and Saves</source>
+        <translation>Contactos y partidas</translation>
+    </message>
+    <message>
+        <source>Converts files to what the PSP plays.</source>
+        <translation>Convierte archivos a lo que reproduce la PSP.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Default: %@</source>
+        <translation>Predeterminado: %@</translation>
+    </message>
+    <message>
+        <source>Deinterlace</source>
+        <translation>Desentrelazar</translation>
+    </message>
+    <message>
+        <source>Delete All...</source>
+        <translation>Eliminar todas…</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>Eliminar…</translation>
+    </message>
+    <message>
+        <source>Disc and track</source>
+        <translation>El disco y la pista</translation>
+    </message>
+    <message>
+        <source>Each file is named. Useful where something doesn&apos;t work.</source>
+        <translation>Se nombra cada archivo. Útil cuando algo no funciona.</translation>
+    </message>
+    <message>
+        <source>Each source has a selection of its own.</source>
+        <translation>Cada origen tiene su propia selección.</translation>
+    </message>
+    <message>
+        <source>Each sync copies the game saves that have changed to this computer.</source>
+        <translation>Cada sincronización copia a este equipo las partidas que han cambiado.</translation>
+    </message>
+    <message>
+        <source>Edits the name of the selected movie.</source>
+        <translation>Edita el nombre de la película seleccionada.</translation>
+    </message>
+    <message>
+        <source>Eject the PSP after a sync</source>
+        <translation>Expulsar la PSP después de sincronizar</translation>
+    </message>
+    <message>
+        <source>Empties the log for good.</source>
+        <translation>Vacía el registro definitivamente.</translation>
+    </message>
+    <message>
+        <source>Everybody in this computer&apos;s address book is put on one page, with a small picture where there is one. It is made anew at each sync, and only where something has changed it is written.
+
+The PSP shows the page in its browser: with bookmarks synced, one of them leads there. System software 2.00 or later is needed.</source>
+        <translation>Todas las personas de la agenda de este equipo figuran en una página, con una pequeña imagen cuando la hay. Se hace de nuevo en cada sincronización y solo se escribe si algo ha cambiado.
+
+La PSP muestra la página en su navegador: si se sincronizan los marcadores, uno de ellos lleva a ella. Se necesita el software del sistema 2.00 o posterior.</translation>
+    </message>
+    <message>
+        <source>Fair</source>
+        <translation>Aceptable</translation>
+    </message>
+    <message>
+        <source>Files that something else has put there go too. Otherwise only files that an earlier sync has placed are removed.</source>
+        <translation>También se van los archivos que otra cosa haya puesto ahí. Si no, solo se eliminan los que colocó una sincronización anterior.</translation>
+    </message>
+    <message>
+        <source>Firefox (page)</source>
+        <translation>Firefox (página)</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Folders and playlists</source>
+        <translation>Carpetas y listas de reproducción</translation>
+    </message>
+    <message>
+        <source>Folders of music on the PSP</source>
+        <translation>Carpetas de música en la PSP</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
+        <source>For movies that are added from now on. The two large sizes need system software 3.30 or later.</source>
+        <translation>Para las películas que se añadan desde ahora. Los dos tamaños grandes necesitan el software del sistema 3.30 o posterior.</translation>
+    </message>
+    <message>
+        <source>For recordings of television that show combs where things move.</source>
+        <translation>Para grabaciones de televisión que muestran peines donde algo se mueve.</translation>
+    </message>
+    <message>
+        <source>Game save</source>
+        <translation>Partida</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Juego</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Buena</translation>
+    </message>
+    <message>
+        <source>It is kept on the stick. Such a stick is never synced as soon as it is connected.</source>
+        <translation>Se guarda en el stick. Un stick así nunca se sincroniza en cuanto se conecta.</translation>
+    </message>
+    <message>
+        <source>It is no longer in this list then. The PSP&apos;s own game save stays as it is.</source>
+        <translation>Después ya no está en esta lista. La partida que está en la PSP queda como está.</translation>
+    </message>
+    <message>
+        <source>It lies in “Removed from PSP” in the folder “Caravel”.</source>
+        <translation>Está en «Removed from PSP», en la carpeta «Caravel».</translation>
+    </message>
+    <message>
+        <source>Keep a copy of removed files that no sync has placed</source>
+        <translation>Conservar una copia de los archivos eliminados que ninguna sincronización colocó</translation>
+    </message>
+    <message>
+        <source>Keep game saves</source>
+        <translation>Conservar las partidas guardadas</translation>
+    </message>
+    <message>
+        <source>Keeps the newest line in sight.</source>
+        <translation>Mantiene a la vista la línea más reciente.</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Conservada el</translation>
+    </message>
+    <message>
+        <source>Last kept</source>
+        <translation>Última copia</translation>
+    </message>
+    <message>
+        <source>Least</source>
+        <translation>La menor</translation>
+    </message>
+    <message>
+        <source>Least, at half the frames</source>
+        <translation>La menor, con la mitad de los fotogramas</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Cargando…</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Move all backups of “%@” to the Trash (%@)?</source>
+        <translation>¿Mover a la papelera todas las copias de «%@» (%@)?</translation>
+    </message>
+    <message>
+        <source>Move the backup of “%@” from %@ to the Trash?</source>
+        <translation>¿Mover a la papelera la copia de «%@» del %@?</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Mover a la papelera</translation>
+    </message>
+    <message>
+        <source>Moves all backups of the game save to the Trash.</source>
+        <translation>Mueve a la papelera todas las copias de la partida.</translation>
+    </message>
+    <message>
+        <source>Moves the selected backup to the Trash.</source>
+        <translation>Mueve a la papelera la copia seleccionada.</translation>
+    </message>
+    <message>
+        <source>Moves the selected movies to the Trash, or takes them out of the conversion.</source>
+        <translation>Mueve a la papelera las películas seleccionadas, o las quita de la conversión.</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Película</translation>
+    </message>
+    <message>
+        <source>Music, photos and movies in the folder “Dropboxes” come along without being selected.</source>
+        <translation>La música, las fotos y las películas de la carpeta «Dropboxes» van también sin seleccionarlas.</translation>
+    </message>
+    <message>
+        <source>Names of photos begin with</source>
+        <translation>Los nombres de las fotos empiezan por</translation>
+    </message>
+    <message>
+        <source>Names of songs begin with</source>
+        <translation>Los nombres de las canciones empiezan por</translation>
+    </message>
+    <message>
+        <source>Newer on the PSP than what is kept</source>
+        <translation>Más reciente en la PSP que la copia</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>No game save is kept yet. They are copied from the PSP at each sync.</source>
+        <translation>Aún no se conserva ninguna partida. Se copian de la PSP en cada sincronización.</translation>
+    </message>
+    <message>
+        <source>Not everything could be put back. Look for it in the Trash.</source>
+        <translation>No se pudo devolver todo a su sitio. Búsquelo en la papelera.</translation>
+    </message>
+    <message>
+        <source>Nothing else was found on this computer.</source>
+        <translation>No se encontró nada más en este equipo.</translation>
+    </message>
+    <message>
+        <source>Nothing of %@ was found on this computer. It would lie here: %@</source>
+        <translation>No se encontró nada de %@ en este equipo. Estaría aquí: %@</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>Of the game save that is selected above.</source>
+        <translation>De la partida seleccionada arriba.</translation>
+    </message>
+    <message>
+        <source>Of the movie&apos;s own. More than 100 % makes it louder.</source>
+        <translation>Respecto al de la película. Más de 100 % lo sube.</translation>
+    </message>
+    <message>
+        <source>Older ones are removed.</source>
+        <translation>Las más antiguas se eliminan.</translation>
+    </message>
+    <message>
+        <source>On the PSP, not kept yet</source>
+        <translation>En la PSP, aún sin copia</translation>
+    </message>
+    <message>
+        <source>Only Memory Sticks that have been synced before.</source>
+        <translation>Solo los Memory Stick que ya se han sincronizado antes.</translation>
+    </message>
+    <message>
+        <source>Only when the sync was completed.</source>
+        <translation>Solo si la sincronización se completó.</translation>
+    </message>
+    <message>
+        <source>Open this window when a PSP is connected</source>
+        <translation>Abrir esta ventana al conectar una PSP</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
+        <translation>Si no, una sincronización deja las películas de la PSP como están.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
+        <translation>Si no, una sincronización deja la música de la PSP como está.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
+        <translation>Si no, una sincronización deja las fotos de la PSP como están.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>
+        <translation>Si no, una sincronización deja los marcadores del navegador de la PSP como están.</translation>
+    </message>
+    <message>
+        <source>Otherwise only the icon in the tray tells of it.</source>
+        <translation>Si no, solo lo indica el icono de la bandeja.</translation>
+    </message>
+    <message>
+        <source>Place of Caravel&apos;s folder</source>
+        <translation>Lugar de la carpeta de Caravel</translation>
+    </message>
+    <message>
+        <source>Play a sound after a sync</source>
+        <translation>Reproducir un sonido después de sincronizar</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Lista de reproducción</translation>
+    </message>
+    <message>
+        <source>Playlists come from</source>
+        <translation>Las listas de reproducción proceden de</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Profile of the browser</source>
+        <translation>Perfil del navegador</translation>
+    </message>
+    <message>
+        <source>Put the backup of “%@” from %@ back on the PSP?</source>
+        <translation>¿Devolver a la PSP la copia de «%@» del %@?</translation>
+    </message>
+    <message>
+        <source>Puts the selected backup back on the PSP.</source>
+        <translation>Devuelve a la PSP la copia seleccionada.</translation>
+    </message>
+    <message>
+        <source>Quality of the picture</source>
+        <translation>Calidad de la imagen</translation>
+    </message>
+    <message>
+        <source>Quality of the sound</source>
+        <translation>Calidad del sonido</translation>
+    </message>
+    <message>
+        <source>Remove what is not selected from the media folders</source>
+        <translation>Eliminar de las carpetas de medios lo que no está seleccionado</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Restore...</source>
+        <translation>Restaurar…</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>No seleccionar nada</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Shows what holds these words. What is out of sight stays as it is.</source>
+        <translation>Muestra lo que contiene estas palabras. Lo que no se ve queda como está.</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Tamaño de la imagen</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Songs</source>
+        <translation>Canciones</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Iniciar con la sesión</translation>
+    </message>
+    <message>
+        <source>Such a stick has to be formatted by the PSP before it can be synced.</source>
+        <translation>Un stick así debe formatearlo la PSP antes de poder sincronizarlo.</translation>
+    </message>
+    <message>
+        <source>Sync as soon as a PSP is connected</source>
+        <translation>Sincronizar en cuanto se conecte una PSP</translation>
+    </message>
+    <message>
+        <source>Sync bookmarks</source>
+        <translation>Sincronizar los marcadores</translation>
+    </message>
+    <message>
+        <source>Sync contacts</source>
+        <translation>Sincronizar los contactos</translation>
+    </message>
+    <message>
+        <source>Sync movies</source>
+        <translation>Sincronizar las películas</translation>
+    </message>
+    <message>
+        <source>Sync music</source>
+        <translation>Sincronizar la música</translation>
+    </message>
+    <message>
+        <source>Sync photos</source>
+        <translation>Sincronizar las fotos</translation>
+    </message>
+    <message>
+        <source>Sync the dropboxes</source>
+        <translation>Sincronizar las carpetas de entrega</translation>
+    </message>
+    <message>
+        <source>Syncing</source>
+        <translation>Sincronización</translation>
+    </message>
+    <message>
+        <source>System software of the PSP</source>
+        <translation>Software del sistema de la PSP</translation>
+    </message>
+    <message>
+        <source>Take %@ (%@)</source>
+        <translation>Usar %@ (%@)</translation>
+    </message>
+    <message>
+        <source>Take %@</source>
+        <translation>Usar %@</translation>
+    </message>
+    <message>
+        <source>Tell about Memory Sticks without the PSP&apos;s folders</source>
+        <translation>Avisar de los Memory Stick sin las carpetas de la PSP</translation>
+    </message>
+    <message>
+        <source>The PSP plays the songs of a folder in the order of their names.</source>
+        <translation>La PSP reproduce las canciones de una carpeta por orden de nombre.</translation>
+    </message>
+    <message>
+        <source>The PSP shows the photos of a folder in the order of their names.</source>
+        <translation>La PSP muestra las fotos de una carpeta por orden de nombre.</translation>
+    </message>
+    <message>
+        <source>The conversion failed</source>
+        <translation>La conversión ha fallado</translation>
+    </message>
+    <message>
+        <source>The first one plays only MP3 music, shows only JPEG photos, and has no browser for bookmarks and contacts.</source>
+        <translation>El primero solo reproduce música MP3, solo muestra fotos JPEG y no tiene navegador para marcadores y contactos.</translation>
+    </message>
+    <message>
+        <source>The folder “Caravel” there holds converted movies, game saves and the dropboxes. What the old place holds is not moved.</source>
+        <translation>La carpeta «Caravel» contiene ahí las películas convertidas, las partidas y las carpetas de entrega. Lo que hay en el lugar anterior no se mueve.</translation>
+    </message>
+    <message>
+        <source>The game save has not been put back.</source>
+        <translation>La partida no se ha devuelto.</translation>
+    </message>
+    <message>
+        <source>The game save is being put back on the PSP...</source>
+        <translation>Devolviendo la partida a la PSP…</translation>
+    </message>
+    <message>
+        <source>The game save is on the PSP.</source>
+        <translation>La partida está en la PSP.</translation>
+    </message>
+    <message>
+        <source>The game save that is on the PSP now is kept as the newest backup, and then replaced.</source>
+        <translation>La partida que ahora está en la PSP se conserva como la copia más reciente y después se sustituye.</translation>
+    </message>
+    <message>
+        <source>The helper has given no answer.</source>
+        <translation>El programa auxiliar no ha respondido.</translation>
+    </message>
+    <message>
+        <source>The helper has not taken the selection as it was made. What is shown now is what it has.</source>
+        <translation>El programa auxiliar no ha tomado la selección tal como se hizo. Lo que se muestra ahora es lo que tiene.</translation>
+    </message>
+    <message>
+        <source>The last 10</source>
+        <translation>Las 10 últimas</translation>
+    </message>
+    <message>
+        <source>The last 25</source>
+        <translation>Las 25 últimas</translation>
+    </message>
+    <message>
+        <source>The last 50</source>
+        <translation>Las 50 últimas</translation>
+    </message>
+    <message>
+        <source>The movies could not be added.</source>
+        <translation>No se pudieron añadir las películas.</translation>
+    </message>
+    <message>
+        <source>The name or the folder of a profile of Firefox or Chromium. Left empty, the first one is taken.</source>
+        <translation>El nombre o la carpeta de un perfil de Firefox o Chromium. Si se deja vacío, se toma el primero.</translation>
+    </message>
+    <message>
+        <source>The position in the album</source>
+        <translation>La posición en el álbum</translation>
+    </message>
+    <message>
+        <source>The position in the playlist</source>
+        <translation>La posición en la lista</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be written.</source>
+        <translation>No se pueden guardar las preferencias.</translation>
+    </message>
+    <message>
+        <source>The selected lines, or all of them.</source>
+        <translation>Las líneas seleccionadas, o todas.</translation>
+    </message>
+    <message>
+        <source>The source that is chosen in the settings is unknown.</source>
+        <translation>El origen elegido en los ajustes es desconocido.</translation>
+    </message>
+    <message>
+        <source>The whole address book, as a page for the PSP&apos;s browser.</source>
+        <translation>Toda la agenda, como página para el navegador de la PSP.</translation>
+    </message>
+    <message>
+        <source>There is no movie yet. Add one with the button, or drop its file here: it is converted to what the PSP plays.</source>
+        <translation>Aún no hay películas. Añada una con el botón o suelte aquí su archivo: se convierte a lo que reproduce la PSP.</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be a movie&apos;s name: %@</source>
+        <translation>Una película no puede llamarse así: %@</translation>
+    </message>
+    <message>
+        <source>This must be a full path, or one that begins with &quot;~/&quot;.</source>
+        <translation>Debe ser una ruta completa, o una que empiece por «~/».</translation>
+    </message>
+    <message>
+        <source>Those of the page that is shown.</source>
+        <translation>Los de la página que se muestra.</translation>
+    </message>
+    <message>
+        <source>Unchecks all that is shown.</source>
+        <translation>Desmarca todo lo que se muestra.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Waits for its conversion</source>
+        <translation>Espera su conversión</translation>
+    </message>
+    <message>
+        <source>What %@ has written can&apos;t be read; it may be damaged: %@</source>
+        <translation>No se puede leer lo que ha escrito %@; puede estar dañado: %@</translation>
+    </message>
+    <message>
+        <source>What the songs of one folder have in common.</source>
+        <translation>Lo que tienen en común las canciones de una carpeta.</translation>
+    </message>
+    <message>
+        <source>Write a detailed log</source>
+        <translation>Escribir un registro detallado</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>selected and out of sight: %@</source>
+        <translation>seleccionados y fuera de la vista: %@</translation>
+    </message>
+    <message>
+        <source>“%@” has been moved to the Trash.</source>
+        <translation>«%@» se ha movido a la papelera.</translation>
+    </message>
+    <message>
+        <source>“%@” has been taken out of the conversion.</source>
+        <translation>«%@» se ha quitado de la conversión.</translation>
+    </message>
+    <message>
+        <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
+        <translation>«Firefox (página)» es uno antiguo, que guarda sus marcadores en una página.</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>hoy</translation>

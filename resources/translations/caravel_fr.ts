@@ -79,6 +79,734 @@
         <translation>Jamais</translation>
     </message>
     <message>
+        <source>%@ found</source>
+        <translation>%@ trouvés</translation>
+    </message>
+    <message>
+        <source>%@ has nothing to choose from: %@</source>
+        <translation>%@ ne contient rien à choisir : %@</translation>
+    </message>
+    <message>
+        <source>%@ movies have been removed.</source>
+        <translation>%@ films ont été supprimés.</translation>
+    </message>
+    <message>
+        <source>%@ of %@ selected</source>
+        <translation>%@ sur %@ sélectionnés</translation>
+    </message>
+    <message>
+        <source>%@ of %@ shown</source>
+        <translation>%@ sur %@ affichés</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ sur %@</translation>
+    </message>
+    <message>
+        <source>2.00 or later</source>
+        <translation>2.00 ou ultérieur</translation>
+    </message>
+    <message>
+        <source>1.x</source>
+        <translation>1.x</translation>
+    </message>
+    <message>
+        <source>320 × 240</source>
+        <translation>320 × 240</translation>
+    </message>
+    <message>
+        <source>368 × 208</source>
+        <translation>368 × 208</translation>
+    </message>
+    <message>
+        <source>480 × 272 (the PSP&apos;s own)</source>
+        <translation>480 × 272 (celle de la PSP)</translation>
+    </message>
+    <message>
+        <source>720 × 480 (for a TV)</source>
+        <translation>720 × 480 (pour un téléviseur)</translation>
+    </message>
+    <message>
+        <source>A better one takes more room on the PSP.</source>
+        <translation>Une meilleure qualité prend plus de place sur la PSP.</translation>
+    </message>
+    <message>
+        <source>A selection of its own for each Memory Stick</source>
+        <translation>Une sélection propre à chaque Memory Stick</translation>
+    </message>
+    <message>
+        <source>Add Movies</source>
+        <translation>Ajouter des films</translation>
+    </message>
+    <message>
+        <source>Add Movies...</source>
+        <translation>Ajouter des films…</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Albums come from</source>
+        <translation>Les albums viennent de</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Also after a movie has been converted.</source>
+        <translation>Aussi après la conversion d'un film.</translation>
+    </message>
+    <message>
+        <source>Another: %@</source>
+        <translation>Autre : %@</translation>
+    </message>
+    <message>
+        <source>Artist and album</source>
+        <translation>Artiste et album</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artiste</translation>
+    </message>
+    <message>
+        <source>Backups of %@</source>
+        <translation>Sauvegardes de %@</translation>
+    </message>
+    <message>
+        <source>Backups of each game save</source>
+        <translation>Sauvegardes de chaque partie</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sauvegardes</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>La meilleure</translation>
+    </message>
+    <message>
+        <source>Bookmarks come from</source>
+        <translation>Les signets viennent de</translation>
+    </message>
+    <message>
+        <source>Caravel waits for the PSP as long as you are logged in, and shows its icon in the tray.</source>
+        <translation>Caravel attend la PSP tant que vous êtes connecté et affiche son icône dans la barre.</translation>
+    </message>
+    <message>
+        <source>Checks all that is shown.</source>
+        <translation>Coche tout ce qui est affiché.</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin</source>
+        <translation>Chromium et apparentés</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Contacts and Saves</source>
+        <translation>Contacts et parties</translation>
+    </message>
+    <message>
+        <source>Converts files to what the PSP plays.</source>
+        <translation>Convertit des fichiers au format lu par la PSP.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Default: %@</source>
+        <translation>Par défaut : %@</translation>
+    </message>
+    <message>
+        <source>Deinterlace</source>
+        <translation>Désentrelacer</translation>
+    </message>
+    <message>
+        <source>Delete All...</source>
+        <translation>Tout supprimer…</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>Supprimer…</translation>
+    </message>
+    <message>
+        <source>Disc and track</source>
+        <translation>Le disque et la piste</translation>
+    </message>
+    <message>
+        <source>Each file is named. Useful where something doesn&apos;t work.</source>
+        <translation>Chaque fichier est nommé. Utile lorsque quelque chose ne fonctionne pas.</translation>
+    </message>
+    <message>
+        <source>Each source has a selection of its own.</source>
+        <translation>Chaque source a sa propre sélection.</translation>
+    </message>
+    <message>
+        <source>Each sync copies the game saves that have changed to this computer.</source>
+        <translation>Chaque synchronisation copie sur cet ordinateur les parties qui ont changé.</translation>
+    </message>
+    <message>
+        <source>Edits the name of the selected movie.</source>
+        <translation>Modifie le nom du film sélectionné.</translation>
+    </message>
+    <message>
+        <source>Eject the PSP after a sync</source>
+        <translation>Éjecter la PSP après une synchronisation</translation>
+    </message>
+    <message>
+        <source>Empties the log for good.</source>
+        <translation>Vide définitivement le journal.</translation>
+    </message>
+    <message>
+        <source>Everybody in this computer&apos;s address book is put on one page, with a small picture where there is one. It is made anew at each sync, and only where something has changed it is written.
+
+The PSP shows the page in its browser: with bookmarks synced, one of them leads there. System software 2.00 or later is needed.</source>
+        <translation>Toutes les personnes du carnet d'adresses de cet ordinateur figurent sur une page, avec une petite image s'il y en a une. Elle est refaite à chaque synchronisation et n'est écrite que si quelque chose a changé.
+
+La PSP affiche la page dans son navigateur : si les signets sont synchronisés, l'un d'eux y mène. Le logiciel système 2.00 ou ultérieur est nécessaire.</translation>
+    </message>
+    <message>
+        <source>Fair</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Files that something else has put there go too. Otherwise only files that an earlier sync has placed are removed.</source>
+        <translation>Les fichiers placés là par autre chose partent aussi. Sinon, seuls ceux qu'une synchronisation précédente a placés sont supprimés.</translation>
+    </message>
+    <message>
+        <source>Firefox (page)</source>
+        <translation>Firefox (page)</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Folders and playlists</source>
+        <translation>Dossiers et listes de lecture</translation>
+    </message>
+    <message>
+        <source>Folders of music on the PSP</source>
+        <translation>Dossiers de musique sur la PSP</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Suivre</translation>
+    </message>
+    <message>
+        <source>For movies that are added from now on. The two large sizes need system software 3.30 or later.</source>
+        <translation>Pour les films ajoutés à partir de maintenant. Les deux grandes tailles nécessitent le logiciel système 3.30 ou ultérieur.</translation>
+    </message>
+    <message>
+        <source>For recordings of television that show combs where things move.</source>
+        <translation>Pour les enregistrements de télévision qui montrent des peignes dans les mouvements.</translation>
+    </message>
+    <message>
+        <source>Game save</source>
+        <translation>Partie</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jeu</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Bonne</translation>
+    </message>
+    <message>
+        <source>It is kept on the stick. Such a stick is never synced as soon as it is connected.</source>
+        <translation>Elle est gardée sur le stick. Un tel stick n'est jamais synchronisé dès qu'il est connecté.</translation>
+    </message>
+    <message>
+        <source>It is no longer in this list then. The PSP&apos;s own game save stays as it is.</source>
+        <translation>Elle n'est plus dans cette liste ensuite. La partie qui est sur la PSP reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>It lies in “Removed from PSP” in the folder “Caravel”.</source>
+        <translation>Elle se trouve dans « Removed from PSP » dans le dossier « Caravel ».</translation>
+    </message>
+    <message>
+        <source>Keep a copy of removed files that no sync has placed</source>
+        <translation>Garder une copie des fichiers supprimés qu'aucune synchronisation n'a placés</translation>
+    </message>
+    <message>
+        <source>Keep game saves</source>
+        <translation>Garder les parties sauvegardées</translation>
+    </message>
+    <message>
+        <source>Keeps the newest line in sight.</source>
+        <translation>Garde la ligne la plus récente visible.</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Gardée le</translation>
+    </message>
+    <message>
+        <source>Last kept</source>
+        <translation>Dernière garde</translation>
+    </message>
+    <message>
+        <source>Least</source>
+        <translation>La moindre</translation>
+    </message>
+    <message>
+        <source>Least, at half the frames</source>
+        <translation>La moindre, avec moitié moins d'images</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Chargement…</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Move all backups of “%@” to the Trash (%@)?</source>
+        <translation>Mettre toutes les sauvegardes de « %@ » à la corbeille (%@) ?</translation>
+    </message>
+    <message>
+        <source>Move the backup of “%@” from %@ to the Trash?</source>
+        <translation>Mettre à la corbeille la sauvegarde de « %@ » du %@ ?</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Mettre à la corbeille</translation>
+    </message>
+    <message>
+        <source>Moves all backups of the game save to the Trash.</source>
+        <translation>Met toutes les sauvegardes de la partie à la corbeille.</translation>
+    </message>
+    <message>
+        <source>Moves the selected backup to the Trash.</source>
+        <translation>Met la sauvegarde sélectionnée à la corbeille.</translation>
+    </message>
+    <message>
+        <source>Moves the selected movies to the Trash, or takes them out of the conversion.</source>
+        <translation>Met les films sélectionnés à la corbeille, ou les retire de la conversion.</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>Film</translation>
+    </message>
+    <message>
+        <source>Music, photos and movies in the folder “Dropboxes” come along without being selected.</source>
+        <translation>La musique, les photos et les films du dossier « Dropboxes » sont pris sans être sélectionnés.</translation>
+    </message>
+    <message>
+        <source>Names of photos begin with</source>
+        <translation>Les noms des photos commencent par</translation>
+    </message>
+    <message>
+        <source>Names of songs begin with</source>
+        <translation>Les noms des morceaux commencent par</translation>
+    </message>
+    <message>
+        <source>Newer on the PSP than what is kept</source>
+        <translation>Plus récente sur la PSP que la sauvegarde</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>No game save is kept yet. They are copied from the PSP at each sync.</source>
+        <translation>Aucune partie n'est encore gardée. Elles sont copiées depuis la PSP à chaque synchronisation.</translation>
+    </message>
+    <message>
+        <source>Not everything could be put back. Look for it in the Trash.</source>
+        <translation>Tout n'a pas pu être remis en place. Cherchez dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>Nothing else was found on this computer.</source>
+        <translation>Rien d'autre n'a été trouvé sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Nothing of %@ was found on this computer. It would lie here: %@</source>
+        <translation>Rien de %@ n'a été trouvé sur cet ordinateur. Ce serait ici : %@</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Rien</translation>
+    </message>
+    <message>
+        <source>Of the game save that is selected above.</source>
+        <translation>De la partie sélectionnée ci-dessus.</translation>
+    </message>
+    <message>
+        <source>Of the movie&apos;s own. More than 100 % makes it louder.</source>
+        <translation>Par rapport à celui du film. Plus de 100 % le rend plus fort.</translation>
+    </message>
+    <message>
+        <source>Older ones are removed.</source>
+        <translation>Les plus anciennes sont supprimées.</translation>
+    </message>
+    <message>
+        <source>On the PSP, not kept yet</source>
+        <translation>Sur la PSP, pas encore gardée</translation>
+    </message>
+    <message>
+        <source>Only Memory Sticks that have been synced before.</source>
+        <translation>Seulement les Memory Sticks déjà synchronisés.</translation>
+    </message>
+    <message>
+        <source>Only when the sync was completed.</source>
+        <translation>Seulement si la synchronisation est complète.</translation>
+    </message>
+    <message>
+        <source>Open this window when a PSP is connected</source>
+        <translation>Ouvrir cette fenêtre quand une PSP est connectée</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
+        <translation>Sinon, une synchronisation laisse les films de la PSP tels quels.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
+        <translation>Sinon, une synchronisation laisse la musique de la PSP telle quelle.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
+        <translation>Sinon, une synchronisation laisse les photos de la PSP telles quelles.</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>
+        <translation>Sinon, une synchronisation laisse les signets du navigateur de la PSP tels quels.</translation>
+    </message>
+    <message>
+        <source>Otherwise only the icon in the tray tells of it.</source>
+        <translation>Sinon, seule l'icône de la barre l'indique.</translation>
+    </message>
+    <message>
+        <source>Place of Caravel&apos;s folder</source>
+        <translation>Emplacement du dossier de Caravel</translation>
+    </message>
+    <message>
+        <source>Play a sound after a sync</source>
+        <translation>Jouer un son après une synchronisation</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Liste de lecture</translation>
+    </message>
+    <message>
+        <source>Playlists come from</source>
+        <translation>Les listes de lecture viennent de</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Profile of the browser</source>
+        <translation>Profil du navigateur</translation>
+    </message>
+    <message>
+        <source>Put the backup of “%@” from %@ back on the PSP?</source>
+        <translation>Remettre sur la PSP la sauvegarde de « %@ » du %@ ?</translation>
+    </message>
+    <message>
+        <source>Puts the selected backup back on the PSP.</source>
+        <translation>Remet la sauvegarde sélectionnée sur la PSP.</translation>
+    </message>
+    <message>
+        <source>Quality of the picture</source>
+        <translation>Qualité de l'image</translation>
+    </message>
+    <message>
+        <source>Quality of the sound</source>
+        <translation>Qualité du son</translation>
+    </message>
+    <message>
+        <source>Remove what is not selected from the media folders</source>
+        <translation>Supprimer des dossiers de médias ce qui n'est pas sélectionné</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Restore...</source>
+        <translation>Restaurer…</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>Ne rien sélectionner</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Shows what holds these words. What is out of sight stays as it is.</source>
+        <translation>Affiche ce qui contient ces mots. Ce qui n'est pas visible reste tel quel.</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>Taille de l'image</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Songs</source>
+        <translation>Morceaux</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>Lancer à l'ouverture de session</translation>
+    </message>
+    <message>
+        <source>Such a stick has to be formatted by the PSP before it can be synced.</source>
+        <translation>Un tel stick doit être formaté par la PSP avant de pouvoir être synchronisé.</translation>
+    </message>
+    <message>
+        <source>Sync as soon as a PSP is connected</source>
+        <translation>Synchroniser dès qu'une PSP est connectée</translation>
+    </message>
+    <message>
+        <source>Sync bookmarks</source>
+        <translation>Synchroniser les signets</translation>
+    </message>
+    <message>
+        <source>Sync contacts</source>
+        <translation>Synchroniser les contacts</translation>
+    </message>
+    <message>
+        <source>Sync movies</source>
+        <translation>Synchroniser les films</translation>
+    </message>
+    <message>
+        <source>Sync music</source>
+        <translation>Synchroniser la musique</translation>
+    </message>
+    <message>
+        <source>Sync photos</source>
+        <translation>Synchroniser les photos</translation>
+    </message>
+    <message>
+        <source>Sync the dropboxes</source>
+        <translation>Synchroniser les dossiers de dépôt</translation>
+    </message>
+    <message>
+        <source>Syncing</source>
+        <translation>Synchronisation</translation>
+    </message>
+    <message>
+        <source>System software of the PSP</source>
+        <translation>Logiciel système de la PSP</translation>
+    </message>
+    <message>
+        <source>Take %@ (%@)</source>
+        <translation>Prendre %@ (%@)</translation>
+    </message>
+    <message>
+        <source>Take %@</source>
+        <translation>Prendre %@</translation>
+    </message>
+    <message>
+        <source>Tell about Memory Sticks without the PSP&apos;s folders</source>
+        <translation>Signaler les Memory Sticks sans les dossiers de la PSP</translation>
+    </message>
+    <message>
+        <source>The PSP plays the songs of a folder in the order of their names.</source>
+        <translation>La PSP lit les morceaux d'un dossier dans l'ordre de leurs noms.</translation>
+    </message>
+    <message>
+        <source>The PSP shows the photos of a folder in the order of their names.</source>
+        <translation>La PSP montre les photos d'un dossier dans l'ordre de leurs noms.</translation>
+    </message>
+    <message>
+        <source>The conversion failed</source>
+        <translation>La conversion a échoué</translation>
+    </message>
+    <message>
+        <source>The first one plays only MP3 music, shows only JPEG photos, and has no browser for bookmarks and contacts.</source>
+        <translation>Le premier ne lit que la musique MP3, n'affiche que les photos JPEG et n'a pas de navigateur pour les signets et les contacts.</translation>
+    </message>
+    <message>
+        <source>The folder “Caravel” there holds converted movies, game saves and the dropboxes. What the old place holds is not moved.</source>
+        <translation>Le dossier « Caravel » y contient les films convertis, les parties et les dossiers de dépôt. Ce que contient l'ancien emplacement n'est pas déplacé.</translation>
+    </message>
+    <message>
+        <source>The game save has not been put back.</source>
+        <translation>La partie n'a pas été remise en place.</translation>
+    </message>
+    <message>
+        <source>The game save is being put back on the PSP...</source>
+        <translation>Remise de la partie sur la PSP…</translation>
+    </message>
+    <message>
+        <source>The game save is on the PSP.</source>
+        <translation>La partie est sur la PSP.</translation>
+    </message>
+    <message>
+        <source>The game save that is on the PSP now is kept as the newest backup, and then replaced.</source>
+        <translation>La partie qui est maintenant sur la PSP est gardée comme sauvegarde la plus récente, puis remplacée.</translation>
+    </message>
+    <message>
+        <source>The helper has given no answer.</source>
+        <translation>Le programme auxiliaire n'a pas répondu.</translation>
+    </message>
+    <message>
+        <source>The helper has not taken the selection as it was made. What is shown now is what it has.</source>
+        <translation>Le programme auxiliaire n'a pas repris la sélection telle quelle. Ce qui est affiché maintenant est ce qu'il a.</translation>
+    </message>
+    <message>
+        <source>The last 10</source>
+        <translation>Les 10 dernières</translation>
+    </message>
+    <message>
+        <source>The last 25</source>
+        <translation>Les 25 dernières</translation>
+    </message>
+    <message>
+        <source>The last 50</source>
+        <translation>Les 50 dernières</translation>
+    </message>
+    <message>
+        <source>The movies could not be added.</source>
+        <translation>Les films n'ont pas pu être ajoutés.</translation>
+    </message>
+    <message>
+        <source>The name or the folder of a profile of Firefox or Chromium. Left empty, the first one is taken.</source>
+        <translation>Le nom ou le dossier d'un profil de Firefox ou Chromium. Laissé vide, le premier est pris.</translation>
+    </message>
+    <message>
+        <source>The position in the album</source>
+        <translation>La position dans l'album</translation>
+    </message>
+    <message>
+        <source>The position in the playlist</source>
+        <translation>La position dans la liste de lecture</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be written.</source>
+        <translation>Les préférences ne peuvent pas être écrites.</translation>
+    </message>
+    <message>
+        <source>The selected lines, or all of them.</source>
+        <translation>Les lignes sélectionnées, ou toutes.</translation>
+    </message>
+    <message>
+        <source>The source that is chosen in the settings is unknown.</source>
+        <translation>La source choisie dans les réglages est inconnue.</translation>
+    </message>
+    <message>
+        <source>The whole address book, as a page for the PSP&apos;s browser.</source>
+        <translation>Tout le carnet d'adresses, en une page pour le navigateur de la PSP.</translation>
+    </message>
+    <message>
+        <source>There is no movie yet. Add one with the button, or drop its file here: it is converted to what the PSP plays.</source>
+        <translation>Il n'y a pas encore de film. Ajoutez-en un avec le bouton, ou déposez son fichier ici : il est converti au format lu par la PSP.</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be a movie&apos;s name: %@</source>
+        <translation>Un film ne peut pas s'appeler ainsi : %@</translation>
+    </message>
+    <message>
+        <source>This must be a full path, or one that begins with &quot;~/&quot;.</source>
+        <translation>Ce doit être un chemin complet, ou commençant par « ~/ ».</translation>
+    </message>
+    <message>
+        <source>Those of the page that is shown.</source>
+        <translation>Ceux de la page affichée.</translation>
+    </message>
+    <message>
+        <source>Unchecks all that is shown.</source>
+        <translation>Décoche tout ce qui est affiché.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler l'action</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume sonore</translation>
+    </message>
+    <message>
+        <source>Waits for its conversion</source>
+        <translation>Attend sa conversion</translation>
+    </message>
+    <message>
+        <source>What %@ has written can&apos;t be read; it may be damaged: %@</source>
+        <translation>Ce que %@ a écrit ne peut pas être lu ; c'est peut-être endommagé : %@</translation>
+    </message>
+    <message>
+        <source>What the songs of one folder have in common.</source>
+        <translation>Ce que les morceaux d'un dossier ont en commun.</translation>
+    </message>
+    <message>
+        <source>Write a detailed log</source>
+        <translation>Écrire un journal détaillé</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>selected and out of sight: %@</source>
+        <translation>sélectionnés et hors de vue : %@</translation>
+    </message>
+    <message>
+        <source>“%@” has been moved to the Trash.</source>
+        <translation>« %@ » a été mis à la corbeille.</translation>
+    </message>
+    <message>
+        <source>“%@” has been taken out of the conversion.</source>
+        <translation>« %@ » a été retiré de la conversion.</translation>
+    </message>
+    <message>
+        <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
+        <translation>« Firefox (page) » est un ancien, qui garde ses signets dans une page.</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>aujourd’hui</translation>

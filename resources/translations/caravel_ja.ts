@@ -79,6 +79,734 @@
         <translation>なし</translation>
     </message>
     <message>
+        <source>%@ found</source>
+        <translation>%@ 件見つかりました</translation>
+    </message>
+    <message>
+        <source>%@ has nothing to choose from: %@</source>
+        <translation>%@ には選べるものがありません: %@</translation>
+    </message>
+    <message>
+        <source>%@ movies have been removed.</source>
+        <translation>%@ 本のムービーを削除しました。</translation>
+    </message>
+    <message>
+        <source>%@ of %@ selected</source>
+        <translation>%@ / %@ を選択</translation>
+    </message>
+    <message>
+        <source>%@ of %@ shown</source>
+        <translation>%@ / %@ を表示</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ / %@</translation>
+    </message>
+    <message>
+        <source>2.00 or later</source>
+        <translation>2.00 以降</translation>
+    </message>
+    <message>
+        <source>1.x</source>
+        <translation>1.x</translation>
+    </message>
+    <message>
+        <source>320 × 240</source>
+        <translation>320 × 240</translation>
+    </message>
+    <message>
+        <source>368 × 208</source>
+        <translation>368 × 208</translation>
+    </message>
+    <message>
+        <source>480 × 272 (the PSP&apos;s own)</source>
+        <translation>480 × 272 (PSP の画面)</translation>
+    </message>
+    <message>
+        <source>720 × 480 (for a TV)</source>
+        <translation>720 × 480 (テレビ用)</translation>
+    </message>
+    <message>
+        <source>A better one takes more room on the PSP.</source>
+        <translation>高画質・高音質ほど PSP の容量を使います。</translation>
+    </message>
+    <message>
+        <source>A selection of its own for each Memory Stick</source>
+        <translation>メモリースティックごとに選択を保存</translation>
+    </message>
+    <message>
+        <source>Add Movies</source>
+        <translation>ムービーを追加</translation>
+    </message>
+    <message>
+        <source>Add Movies...</source>
+        <translation>ムービーを追加…</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>アルバム</translation>
+    </message>
+    <message>
+        <source>Albums come from</source>
+        <translation>アルバムの取得元</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Also after a movie has been converted.</source>
+        <translation>ムービーの変換後にも鳴らします。</translation>
+    </message>
+    <message>
+        <source>Another: %@</source>
+        <translation>その他: %@</translation>
+    </message>
+    <message>
+        <source>Artist and album</source>
+        <translation>アーティストとアルバム</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>アーティスト</translation>
+    </message>
+    <message>
+        <source>Backups of %@</source>
+        <translation>%@ のバックアップ</translation>
+    </message>
+    <message>
+        <source>Backups of each game save</source>
+        <translation>セーブデータごとのバックアップ</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>バックアップ</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>最高</translation>
+    </message>
+    <message>
+        <source>Bookmarks come from</source>
+        <translation>ブックマークの取得元</translation>
+    </message>
+    <message>
+        <source>Caravel waits for the PSP as long as you are logged in, and shows its icon in the tray.</source>
+        <translation>ログイン中は Caravel が PSP を待ち、トレイにアイコンを表示します。</translation>
+    </message>
+    <message>
+        <source>Checks all that is shown.</source>
+        <translation>表示中のものをすべて選択します。</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Chromium and its kin</source>
+        <translation>Chromium とその系列</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Contacts and Saves</source>
+        <translation>連絡先とセーブデータ</translation>
+    </message>
+    <message>
+        <source>Converts files to what the PSP plays.</source>
+        <translation>ファイルを PSP で再生できる形式に変換します。</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Default: %@</source>
+        <translation>初期設定: %@</translation>
+    </message>
+    <message>
+        <source>Deinterlace</source>
+        <translation>インターレースを解除</translation>
+    </message>
+    <message>
+        <source>Delete All...</source>
+        <translation>すべて削除…</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>削除…</translation>
+    </message>
+    <message>
+        <source>Disc and track</source>
+        <translation>ディスクとトラックの番号</translation>
+    </message>
+    <message>
+        <source>Each file is named. Useful where something doesn&apos;t work.</source>
+        <translation>すべてのファイル名を記録します。うまく動かないときに役立ちます。</translation>
+    </message>
+    <message>
+        <source>Each source has a selection of its own.</source>
+        <translation>選択は取得元ごとに保存されます。</translation>
+    </message>
+    <message>
+        <source>Each sync copies the game saves that have changed to this computer.</source>
+        <translation>同期のたびに、変更されたセーブデータをこのコンピュータにコピーします。</translation>
+    </message>
+    <message>
+        <source>Edits the name of the selected movie.</source>
+        <translation>選択したムービーの名前を編集します。</translation>
+    </message>
+    <message>
+        <source>Eject the PSP after a sync</source>
+        <translation>同期後に PSP を取り出す</translation>
+    </message>
+    <message>
+        <source>Empties the log for good.</source>
+        <translation>ログを完全に消去します。</translation>
+    </message>
+    <message>
+        <source>Everybody in this computer&apos;s address book is put on one page, with a small picture where there is one. It is made anew at each sync, and only where something has changed it is written.
+
+The PSP shows the page in its browser: with bookmarks synced, one of them leads there. System software 2.00 or later is needed.</source>
+        <translation>このコンピュータのアドレスブックの全員が 1 つのページになり、写真があれば小さく付きます。ページは同期のたびに作り直され、変更があったときだけ書き込まれます。
+
+ページは PSP のブラウザで表示します。ブックマークを同期すると、その 1 つから開けます。システムソフトウェア 2.00 以降が必要です。</translation>
+    </message>
+    <message>
+        <source>Fair</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>Files that something else has put there go too. Otherwise only files that an earlier sync has placed are removed.</source>
+        <translation>ほかの方法で置かれたファイルも削除します。オフの場合は、以前の同期で置いたファイルだけを削除します。</translation>
+    </message>
+    <message>
+        <source>Firefox (page)</source>
+        <translation>Firefox (ページ)</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダ</translation>
+    </message>
+    <message>
+        <source>Folders and playlists</source>
+        <translation>フォルダとプレイリスト</translation>
+    </message>
+    <message>
+        <source>Folders of music on the PSP</source>
+        <translation>PSP のミュージックのフォルダ</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>フォルダ</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>追尾</translation>
+    </message>
+    <message>
+        <source>For movies that are added from now on. The two large sizes need system software 3.30 or later.</source>
+        <translation>今後追加するムービーに使います。大きい 2 つのサイズにはシステムソフトウェア 3.30 以降が必要です。</translation>
+    </message>
+    <message>
+        <source>For recordings of television that show combs where things move.</source>
+        <translation>動きのある部分に横縞が出るテレビ録画用です。</translation>
+    </message>
+    <message>
+        <source>Game save</source>
+        <translation>セーブデータ</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>ゲーム</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>良い</translation>
+    </message>
+    <message>
+        <source>It is kept on the stick. Such a stick is never synced as soon as it is connected.</source>
+        <translation>選択はスティックに保存されます。そのスティックは接続時に自動では同期されません。</translation>
+    </message>
+    <message>
+        <source>It is no longer in this list then. The PSP&apos;s own game save stays as it is.</source>
+        <translation>この一覧から消えます。PSP にあるセーブデータはそのままです。</translation>
+    </message>
+    <message>
+        <source>It lies in “Removed from PSP” in the folder “Caravel”.</source>
+        <translation>「Caravel」フォルダの「Removed from PSP」にあります。</translation>
+    </message>
+    <message>
+        <source>Keep a copy of removed files that no sync has placed</source>
+        <translation>同期で置いたものではない削除ファイルのコピーを残す</translation>
+    </message>
+    <message>
+        <source>Keep game saves</source>
+        <translation>セーブデータを保管</translation>
+    </message>
+    <message>
+        <source>Keeps the newest line in sight.</source>
+        <translation>常に最新の行を表示します。</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>保管日時</translation>
+    </message>
+    <message>
+        <source>Last kept</source>
+        <translation>最後の保管</translation>
+    </message>
+    <message>
+        <source>Least</source>
+        <translation>最低</translation>
+    </message>
+    <message>
+        <source>Least, at half the frames</source>
+        <translation>最低 (コマ数は半分)</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>Move all backups of “%@” to the Trash (%@)?</source>
+        <translation>「%@」のすべてのバックアップ (%@) をゴミ箱に移しますか?</translation>
+    </message>
+    <message>
+        <source>Move the backup of “%@” from %@ to the Trash?</source>
+        <translation>「%@」のバックアップ (%@) をゴミ箱に移しますか?</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>ゴミ箱に移す</translation>
+    </message>
+    <message>
+        <source>Moves all backups of the game save to the Trash.</source>
+        <translation>セーブデータのすべてのバックアップをゴミ箱に移します。</translation>
+    </message>
+    <message>
+        <source>Moves the selected backup to the Trash.</source>
+        <translation>選択したバックアップをゴミ箱に移します。</translation>
+    </message>
+    <message>
+        <source>Moves the selected movies to the Trash, or takes them out of the conversion.</source>
+        <translation>選択したムービーをゴミ箱に移すか、変換から外します。</translation>
+    </message>
+    <message>
+        <source>Movie</source>
+        <translation>ムービー</translation>
+    </message>
+    <message>
+        <source>Music, photos and movies in the folder “Dropboxes” come along without being selected.</source>
+        <translation>「Dropboxes」フォルダのミュージック、フォト、ムービーは、選択しなくても同期されます。</translation>
+    </message>
+    <message>
+        <source>Names of photos begin with</source>
+        <translation>フォト名の先頭</translation>
+    </message>
+    <message>
+        <source>Names of songs begin with</source>
+        <translation>曲名の先頭</translation>
+    </message>
+    <message>
+        <source>Newer on the PSP than what is kept</source>
+        <translation>PSP のほうが新しい</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>No game save is kept yet. They are copied from the PSP at each sync.</source>
+        <translation>まだセーブデータは保管されていません。同期のたびに PSP からコピーされます。</translation>
+    </message>
+    <message>
+        <source>Not everything could be put back. Look for it in the Trash.</source>
+        <translation>一部を元に戻せませんでした。ゴミ箱を確認してください。</translation>
+    </message>
+    <message>
+        <source>Nothing else was found on this computer.</source>
+        <translation>このコンピュータにはほかに見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Nothing of %@ was found on this computer. It would lie here: %@</source>
+        <translation>%@ のデータがこのコンピュータに見つかりません。本来の場所: %@</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Of the game save that is selected above.</source>
+        <translation>上で選択したセーブデータのものです。</translation>
+    </message>
+    <message>
+        <source>Of the movie&apos;s own. More than 100 % makes it louder.</source>
+        <translation>元の音量に対する割合です。100 % を超えると大きくなります。</translation>
+    </message>
+    <message>
+        <source>Older ones are removed.</source>
+        <translation>古いものは削除されます。</translation>
+    </message>
+    <message>
+        <source>On the PSP, not kept yet</source>
+        <translation>PSP にあり、未保管</translation>
+    </message>
+    <message>
+        <source>Only Memory Sticks that have been synced before.</source>
+        <translation>以前に同期したメモリースティックだけです。</translation>
+    </message>
+    <message>
+        <source>Only when the sync was completed.</source>
+        <translation>同期が完了したときだけです。</translation>
+    </message>
+    <message>
+        <source>Open this window when a PSP is connected</source>
+        <translation>PSP の接続時にこのウインドウを開く</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
+        <translation>オフの場合、同期しても PSP のムービーはそのままです。</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
+        <translation>オフの場合、同期しても PSP のミュージックはそのままです。</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
+        <translation>オフの場合、同期しても PSP のフォトはそのままです。</translation>
+    </message>
+    <message>
+        <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>
+        <translation>オフの場合、同期しても PSP のブラウザのブックマークはそのままです。</translation>
+    </message>
+    <message>
+        <source>Otherwise only the icon in the tray tells of it.</source>
+        <translation>オフの場合、トレイのアイコンだけが知らせます。</translation>
+    </message>
+    <message>
+        <source>Place of Caravel&apos;s folder</source>
+        <translation>Caravel のフォルダの場所</translation>
+    </message>
+    <message>
+        <source>Play a sound after a sync</source>
+        <translation>同期後にサウンドを鳴らす</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>プレイリスト</translation>
+    </message>
+    <message>
+        <source>Playlists come from</source>
+        <translation>プレイリストの取得元</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Profile of the browser</source>
+        <translation>ブラウザのプロファイル</translation>
+    </message>
+    <message>
+        <source>Put the backup of “%@” from %@ back on the PSP?</source>
+        <translation>「%@」のバックアップ (%@) を PSP に戻しますか?</translation>
+    </message>
+    <message>
+        <source>Puts the selected backup back on the PSP.</source>
+        <translation>選択したバックアップを PSP に戻します。</translation>
+    </message>
+    <message>
+        <source>Quality of the picture</source>
+        <translation>画質</translation>
+    </message>
+    <message>
+        <source>Quality of the sound</source>
+        <translation>音質</translation>
+    </message>
+    <message>
+        <source>Remove what is not selected from the media folders</source>
+        <translation>選択していないものをメディアのフォルダから削除</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>Restore...</source>
+        <translation>復元…</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Select None</source>
+        <translation>すべて解除</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Shows what holds these words. What is out of sight stays as it is.</source>
+        <translation>これらの語を含むものを表示します。表示されないものはそのままです。</translation>
+    </message>
+    <message>
+        <source>Size of the picture</source>
+        <translation>画面サイズ</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Songs</source>
+        <translation>曲</translation>
+    </message>
+    <message>
+        <source>Start at login</source>
+        <translation>ログイン時に起動</translation>
+    </message>
+    <message>
+        <source>Such a stick has to be formatted by the PSP before it can be synced.</source>
+        <translation>このようなスティックは、同期の前に PSP でフォーマットする必要があります。</translation>
+    </message>
+    <message>
+        <source>Sync as soon as a PSP is connected</source>
+        <translation>PSP の接続時に同期</translation>
+    </message>
+    <message>
+        <source>Sync bookmarks</source>
+        <translation>ブックマークを同期</translation>
+    </message>
+    <message>
+        <source>Sync contacts</source>
+        <translation>連絡先を同期</translation>
+    </message>
+    <message>
+        <source>Sync movies</source>
+        <translation>ムービーを同期</translation>
+    </message>
+    <message>
+        <source>Sync music</source>
+        <translation>ミュージックを同期</translation>
+    </message>
+    <message>
+        <source>Sync photos</source>
+        <translation>フォトを同期</translation>
+    </message>
+    <message>
+        <source>Sync the dropboxes</source>
+        <translation>ドロップボックスを同期</translation>
+    </message>
+    <message>
+        <source>Syncing</source>
+        <translation>同期</translation>
+    </message>
+    <message>
+        <source>System software of the PSP</source>
+        <translation>PSP のシステムソフトウェア</translation>
+    </message>
+    <message>
+        <source>Take %@ (%@)</source>
+        <translation>%@ を使う (%@)</translation>
+    </message>
+    <message>
+        <source>Take %@</source>
+        <translation>%@ を使う</translation>
+    </message>
+    <message>
+        <source>Tell about Memory Sticks without the PSP&apos;s folders</source>
+        <translation>PSP のフォルダがないメモリースティックを知らせる</translation>
+    </message>
+    <message>
+        <source>The PSP plays the songs of a folder in the order of their names.</source>
+        <translation>PSP はフォルダ内の曲を名前の順に再生します。</translation>
+    </message>
+    <message>
+        <source>The PSP shows the photos of a folder in the order of their names.</source>
+        <translation>PSP はフォルダ内のフォトを名前の順に表示します。</translation>
+    </message>
+    <message>
+        <source>The conversion failed</source>
+        <translation>変換に失敗しました</translation>
+    </message>
+    <message>
+        <source>The first one plays only MP3 music, shows only JPEG photos, and has no browser for bookmarks and contacts.</source>
+        <translation>1.x では MP3 の音楽と JPEG のフォトだけを扱え、ブックマークと連絡先用のブラウザがありません。</translation>
+    </message>
+    <message>
+        <source>The folder “Caravel” there holds converted movies, game saves and the dropboxes. What the old place holds is not moved.</source>
+        <translation>そこにある「Caravel」フォルダに、変換したムービー、セーブデータ、ドロップボックスが入ります。元の場所にあるものは移動しません。</translation>
+    </message>
+    <message>
+        <source>The game save has not been put back.</source>
+        <translation>セーブデータは元に戻されませんでした。</translation>
+    </message>
+    <message>
+        <source>The game save is being put back on the PSP...</source>
+        <translation>セーブデータを PSP に戻しています…</translation>
+    </message>
+    <message>
+        <source>The game save is on the PSP.</source>
+        <translation>セーブデータを PSP に戻しました。</translation>
+    </message>
+    <message>
+        <source>The game save that is on the PSP now is kept as the newest backup, and then replaced.</source>
+        <translation>今 PSP にあるセーブデータは、最新のバックアップとして保管してから置き換えます。</translation>
+    </message>
+    <message>
+        <source>The helper has given no answer.</source>
+        <translation>ヘルパーから応答がありません。</translation>
+    </message>
+    <message>
+        <source>The helper has not taken the selection as it was made. What is shown now is what it has.</source>
+        <translation>ヘルパーは選択をそのまま受け取りませんでした。現在表示しているのはヘルパーの状態です。</translation>
+    </message>
+    <message>
+        <source>The last 10</source>
+        <translation>直近の 10 個</translation>
+    </message>
+    <message>
+        <source>The last 25</source>
+        <translation>直近の 25 個</translation>
+    </message>
+    <message>
+        <source>The last 50</source>
+        <translation>直近の 50 個</translation>
+    </message>
+    <message>
+        <source>The movies could not be added.</source>
+        <translation>ムービーを追加できませんでした。</translation>
+    </message>
+    <message>
+        <source>The name or the folder of a profile of Firefox or Chromium. Left empty, the first one is taken.</source>
+        <translation>Firefox または Chromium のプロファイルの名前かフォルダです。空の場合は最初のものを使います。</translation>
+    </message>
+    <message>
+        <source>The position in the album</source>
+        <translation>アルバム内の順番</translation>
+    </message>
+    <message>
+        <source>The position in the playlist</source>
+        <translation>プレイリスト内の順番</translation>
+    </message>
+    <message>
+        <source>The preferences can&apos;t be written.</source>
+        <translation>設定を書き込めません。</translation>
+    </message>
+    <message>
+        <source>The selected lines, or all of them.</source>
+        <translation>選択した行、またはすべての行です。</translation>
+    </message>
+    <message>
+        <source>The source that is chosen in the settings is unknown.</source>
+        <translation>設定で選ばれている取得元が不明です。</translation>
+    </message>
+    <message>
+        <source>The whole address book, as a page for the PSP&apos;s browser.</source>
+        <translation>アドレスブック全体を、PSP のブラウザ用のページにします。</translation>
+    </message>
+    <message>
+        <source>There is no movie yet. Add one with the button, or drop its file here: it is converted to what the PSP plays.</source>
+        <translation>まだムービーがありません。ボタンで追加するか、ファイルをここにドロップしてください。PSP で再生できる形式に変換されます。</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be a movie&apos;s name: %@</source>
+        <translation>ムービーの名前にできません: %@</translation>
+    </message>
+    <message>
+        <source>This must be a full path, or one that begins with &quot;~/&quot;.</source>
+        <translation>完全なパス、または "~/" で始まるパスを指定してください。</translation>
+    </message>
+    <message>
+        <source>Those of the page that is shown.</source>
+        <translation>表示中のページのものです。</translation>
+    </message>
+    <message>
+        <source>Unchecks all that is shown.</source>
+        <translation>表示中のものの選択をすべて解除します。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>Waits for its conversion</source>
+        <translation>変換待ち</translation>
+    </message>
+    <message>
+        <source>What %@ has written can&apos;t be read; it may be damaged: %@</source>
+        <translation>%@ のデータを読み込めません。壊れている可能性があります: %@</translation>
+    </message>
+    <message>
+        <source>What the songs of one folder have in common.</source>
+        <translation>1 つのフォルダにまとめる曲の共通点です。</translation>
+    </message>
+    <message>
+        <source>Write a detailed log</source>
+        <translation>詳細なログを書く</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>selected and out of sight: %@</source>
+        <translation>選択済みで非表示: %@</translation>
+    </message>
+    <message>
+        <source>“%@” has been moved to the Trash.</source>
+        <translation>「%@」をゴミ箱に移しました。</translation>
+    </message>
+    <message>
+        <source>“%@” has been taken out of the conversion.</source>
+        <translation>「%@」を変換から外しました。</translation>
+    </message>
+    <message>
+        <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
+        <translation>「Firefox (ページ)」は、ブックマークをページに保存する古い Firefox です。</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>今日</translation>
