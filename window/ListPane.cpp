@@ -127,6 +127,7 @@ void ListPane::showMessage(const QString &text, const QList<QPushButton *> &butt
     m_message->setText(text);
     m_stack->setCurrentIndex(1);
     m_counts->clear();
+    enableTop(false);
 }
 
 void ListPane::updateCounts()
@@ -145,10 +146,17 @@ void ListPane::updateCounts()
     if (hidden > 0)
         parts.append(filled(localized("selected and out of sight: %@"), {number(hidden)}));
     m_counts->setText(parts.join(QStringLiteral(" – ")));
-    if (m_all) {
-        m_all->setEnabled(shown > 0);
-        m_none->setEnabled(shown > 0);
-    }
+    enableTop(shown > 0);
+    m_search->setEnabled(true);
+}
+
+void ListPane::enableTop(bool enabled)
+{
+    m_search->setEnabled(enabled);
+    if (m_all)
+        m_all->setEnabled(enabled);
+    if (m_none)
+        m_none->setEnabled(enabled);
 }
 
 void ListPane::checkShown(bool checked)

@@ -30,6 +30,7 @@ public:
 
 private:
     void updateCounts();
+    void enableTop(bool enabled);
     QWidget *makeMessage();
     QWidget *makeTop(bool isCheckable);
     void checkShown(bool checked);

@@ -294,8 +294,10 @@ bool RowModel::setData(const QModelIndex &index, const QVariant &value, int role
 
 Qt::ItemFlags RowModel::flags(const QModelIndex &index) const
 {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    if (!index.isValid() || index.column() != 0)
+    if (index.column() != 0)
         return flags;
     flags.setFlag(Qt::ItemIsUserCheckable, m_isCheckable && m_rows[index.row()].canBeSelected);
     flags.setFlag(Qt::ItemIsEditable, m_isEditable);

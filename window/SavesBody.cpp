@@ -44,7 +44,10 @@ SavesBody::SavesBody(HelperConnection *helper, QWidget *parent)
     connect(&frontEnd, &FrontEndObject::planIsReady, this, &SavesBody::askStick);
     connect(&frontEnd, &FrontEndObject::pspDidUnmount, this, [this] { stickIsRead({}); });
     connect(&frontEnd, &FrontEndObject::syncDidFinish, this, &SavesBody::reload);
-    connect(&keeper(), &ListKeeper::read, this, &SavesBody::askHistory);
+    connect(&keeper(), &ListKeeper::read, this, [this] {
+        m_group->setVisible(rows().rowCount() > 0);
+        askHistory();
+    });
     connect(pane().view().selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SavesBody::askHistory);
 }
@@ -63,6 +66,7 @@ QWidget *SavesBody::makeHistory()
     m_group->setMaximumHeight(fontMetrics().height() * 14);
     connect(m_history->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SavesBody::updateButtons);
+    m_group->hide();
     updateButtons();
     return m_group;
 }
