@@ -91,6 +91,8 @@ protected:
     const int selected = scaled(10'000);
     const int pictures = scaled(20'000);
     const int movies = scaled(10'000);
+    const int playlists = scaled(1'000);
+    const int albums = scaled(500);
     ProgramHarness programs;
 
     void SetUp() override
@@ -123,6 +125,8 @@ protected:
             mix.append(id);
         }
         library.addPlaylist(QStringLiteral("Mix"), mix);
+        for (int i = 1; i <= playlists; ++i)
+            library.addPlaylist(QStringLiteral("Playlist %1").arg(i), {i, tracks - i});
         writeFile(programs.path(QStringLiteral("home/Music/iTunes/iTunes Music Library.xml")),
                   library.contents());
     }
@@ -137,6 +141,8 @@ protected:
             library.addImage(keys.last(), file, QStringLiteral("Picture"));
         }
         library.addAlbum(QStringLiteral("All"), keys);
+        for (int i = 1; i <= albums; ++i)
+            library.addAlbum(QStringLiteral("Album %1").arg(i), keys.mid(i, pictures / albums));
         writeFile(programs.path(QStringLiteral("home/Pictures/iPhoto Library/AlbumData.xml")),
                   library.contents());
     }
@@ -193,4 +199,21 @@ TEST_F(LoadTest, SyncsALargeHomeWhileFrontEndsAsk)
                 static_cast<long long>(frontEnds.asked), seconds,
                 frontEnds.answered[frontEnds.answered.size() / 2], frontEnds.answered.back(),
                 qPrintable(memory("VmRSS")), qPrintable(memory("VmHWM")));
+}
+
+TEST_F(LoadTest, TheWindowOpensAtOnceAndNeverStandsStill)
+{
+    programs.set(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    programs.startHelper();
+    const int rows = playlists + albums + movies;
+    const QStringList figures =
+        run(qPrintable(QStringLiteral(CARAVEL_WINDOW " %1").arg(rows))).simplified().split(u' ');
+    ASSERT_EQ(figures.size(), 4);
+    std::printf("%s ms to the first paint, %s ms until %d rows were there, %s ms the longest "
+                "stand, %s KB at the peak\n",
+                qPrintable(figures[0]), qPrintable(figures[1]), rows, qPrintable(figures[2]),
+                qPrintable(figures[3]));
+    EXPECT_LE(figures[0].toInt(), 300) << "milliseconds";
+    EXPECT_LE(figures[2].toInt(), 50) << "milliseconds";
+    EXPECT_LE(figures[3].toInt(), 120 << 10) << "KB";
 }

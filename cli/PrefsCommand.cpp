@@ -44,7 +44,8 @@ ExitStatus showAll(bool json)
     QJsonObject object;
     for (const Settings::Key &key : Settings::keys()) {
         object.insert(key.name, entry(key.value(), Preferences::isDefault(key)));
-        const QString mark = Preferences::isDefault(key) ? QStringLiteral("  (default)") : QString();
+        const QString mark =
+            Preferences::isDefault(key) ? QStringLiteral("  (default)") : QString();
         if (!json)
             Output::print(QStringLiteral("%1 = %2%3").arg(key.name, shown(key.value()), mark));
     }

@@ -12,6 +12,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <vector>
 
 using namespace std::chrono_literals;
 
@@ -62,6 +63,27 @@ void exchange(QObject *context, Done done)
     };
     if (!Workers::start(work))
         report(store->synchronize());
+}
+
+struct Observer
+{
+    QPointer<QObject> context;
+    std::function<void()> changed;
+};
+
+std::vector<Observer> &observers()
+{
+    static std::vector<Observer> all;
+    return all;
+}
+
+void tellObservers()
+{
+    std::erase_if(observers(), [](const Observer &each) { return !each.context; });
+    for (const Observer &each : std::vector(observers())) {
+        if (each.context)
+            each.changed();
+    }
 }
 
 } // namespace
@@ -129,11 +151,11 @@ void observe(QObject *context, std::function<void()> changed)
 {
     if (!NamedConnection::busAvailable())
         return;
-    const auto read = [context, changed = std::move(changed)] {
-        exchange(context, [changed](bool /*isWritten*/) { changed(); });
-    };
-    DistributedNotificationCenter::defaultCenter().observe(
-        didChange(), context, read, DistributedNotificationCenter::Own::Ignore);
+    if (observers().empty())
+        DistributedNotificationCenter::defaultCenter().observe(
+            didChange(), QCoreApplication::instance(),
+            [] { exchange(QCoreApplication::instance(), [](bool) { tellObservers(); }); });
+    observers().push_back({context, std::move(changed)});
 }
 
 } // namespace Preferences

@@ -28,8 +28,8 @@ using Done = std::function<void(bool isWritten)>;
 /// long as `context` lives.
 void setLater(const QString &name, const QVariant &value, QObject *context, Done done);
 
-/// Calls back whenever another process has changed something and it has been read, as long as
-/// `context` lives.
+/// Calls back whenever something has been changed, here or by another process, and has been read,
+/// as long as `context` lives.
 void observe(QObject *context, std::function<void()> changed);
 
 } // namespace Preferences

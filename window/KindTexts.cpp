@@ -72,7 +72,7 @@ KindTexts KindTexts::of(const QString &saveName)
         return {saveName,
                 Settings::syncMovies.name,
                 {},
-                {localized("Movie"), localized("Size")},
+                {localized("Movie"), localized("Details")},
                 localized("There is no movie yet. Add one with the button, or drop its file here: "
                           "it is converted to what the PSP plays."),
                 thumbnail,

@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace std::chrono_literals;
+
 ListBody::ListBody(HelperConnection *helper, const QString &saveName, QWidget *parent)
     : PageBody(parent)
     , m_helper(helper)
@@ -44,10 +46,11 @@ ListBody::ListBody(HelperConnection *helper, const QString &saveName, QWidget *p
         m_notice->say(localized("The helper has not taken the selection as it was made. What is "
                                 "shown now is what it has."));
     });
-    Preferences::observe(this, [this] {
-        m_switch->refresh();
-        Q_EMIT changed();
-    });
+    // The selection is among the settings, and others may have changed it.
+    m_reloading.setSingleShot(true);
+    m_reloading.setInterval(500ms);
+    connect(&m_reloading, &QTimer::timeout, this, &ListBody::reload);
+    Preferences::observe(this, [this] { m_reloading.start(); });
 }
 
 void ListBody::addAbove(QWidget *widget)
@@ -63,7 +66,9 @@ void ListBody::addBelow(QWidget *widget)
 void ListBody::reload()
 {
     m_switch->refresh();
-    m_keeper.reload();
+    if (m_helper->isConnected())
+        m_keeper.reload();
+    Q_EMIT changed();
 }
 
 QString ListBody::summary() const

@@ -49,4 +49,5 @@ private:
     Notice *m_notice;
     SettingEditor *m_switch;
     QVBoxLayout *m_layout;
+    QTimer m_reloading; // single shot: one change of the settings seldom comes alone
 };

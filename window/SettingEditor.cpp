@@ -122,7 +122,8 @@ QWidget *SettingEditor::makeText()
             write(edit->text());
     });
     m_show = [edit](const QVariant &value) {
-        edit->setText(value.toString());
+        if (!edit->hasFocus() || !edit->isModified()) // nobody is typing
+            edit->setText(value.toString());
     };
     return edit;
 }

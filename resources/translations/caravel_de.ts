@@ -583,10 +583,6 @@ Die PSP zeigt die Seite in ihrem Browser: Werden Lesezeichen synchronisiert, fü
         <translation>Bildgröße</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
         <source>Songs</source>
         <translation>Titel</translation>
     </message>
@@ -805,6 +801,10 @@ Die PSP zeigt die Seite in ihrem Browser: Werden Lesezeichen synchronisiert, fü
     <message>
         <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
         <translation>„Firefox (Seite)“ ist ein alter, der seine Lesezeichen in einer Seite aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
     </message>
     <message>
         <source>today</source>

@@ -583,10 +583,6 @@ La PSP muestra la página en su navegador: si se sincronizan los marcadores, uno
         <translation>Tamaño de la imagen</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Tamaño</translation>
-    </message>
-    <message>
         <source>Songs</source>
         <translation>Canciones</translation>
     </message>
@@ -805,6 +801,10 @@ La PSP muestra la página en su navegador: si se sincronizan los marcadores, uno
     <message>
         <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
         <translation>«Firefox (página)» es uno antiguo, que guarda sus marcadores en una página.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
     </message>
     <message>
         <source>today</source>

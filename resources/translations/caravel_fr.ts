@@ -583,10 +583,6 @@ La PSP affiche la page dans son navigateur : si les signets sont synchronisés, 
         <translation>Taille de l'image</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Taille</translation>
-    </message>
-    <message>
         <source>Songs</source>
         <translation>Morceaux</translation>
     </message>
@@ -805,6 +801,10 @@ La PSP affiche la page dans son navigateur : si les signets sont synchronisés, 
     <message>
         <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
         <translation>« Firefox (page) » est un ancien, qui garde ses signets dans une page.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
     </message>
     <message>
         <source>today</source>

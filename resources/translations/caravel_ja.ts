@@ -583,10 +583,6 @@ The PSP shows the page in its browser: with bookmarks synced, one of them leads 
         <translation>画面サイズ</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>サイズ</translation>
-    </message>
-    <message>
         <source>Songs</source>
         <translation>曲</translation>
     </message>
@@ -805,6 +801,10 @@ The PSP shows the page in its browser: with bookmarks synced, one of them leads 
     <message>
         <source>“Firefox (page)” is an old one, which keeps its bookmarks in a page.</source>
         <translation>「Firefox (ページ)」は、ブックマークをページに保存する古い Firefox です。</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
     </message>
     <message>
         <source>today</source>
