@@ -3,6 +3,7 @@
 #include "platform/files/FileManager.h"
 #include "sync/StickFiles.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -25,6 +26,16 @@ QString heldComponent(QStringView component)
     for (qsizetype i = name.size(); i-- > 0 && name[i] == u'.';)
         name[i] = u'_';
     return name.isEmpty() ? QStringLiteral("_") : name;
+}
+
+QString withDeviceMarked(QString component)
+{
+    static const QRegularExpression device(
+        QStringLiteral("^(con|prn|aux|nul|(com|lpt)[0-9])(\\.|$)"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (const auto match = device.match(component); match.hasMatch())
+        component.insert(match.capturedEnd(1), u'_');
+    return component;
 }
 
 QString withoutDotsAtEnds(const QString &path)
@@ -77,11 +88,16 @@ StickNames::StickNames(QString volume, Policy policy)
 
 StickNames StickNames::of(const QString &volume)
 {
-    static constexpr std::array fatLike{u"vfat", u"msdos", u"exfat", u"ntfs", u"ntfs3", u"fuseblk"};
+    static constexpr std::array fat{u"vfat", u"msdos"};
+    static constexpr std::array ntfs{u"ntfs", u"ntfs3", u"fuseblk"}; // a fuseblk may be exFAT too
     const QString type = files().fileSystemType(volume);
-    Policy policy{.isFatLike = std::ranges::find(fatLike, QStringView(type)) != fatLike.end(),
+    const auto isOneOf = [&type](const auto &types) {
+        return std::ranges::find(types, QStringView(type)) != types.end();
+    };
+    Policy policy{.isFatLike = isOneOf(fat) || isOneOf(ntfs) || type == u"exfat",
                   .tellsCaseApart = tellsCaseApart(volume)};
-    if (type == u"vfat" || type == u"msdos")
+    policy.refusesDeviceNames = isOneOf(ntfs);
+    if (isOneOf(fat))
         policy.largestFile = std::numeric_limits<quint32>::max();
     return StickNames(volume, policy);
 }
@@ -93,7 +109,9 @@ QString StickNames::destination(const QString &path) const
     QString held = m_volume;
     for (const QStringView component :
          QStringView(path).mid(m_volume.size()).split(u'/', Qt::SkipEmptyParts))
-        held.append(u'/').append(heldComponent(component));
+        held.append(u'/').append(m_policy.refusesDeviceNames
+                                     ? withDeviceMarked(heldComponent(component))
+                                     : heldComponent(component));
     return held;
 }
 

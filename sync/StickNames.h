@@ -16,6 +16,7 @@ public:
         bool isFatLike = false;
         bool tellsCaseApart = true;
         quint64 largestFile = std::numeric_limits<quint64>::max(); ///< bytes
+        bool refusesDeviceNames = false; ///< as DOS named its devices, whatever extension follows
     };
 
     /// Names stay as they are on a volume of the default policy.
@@ -27,7 +28,7 @@ public:
 
     /// The destination as the stick can hold it: in each component below the volume the characters
     /// below 0x20 and `" * : < > ? \ |` become "_", a dot at the end becomes "_", blanks at the end
-    /// go, and what is left empty becomes "_".
+    /// go, and what is left empty becomes "_". Where devices' names are refused, "_" follows them.
     QString destination(const QString &path) const;
 
     /// The same for all paths that the stick takes for one. Paths that were written by an earlier

@@ -261,6 +261,9 @@ TEST(StickNames, HoldsWhatFatCanAndTellsWhatItTakesForOne)
     const StickNames fat(volume, {.isFatLike = true, .tellsCaseApart = false});
     const StickNames caseless(volume, {.isFatLike = false, .tellsCaseApart = false});
     const StickNames other(volume, {});
+    const StickNames ntfs(volume, {.isFatLike = true, .refusesDeviceNames = true});
+    EXPECT_EQ(ntfs.destination(volume + u"/aux/Com1.x/control"_s),
+              volume + u"/aux_/Com1_.x/control"_s);
     for (const auto &c : cases) {
         const QString path = volume + u'/' + QString::fromUtf8(c.name);
         EXPECT_EQ(fat.destination(path), volume + u'/' + QString::fromUtf8(c.held)) << c.name;
