@@ -110,6 +110,24 @@ remount_stick() {
 writes() { awk '{ print $5 }' "/sys/block/$(basename "$(device)")/stat"; }
 written_bytes() { awk '{ print $7 * 512 }' "/sys/block/$(basename "$(device)")/stat"; }
 
+# until_written WRITES COMMAND: when the disk has had so many more of them, but no later than the command ends.
+until_written() {
+    local goal fields=() counts
+    goal=$(($(writes) + $1))
+    counts=/sys/block/$(basename "$(device)")/stat
+    while ((${fields[4]:-0} < goal)) && kill -0 "$2" 2>/dev/null; do
+        read -ra fields <"$counts"
+    done
+}
+
+# moment_of_round ROUND ROUNDS FROM TO: rolled in the round's own part of the way between the two, the same
+# at each time.
+moment_of_round() {
+    local part=$((($4 - $3) / $2))
+    RANDOM=$1
+    echo $(($3 + ($1 - 1) * part + RANDOM % part))
+}
+
 # Every name on the stick's media folders, and what lies there.
 names_on_stick() { { find $place/MP_ROOT $place/PSP/MUSIC $place/PSP/PHOTO 2>/dev/null || true; } | sort; }
 # "SUM  PATH" of each file.
@@ -213,7 +231,7 @@ play() {
         ;;
     esac
     pkill -x caravel-helper
-    umount -l $place 2>/dev/null
+    umount -l /media/PSP /media/root/* 2>/dev/null
 }
 
 stty -echo </dev/console

@@ -11,7 +11,7 @@ prints how long each scenario took and how it ended. The status is 1 when one fa
   --short   fewer rounds, and without the scenarios marked "+"
 
 CARAVEL_PRESET names the build (release unless told), CARAVEL_JOBS how many machines run at a time,
-LAB_ROUNDS how often a seeded scenario is played. What was said is kept in build/lab/STORY/log.
+LAB_ROUNDS how often a seeded scenario is played. What was said is kept in build/lab/STORY-SCENARIO/log.
 EOF
 }
 
@@ -88,9 +88,8 @@ make_initrd
 export LAB_KERNEL LAB_INITRD LAB_PROJECT LAB_BUILD
 
 play() {
-    local story=${1%% *} folder scenario=
+    local story=${1%% *} folder=build/lab/${1// /-} scenario=
     [[ $1 != *" "* ]] || scenario=${1#* }
-    folder=build/lab/$story
     mkdir -p "$folder"
     rm -f -- "$folder"/*
     LAB_ONLY=$scenario lab/machine.py "$story" "$folder" >"$folder/rows" || true
