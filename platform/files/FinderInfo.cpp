@@ -38,9 +38,10 @@ bool FinderInfo::setCustomIconFlag(const QString &folder)
     auto block = readBlock(path.constData());
     if (!block)
         return false;
+    const QByteArray before = *block;
     char *const field = block->data() + flagsOffset;
     const auto flags = qFromBigEndian<quint16>(field);
     qToBigEndian<quint16>((flags | hasCustomIcon) & quint16(~hasBeenInited), field);
-    return ::setxattr(path.constData(), attribute, block->constData(),
-                      static_cast<size_t>(block->size()), 0) == 0;
+    return *block == before || ::setxattr(path.constData(), attribute, block->constData(),
+                                          static_cast<size_t>(block->size()), 0) == 0;
 }
