@@ -201,7 +201,8 @@ logged() { caravel log | grep -F -- "$1" >/dev/null || fail "not in the log: $1"
 # at_most VALUE LIMIT WHAT
 at_most() {
     echo "$3: $1 (at most $2)"
-    awk -v value="$1" -v limit="$2" 'BEGIN { exit !(value <= limit) }' || fail "$3: $1, more than $2"
+    awk -v value="$1" -v limit="$2" 'BEGIN { exit !(value != "" && value <= limit) }' ||
+        fail "$3: $1, more than $2"
 }
 
 # --- Playing
