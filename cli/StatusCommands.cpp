@@ -2,6 +2,7 @@
 
 #include "cli/Output.h"
 #include "cli/Session.h"
+#include "frontend/HelperProcess.h"
 #include "frontend/ProgressText.h"
 #include "frontend/Rows.h"
 #include "util/ByteCount.h"
@@ -109,7 +110,7 @@ ExitStatus waitForEject(Session &session, const QString &volume)
             break;
         if (volumeOf(stick) != volume)
             return Done;
-        if (HelperClient::isHelperText(state.statusText, "Eject Failed")) {
+        if (HelperProcess::isText(state.statusText, "Eject Failed")) {
             QCoreApplication::processEvents(); // an alert that came before the texts
             Output::error(state.statusText + u'\n' + state.statusSubText);
             return Refused;

@@ -4,6 +4,7 @@
 #include "cli/Output.h"
 #include "cli/ProgressDisplay.h"
 #include "cli/ReportCommand.h"
+#include "frontend/HelperProcess.h"
 #include "platform/bus/DistributedNotificationCenter.h"
 
 using namespace std::chrono_literals;
@@ -94,7 +95,7 @@ void SyncFollower::conclude(const HelperState &state, bool completed)
         Output::print(Output::printable(state.statusSubText));
     for (const QString &line : reportLines(helper().ask(Protocol::lastRunSummary).toMap()))
         Output::print(line);
-    const bool isWhole = !HelperClient::isHelperText(state.statusText, "Sync Incomplete");
+    const bool isWhole = !HelperProcess::isText(state.statusText, "Sync Incomplete");
     finish(completed && isWhole ? Done : Refused);
 }
 

@@ -2,7 +2,6 @@
 
 #include "frontend/HelperProcess.h"
 #include "platform/bus/NamedConnection.h"
-#include "platform/core/Localized.h"
 #include "platform/files/FileManager.h"
 
 #include <QEventLoop>
@@ -126,12 +125,6 @@ HelperState HelperClient::state()
     // What was read in between is then of the run.
     state.syncing = wasSyncing && askBool(Protocol::isSyncing);
     return state;
-}
-
-bool HelperClient::isHelperText(const QString &text, const char *english)
-{
-    return isLocalizedForm(
-        text, english, HelperProcess::bundle().resourcePath() + QStringLiteral("/translations"));
 }
 
 void HelperClient::tell(const Protocol::Method &method, const QVariantList &arguments)

@@ -44,9 +44,6 @@ public:
     quint64 askCount(const Protocol::Method &method) { return ask(method).toULongLong(); }
     HelperState state();
 
-    /// Whether a text of the helper's is that English one, whatever language the helper speaks.
-    static bool isHelperText(const QString &text, const char *english);
-
     /// Sends a oneway call.
     void tell(const Protocol::Method &method, const QVariantList &arguments = {});
 

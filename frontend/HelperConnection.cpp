@@ -4,6 +4,7 @@
 #include "platform/bus/NamedConnection.h"
 #include "platform/core/Localized.h"
 #include "platform/files/FileManager.h"
+#include "util/TextFormat.h"
 
 using namespace std::chrono_literals;
 
@@ -76,8 +77,7 @@ void HelperConnection::introduced(const RemoteObject::Answer &answer)
     } else if (m_state == State::NoHelper) {
         return;
     } else if (!answer.isUnserved) {
-        fail(
-            localized("The helper did not answer: %@").replace(QStringLiteral("%@"), answer.error));
+        fail(filled(localized("The helper did not answer: %@"), {answer.error}));
     } else {
         startOwnHelper();
     }

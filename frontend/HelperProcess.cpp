@@ -1,6 +1,7 @@
 #include "frontend/HelperProcess.h"
 
 #include "platform/bus/NamedConnection.h"
+#include "platform/core/Localized.h"
 #include "protocol/Protocol.h"
 #include "util/FileManagerTools.h"
 #include "util/Folders.h"
@@ -37,6 +38,12 @@ bool HelperProcess::startDetached(const QString &executable)
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
     return process.startDetached();
+}
+
+bool HelperProcess::isText(const QString &text, const char *english)
+{
+    return isLocalizedForm(text, english,
+                           bundle().resourcePath() + QStringLiteral("/translations"));
 }
 
 QString HelperProcess::startLock()

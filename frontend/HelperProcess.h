@@ -18,6 +18,9 @@ std::unique_ptr<RemoteObject> remote();
 /// folder. False where it can't be started.
 bool startDetached(const QString &executable);
 
+/// Whether a text of the helper's is that English one, whatever language the helper speaks.
+bool isText(const QString &text, const char *english);
+
 /// The file whose lock keeps two front-ends from starting it at once: a second helper would send
 /// the first away under the other's hands. Its folder is made.
 QString startLock();

@@ -48,6 +48,382 @@
         <translation>Das Hilfsprogramm beendet sich immer wieder von selbst.</translation>
     </message>
     <message>
+        <source>%@ (%@ entries)</source>
+        <translation>%@ (%@ Einträge)</translation>
+    </message>
+    <message>
+        <source>%@ (not found)</source>
+        <translation>%@ (nicht gefunden)</translation>
+    </message>
+    <message>
+        <source>%@ copied</source>
+        <translation>%@ kopiert</translation>
+    </message>
+    <message>
+        <source>%@ free of %@</source>
+        <translation>%@ von %@ frei</translation>
+    </message>
+    <message>
+        <source>%@ in place</source>
+        <translation>%@ vorhanden</translation>
+    </message>
+    <message>
+        <source>%@ kept on this computer</source>
+        <translation>%@ auf diesem Computer aufbewahrt</translation>
+    </message>
+    <message>
+        <source>%@ left out</source>
+        <translation>%@ ausgelassen</translation>
+    </message>
+    <message>
+        <source>%@ missing</source>
+        <translation>%@ fehlen</translation>
+    </message>
+    <message>
+        <source>%@ needed, %@ freed, %@ free now.</source>
+        <translation>%@ benötigt, %@ werden frei, %@ jetzt frei.</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ von %@</translation>
+    </message>
+    <message>
+        <source>%@ removed</source>
+        <translation>%@ entfernt</translation>
+    </message>
+    <message>
+        <source>%@ replaced</source>
+        <translation>%@ ersetzt</translation>
+    </message>
+    <message>
+        <source>%@ to copy</source>
+        <translation>%@ zu kopieren</translation>
+    </message>
+    <message>
+        <source>%@ to remove</source>
+        <translation>%@ zu entfernen</translation>
+    </message>
+    <message>
+        <source>%@ to replace</source>
+        <translation>%@ zu ersetzen</translation>
+    </message>
+    <message>
+        <source>%@ too much for %@</source>
+        <translation>%@ zu viel für %@</translation>
+    </message>
+    <message>
+        <source>%@, %@ a second, %@ left</source>
+        <translation>%@, %@ pro Sekunde, noch %@</translation>
+    </message>
+    <message>
+        <source>%@, from %@ to %@</source>
+        <translation>%@, von %@ bis %@</translation>
+    </message>
+    <message>
+        <source>%@, from %@</source>
+        <translation>%@, ab %@</translation>
+    </message>
+    <message>
+        <source>%@: left out</source>
+        <translation>%@: ausgelassen</translation>
+    </message>
+    <message>
+        <source>%@: to copy</source>
+        <translation>%@: zu kopieren</translation>
+    </message>
+    <message>
+        <source>%@: to remove</source>
+        <translation>%@: zu entfernen</translation>
+    </message>
+    <message>
+        <source>%@: to replace</source>
+        <translation>%@: zu ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;PSP</source>
+        <translation>&amp;PSP</translation>
+    </message>
+    <message>
+        <source>A sync is running.</source>
+        <translation>Eine Synchronisierung läuft.</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Beginnen</translation>
+    </message>
+    <message>
+        <source>Brings the Memory Stick up to date with your selection</source>
+        <translation>Bringt den Memory Stick auf den Stand Ihrer Auswahl</translation>
+    </message>
+    <message>
+        <source>Capacity of the Memory Stick after the sync</source>
+        <translation>Belegung des Memory Sticks nach der Synchronisierung</translation>
+    </message>
+    <message>
+        <source>Caravel copies what you select in the next window to the PSP's Memory Stick, and removes there, from the folders of music, photos and movies, what is not selected any more. Files that it did not place itself are first copied to this computer, and your media on this computer are only read.</source>
+        <translation>Caravel kopiert auf den Memory Stick der PSP, was Sie im nächsten Fenster auswählen, und entfernt dort aus den Ordnern für Musik, Fotos und Filme, was nicht mehr ausgewählt ist. Dateien, die es nicht selbst dort abgelegt hat, werden zuvor auf diesen Computer kopiert, und Ihre Medien auf diesem Computer werden nur gelesen.</translation>
+    </message>
+    <message>
+        <source>Caravel's helper is being started.</source>
+        <translation>Das Hilfsprogramm von Caravel wird gestartet.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Closes this message</source>
+        <translation>Schließt diese Meldung</translation>
+    </message>
+    <message>
+        <source>Connect the PSP with a USB cable and choose "USB Connection" in its settings, or put its Memory Stick into a card reader.</source>
+        <translation>Verbinden Sie die PSP mit einem USB-Kabel und wählen Sie in ihren Einstellungen „USB-Verbindung“, oder stecken Sie ihren Memory Stick in einen Kartenleser.</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Kontakte</translation>
+    </message>
+    <message>
+        <source>Everything is written to it. You can disconnect the PSP now.</source>
+        <translation>Alles ist geschrieben. Sie können die PSP jetzt trennen.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed from it, but are kept: copies of them come to lie in %@.</source>
+        <translation>Dateien auf dem Memory Stick, die keine Synchronisierung dort abgelegt hat: %@. Sie werden von ihm entfernt, aber aufbewahrt: Kopien davon kommen nach %@.</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed, and your settings keep no copies.</source>
+        <translation>Dateien auf dem Memory Stick, die keine Synchronisierung dort abgelegt hat: %@. Sie werden entfernt, und nach Ihren Einstellungen wird keine Kopie aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Files that a sync would change</source>
+        <translation>Dateien, die eine Synchronisierung ändern würde</translation>
+    </message>
+    <message>
+        <source>Files that were left out or kept</source>
+        <translation>Dateien, die ausgelassen oder aufbewahrt wurden</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Game Saves</source>
+        <translation>Spielstände</translation>
+    </message>
+    <message>
+        <source>Kept on this computer, as no sync had placed them</source>
+        <translation>Auf diesem Computer aufbewahrt, da keine Synchronisierung sie abgelegt hatte</translation>
+    </message>
+    <message>
+        <source>Kinds of media</source>
+        <translation>Medienarten</translation>
+    </message>
+    <message>
+        <source>Last Sync...</source>
+        <translation>Letzte Synchronisierung …</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Memory Stick</source>
+        <translation>Memory Stick</translation>
+    </message>
+    <message>
+        <source>No PSP is connected</source>
+        <translation>Keine PSP ist verbunden</translation>
+    </message>
+    <message>
+        <source>No PSP is connected.</source>
+        <translation>Keine PSP ist verbunden.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Nothing was copied: the Memory Stick has no room for all of it</source>
+        <translation>Nichts wurde kopiert: Der Memory Stick hat nicht für alles Platz</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Anderes</translation>
+    </message>
+    <message>
+        <source>Preview...</source>
+        <translation>Vorschau …</translation>
+    </message>
+    <message>
+        <source>Progress of the sync</source>
+        <translation>Fortschritt der Synchronisierung</translation>
+    </message>
+    <message>
+        <source>Read Anew</source>
+        <translation>Neu einlesen</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Show Report...</source>
+        <translation>Bericht zeigen …</translation>
+    </message>
+    <message>
+        <source>Shows what a sync would do, without doing it</source>
+        <translation>Zeigt, was eine Synchronisierung tun würde, ohne es zu tun</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Starting...</source>
+        <translation>Wird gestartet …</translation>
+    </message>
+    <message>
+        <source>Starts the helper</source>
+        <translation>Startet das Hilfsprogramm</translation>
+    </message>
+    <message>
+        <source>Stops the sync; the next one completes it</source>
+        <translation>Hält die Synchronisierung an; die nächste vollendet sie</translation>
+    </message>
+    <message>
+        <source>The Last Sync</source>
+        <translation>Die letzte Synchronisierung</translation>
+    </message>
+    <message>
+        <source>The Memory Stick could not be looked at.</source>
+        <translation>Der Memory Stick konnte nicht untersucht werden.</translation>
+    </message>
+    <message>
+        <source>The Memory Stick was ejected</source>
+        <translation>Der Memory Stick wurde ausgeworfen</translation>
+    </message>
+    <message>
+        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <translation>Die Kopien liegen in %@. Was wieder auf den Memory Stick soll, gehört in eine Dropbox.</translation>
+    </message>
+    <message>
+        <source>The sync is complete but for what was left out</source>
+        <translation>Die Synchronisierung ist bis auf Ausgelassenes vollständig</translation>
+    </message>
+    <message>
+        <source>The sync is complete</source>
+        <translation>Die Synchronisierung ist vollständig</translation>
+    </message>
+    <message>
+        <source>The sync was cancelled</source>
+        <translation>Die Synchronisierung wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the Memory Stick was full</source>
+        <translation>Die Synchronisierung brach ab: Der Memory Stick war voll</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the PSP went away</source>
+        <translation>Die Synchronisierung brach ab: Die PSP war nicht mehr da</translation>
+    </message>
+    <message>
+        <source>There is no helper</source>
+        <translation>Es gibt kein Hilfsprogramm</translation>
+    </message>
+    <message>
+        <source>There was no sync yet</source>
+        <translation>Es gab noch keine Synchronisierung</translation>
+    </message>
+    <message>
+        <source>This is too much for the Memory Stick: nothing would be copied. Please deselect something.</source>
+        <translation>Das ist zu viel für den Memory Stick: Nichts würde kopiert. Bitte wählen Sie etwas ab.</translation>
+    </message>
+    <message>
+        <source>To remove, though no sync placed them</source>
+        <translation>Zu entfernen, obwohl keine Synchronisierung sie abgelegt hat</translation>
+    </message>
+    <message>
+        <source>To replace, though no sync placed them</source>
+        <translation>Zu ersetzen, obwohl keine Synchronisierung sie abgelegt hat</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Welcome to Caravel</source>
+        <translation>Willkommen bei Caravel</translation>
+    </message>
+    <message>
+        <source>What a Sync Would Do</source>
+        <translation>Was eine Synchronisierung tun würde</translation>
+    </message>
+    <message>
+        <source>Where Your Media Are...</source>
+        <translation>Wo Ihre Medien liegen …</translation>
+    </message>
+    <message>
+        <source>Where are your media?</source>
+        <translation>Wo liegen Ihre Medien?</translation>
+    </message>
+    <message>
+        <source>Working out what a sync would do...</source>
+        <translation>Es wird ermittelt, was eine Synchronisierung tun würde …</translation>
+    </message>
+    <message>
+        <source>Writes out all that waits and lets go of the Memory Stick</source>
+        <translation>Schreibt alles Ausstehende und gibt den Memory Stick frei</translation>
+    </message>
+    <message>
+        <source>a link on the Memory Stick is in the way</source>
+        <translation>eine Verknüpfung auf dem Memory Stick ist im Weg</translation>
+    </message>
+    <message>
+        <source>belongs to a file that is left out</source>
+        <translation>gehört zu einer ausgelassenen Datei</translation>
+    </message>
+    <message>
+        <source>not found on this computer</source>
+        <translation>auf diesem Computer nicht gefunden</translation>
+    </message>
+    <message>
+        <source>nothing to do</source>
+        <translation>nichts zu tun</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>too large for the Memory Stick</source>
+        <translation>zu groß für den Memory Stick</translation>
+    </message>
+    <message>
+        <source>too much for the Memory Stick</source>
+        <translation>zu viel für den Memory Stick</translation>
+    </message>
+    <message>
+        <source>what is there could not be kept</source>
+        <translation>was dort liegt, konnte nicht aufbewahrt werden</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>Wird initialisiert …</translation>
     </message>
@@ -97,10 +473,6 @@
     <message>
         <source>%@ of %@ shown</source>
         <translation>%@ von %@ angezeigt</translation>
-    </message>
-    <message>
-        <source>%@ of %@</source>
-        <translation>%@ von %@</translation>
     </message>
     <message>
         <source>2.00 or later</source>
@@ -209,10 +581,6 @@
     <message>
         <source>Clear</source>
         <translation>Leeren</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
     </message>
     <message>
         <source>Contacts and Saves</source>
@@ -377,10 +745,6 @@ Die PSP zeigt die Seite in ihrem Browser: Werden Lesezeichen synchronisiert, fü
     <message>
         <source>Loading...</source>
         <translation>Wird geladen …</translation>
-    </message>
-    <message>
-        <source>Log</source>
-        <translation>Protokoll</translation>
     </message>
     <message>
         <source>Move all backups of “%@” to the Trash (%@)?</source>

@@ -48,6 +48,382 @@
         <translation>El programa auxiliar se cierra una y otra vez por sí solo.</translation>
     </message>
     <message>
+        <source>%@ (%@ entries)</source>
+        <translation>%@ (%@ elementos)</translation>
+    </message>
+    <message>
+        <source>%@ (not found)</source>
+        <translation>%@ (no se ha encontrado)</translation>
+    </message>
+    <message>
+        <source>%@ copied</source>
+        <translation>%@ copiados</translation>
+    </message>
+    <message>
+        <source>%@ free of %@</source>
+        <translation>%@ libres de %@</translation>
+    </message>
+    <message>
+        <source>%@ in place</source>
+        <translation>%@ en su sitio</translation>
+    </message>
+    <message>
+        <source>%@ kept on this computer</source>
+        <translation>%@ conservados en este ordenador</translation>
+    </message>
+    <message>
+        <source>%@ left out</source>
+        <translation>%@ omitidos</translation>
+    </message>
+    <message>
+        <source>%@ missing</source>
+        <translation>%@ no encontrados</translation>
+    </message>
+    <message>
+        <source>%@ needed, %@ freed, %@ free now.</source>
+        <translation>%@ necesarios, %@ liberados, %@ libres ahora.</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ de %@</translation>
+    </message>
+    <message>
+        <source>%@ removed</source>
+        <translation>%@ eliminados</translation>
+    </message>
+    <message>
+        <source>%@ replaced</source>
+        <translation>%@ sustituidos</translation>
+    </message>
+    <message>
+        <source>%@ to copy</source>
+        <translation>%@ por copiar</translation>
+    </message>
+    <message>
+        <source>%@ to remove</source>
+        <translation>%@ por eliminar</translation>
+    </message>
+    <message>
+        <source>%@ to replace</source>
+        <translation>%@ por sustituir</translation>
+    </message>
+    <message>
+        <source>%@ too much for %@</source>
+        <translation>%@ de más para %@</translation>
+    </message>
+    <message>
+        <source>%@, %@ a second, %@ left</source>
+        <translation>%@, %@ por segundo, quedan %@</translation>
+    </message>
+    <message>
+        <source>%@, from %@ to %@</source>
+        <translation>%@, de %@ a %@</translation>
+    </message>
+    <message>
+        <source>%@, from %@</source>
+        <translation>%@, desde %@</translation>
+    </message>
+    <message>
+        <source>%@: left out</source>
+        <translation>%@: omitidos</translation>
+    </message>
+    <message>
+        <source>%@: to copy</source>
+        <translation>%@: por copiar</translation>
+    </message>
+    <message>
+        <source>%@: to remove</source>
+        <translation>%@: por eliminar</translation>
+    </message>
+    <message>
+        <source>%@: to replace</source>
+        <translation>%@: por sustituir</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;PSP</source>
+        <translation>&amp;PSP</translation>
+    </message>
+    <message>
+        <source>A sync is running.</source>
+        <translation>Hay una sincronización en curso.</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Empezar</translation>
+    </message>
+    <message>
+        <source>Brings the Memory Stick up to date with your selection</source>
+        <translation>Pone el Memory Stick al día con su selección</translation>
+    </message>
+    <message>
+        <source>Capacity of the Memory Stick after the sync</source>
+        <translation>Ocupación del Memory Stick tras la sincronización</translation>
+    </message>
+    <message>
+        <source>Caravel copies what you select in the next window to the PSP's Memory Stick, and removes there, from the folders of music, photos and movies, what is not selected any more. Files that it did not place itself are first copied to this computer, and your media on this computer are only read.</source>
+        <translation>Caravel copia en el Memory Stick de la PSP lo que seleccione en la ventana siguiente y elimina allí, de las carpetas de música, fotos y películas, lo que ya no esté seleccionado. Los archivos que no haya colocado él mismo se copian antes en este ordenador, y sus contenidos en este ordenador solo se leen.</translation>
+    </message>
+    <message>
+        <source>Caravel's helper is being started.</source>
+        <translation>Se está iniciando el programa auxiliar de Caravel.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Closes this message</source>
+        <translation>Cierra este mensaje</translation>
+    </message>
+    <message>
+        <source>Connect the PSP with a USB cable and choose "USB Connection" in its settings, or put its Memory Stick into a card reader.</source>
+        <translation>Conecte la PSP con un cable USB y elija «Conexión USB» en sus ajustes, o introduzca su Memory Stick en un lector de tarjetas.</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Contactos</translation>
+    </message>
+    <message>
+        <source>Everything is written to it. You can disconnect the PSP now.</source>
+        <translation>Todo está escrito. Ya puede desconectar la PSP.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed from it, but are kept: copies of them come to lie in %@.</source>
+        <translation>Archivos del Memory Stick que ninguna sincronización colocó: %@. Se eliminarán de él, pero se conservan: sus copias quedan en %@.</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed, and your settings keep no copies.</source>
+        <translation>Archivos del Memory Stick que ninguna sincronización colocó: %@. Se eliminarán y, según sus ajustes, no se conserva copia.</translation>
+    </message>
+    <message>
+        <source>Files that a sync would change</source>
+        <translation>Archivos que cambiaría una sincronización</translation>
+    </message>
+    <message>
+        <source>Files that were left out or kept</source>
+        <translation>Archivos omitidos o conservados</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Game Saves</source>
+        <translation>Partidas guardadas</translation>
+    </message>
+    <message>
+        <source>Kept on this computer, as no sync had placed them</source>
+        <translation>Conservados en este ordenador, pues ninguna sincronización los colocó</translation>
+    </message>
+    <message>
+        <source>Kinds of media</source>
+        <translation>Tipos de contenido</translation>
+    </message>
+    <message>
+        <source>Last Sync...</source>
+        <translation>Última sincronización...</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitidos</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Memory Stick</source>
+        <translation>Memory Stick</translation>
+    </message>
+    <message>
+        <source>No PSP is connected</source>
+        <translation>No hay ninguna PSP conectada</translation>
+    </message>
+    <message>
+        <source>No PSP is connected.</source>
+        <translation>No hay ninguna PSP conectada.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Nothing was copied: the Memory Stick has no room for all of it</source>
+        <translation>No se ha copiado nada: no cabe todo en el Memory Stick</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Otros</translation>
+    </message>
+    <message>
+        <source>Preview...</source>
+        <translation>Vista previa...</translation>
+    </message>
+    <message>
+        <source>Progress of the sync</source>
+        <translation>Progreso de la sincronización</translation>
+    </message>
+    <message>
+        <source>Read Anew</source>
+        <translation>Volver a leer</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>Ajustes...</translation>
+    </message>
+    <message>
+        <source>Show Report...</source>
+        <translation>Mostrar informe...</translation>
+    </message>
+    <message>
+        <source>Shows what a sync would do, without doing it</source>
+        <translation>Muestra lo que haría una sincronización, sin hacerlo</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Starting...</source>
+        <translation>Iniciando...</translation>
+    </message>
+    <message>
+        <source>Starts the helper</source>
+        <translation>Inicia el programa auxiliar</translation>
+    </message>
+    <message>
+        <source>Stops the sync; the next one completes it</source>
+        <translation>Detiene la sincronización; la siguiente la completa</translation>
+    </message>
+    <message>
+        <source>The Last Sync</source>
+        <translation>La última sincronización</translation>
+    </message>
+    <message>
+        <source>The Memory Stick could not be looked at.</source>
+        <translation>No se ha podido examinar el Memory Stick.</translation>
+    </message>
+    <message>
+        <source>The Memory Stick was ejected</source>
+        <translation>Se ha expulsado el Memory Stick</translation>
+    </message>
+    <message>
+        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <translation>Las copias están en %@. Lo que deba volver al Memory Stick se pone en un dropbox.</translation>
+    </message>
+    <message>
+        <source>The sync is complete but for what was left out</source>
+        <translation>La sincronización está completa, salvo lo omitido</translation>
+    </message>
+    <message>
+        <source>The sync is complete</source>
+        <translation>La sincronización está completa</translation>
+    </message>
+    <message>
+        <source>The sync was cancelled</source>
+        <translation>La sincronización se ha cancelado</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the Memory Stick was full</source>
+        <translation>La sincronización se ha interrumpido: el Memory Stick estaba lleno</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the PSP went away</source>
+        <translation>La sincronización se ha interrumpido: la PSP ya no estaba</translation>
+    </message>
+    <message>
+        <source>There is no helper</source>
+        <translation>No hay programa auxiliar</translation>
+    </message>
+    <message>
+        <source>There was no sync yet</source>
+        <translation>Todavía no ha habido ninguna sincronización</translation>
+    </message>
+    <message>
+        <source>This is too much for the Memory Stick: nothing would be copied. Please deselect something.</source>
+        <translation>Es demasiado para el Memory Stick: no se copiaría nada. Deseleccione algo.</translation>
+    </message>
+    <message>
+        <source>To remove, though no sync placed them</source>
+        <translation>Por eliminar, aunque ninguna sincronización los colocó</translation>
+    </message>
+    <message>
+        <source>To replace, though no sync placed them</source>
+        <translation>Por sustituir, aunque ninguna sincronización los colocó</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Welcome to Caravel</source>
+        <translation>Bienvenido a Caravel</translation>
+    </message>
+    <message>
+        <source>What a Sync Would Do</source>
+        <translation>Lo que haría una sincronización</translation>
+    </message>
+    <message>
+        <source>Where Your Media Are...</source>
+        <translation>Dónde están sus contenidos...</translation>
+    </message>
+    <message>
+        <source>Where are your media?</source>
+        <translation>¿Dónde están sus contenidos?</translation>
+    </message>
+    <message>
+        <source>Working out what a sync would do...</source>
+        <translation>Averiguando lo que haría una sincronización...</translation>
+    </message>
+    <message>
+        <source>Writes out all that waits and lets go of the Memory Stick</source>
+        <translation>Escribe todo lo pendiente y libera el Memory Stick</translation>
+    </message>
+    <message>
+        <source>a link on the Memory Stick is in the way</source>
+        <translation>un enlace del Memory Stick lo impide</translation>
+    </message>
+    <message>
+        <source>belongs to a file that is left out</source>
+        <translation>pertenece a un archivo omitido</translation>
+    </message>
+    <message>
+        <source>not found on this computer</source>
+        <translation>no se encuentra en este ordenador</translation>
+    </message>
+    <message>
+        <source>nothing to do</source>
+        <translation>nada que hacer</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>too large for the Memory Stick</source>
+        <translation>demasiado grande para el Memory Stick</translation>
+    </message>
+    <message>
+        <source>too much for the Memory Stick</source>
+        <translation>demasiado para el Memory Stick</translation>
+    </message>
+    <message>
+        <source>what is there could not be kept</source>
+        <translation>lo que hay allí no se ha podido conservar</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>Inicializando…</translation>
     </message>
@@ -97,10 +473,6 @@
     <message>
         <source>%@ of %@ shown</source>
         <translation>%@ de %@ visibles</translation>
-    </message>
-    <message>
-        <source>%@ of %@</source>
-        <translation>%@ de %@</translation>
     </message>
     <message>
         <source>2.00 or later</source>
@@ -209,10 +581,6 @@
     <message>
         <source>Clear</source>
         <translation>Vaciar</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Contacts and Saves</source>
@@ -377,10 +745,6 @@ La PSP muestra la página en su navegador: si se sincronizan los marcadores, uno
     <message>
         <source>Loading...</source>
         <translation>Cargando…</translation>
-    </message>
-    <message>
-        <source>Log</source>
-        <translation>Registro</translation>
     </message>
     <message>
         <source>Move all backups of “%@” to the Trash (%@)?</source>

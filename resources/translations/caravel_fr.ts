@@ -48,6 +48,382 @@
         <translation>L’assistant s’arrête sans cesse de lui-même.</translation>
     </message>
     <message>
+        <source>%@ (%@ entries)</source>
+        <translation>%@ (%@ éléments)</translation>
+    </message>
+    <message>
+        <source>%@ (not found)</source>
+        <translation>%@ (introuvable)</translation>
+    </message>
+    <message>
+        <source>%@ copied</source>
+        <translation>%@ copiés</translation>
+    </message>
+    <message>
+        <source>%@ free of %@</source>
+        <translation>%@ libres sur %@</translation>
+    </message>
+    <message>
+        <source>%@ in place</source>
+        <translation>%@ en place</translation>
+    </message>
+    <message>
+        <source>%@ kept on this computer</source>
+        <translation>%@ conservés sur cet ordinateur</translation>
+    </message>
+    <message>
+        <source>%@ left out</source>
+        <translation>%@ laissés de côté</translation>
+    </message>
+    <message>
+        <source>%@ missing</source>
+        <translation>%@ manquants</translation>
+    </message>
+    <message>
+        <source>%@ needed, %@ freed, %@ free now.</source>
+        <translation>%@ nécessaires, %@ libérés, %@ libres à présent.</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ sur %@</translation>
+    </message>
+    <message>
+        <source>%@ removed</source>
+        <translation>%@ supprimés</translation>
+    </message>
+    <message>
+        <source>%@ replaced</source>
+        <translation>%@ remplacés</translation>
+    </message>
+    <message>
+        <source>%@ to copy</source>
+        <translation>%@ à copier</translation>
+    </message>
+    <message>
+        <source>%@ to remove</source>
+        <translation>%@ à supprimer</translation>
+    </message>
+    <message>
+        <source>%@ to replace</source>
+        <translation>%@ à remplacer</translation>
+    </message>
+    <message>
+        <source>%@ too much for %@</source>
+        <translation>%@ de trop pour %@</translation>
+    </message>
+    <message>
+        <source>%@, %@ a second, %@ left</source>
+        <translation>%@, %@ par seconde, reste %@</translation>
+    </message>
+    <message>
+        <source>%@, from %@ to %@</source>
+        <translation>%@, de %@ à %@</translation>
+    </message>
+    <message>
+        <source>%@, from %@</source>
+        <translation>%@, à partir de %@</translation>
+    </message>
+    <message>
+        <source>%@: left out</source>
+        <translation>%@ : laissés de côté</translation>
+    </message>
+    <message>
+        <source>%@: to copy</source>
+        <translation>%@ : à copier</translation>
+    </message>
+    <message>
+        <source>%@: to remove</source>
+        <translation>%@ : à supprimer</translation>
+    </message>
+    <message>
+        <source>%@: to replace</source>
+        <translation>%@ : à remplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>&amp;PSP</source>
+        <translation>&amp;PSP</translation>
+    </message>
+    <message>
+        <source>A sync is running.</source>
+        <translation>Une synchronisation est en cours.</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Commencer</translation>
+    </message>
+    <message>
+        <source>Brings the Memory Stick up to date with your selection</source>
+        <translation>Met le Memory Stick à jour avec votre sélection</translation>
+    </message>
+    <message>
+        <source>Capacity of the Memory Stick after the sync</source>
+        <translation>Occupation du Memory Stick après la synchronisation</translation>
+    </message>
+    <message>
+        <source>Caravel copies what you select in the next window to the PSP's Memory Stick, and removes there, from the folders of music, photos and movies, what is not selected any more. Files that it did not place itself are first copied to this computer, and your media on this computer are only read.</source>
+        <translation>Caravel copie sur le Memory Stick de la PSP ce que vous sélectionnez dans la fenêtre suivante et y supprime, dans les dossiers de musique, de photos et de films, ce qui n’est plus sélectionné. Les fichiers qu’il n’a pas placés lui-même sont d’abord copiés sur cet ordinateur, et vos médias sur cet ordinateur sont uniquement lus.</translation>
+    </message>
+    <message>
+        <source>Caravel's helper is being started.</source>
+        <translation>L’assistant de Caravel est en cours de lancement.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Closes this message</source>
+        <translation>Ferme ce message</translation>
+    </message>
+    <message>
+        <source>Connect the PSP with a USB cable and choose "USB Connection" in its settings, or put its Memory Stick into a card reader.</source>
+        <translation>Reliez la PSP par un câble USB et choisissez « Connexion USB » dans ses paramètres, ou insérez son Memory Stick dans un lecteur de cartes.</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Contacts</translation>
+    </message>
+    <message>
+        <source>Everything is written to it. You can disconnect the PSP now.</source>
+        <translation>Tout y est écrit. Vous pouvez maintenant débrancher la PSP.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed from it, but are kept: copies of them come to lie in %@.</source>
+        <translation>Fichiers du Memory Stick qu’aucune synchronisation n’a placés : %@. Ils en seront supprimés, mais conservés : des copies en sont faites dans %@.</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed, and your settings keep no copies.</source>
+        <translation>Fichiers du Memory Stick qu’aucune synchronisation n’a placés : %@. Ils seront supprimés, et vos réglages n’en gardent aucune copie.</translation>
+    </message>
+    <message>
+        <source>Files that a sync would change</source>
+        <translation>Fichiers qu’une synchronisation changerait</translation>
+    </message>
+    <message>
+        <source>Files that were left out or kept</source>
+        <translation>Fichiers laissés de côté ou conservés</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Game Saves</source>
+        <translation>Sauvegardes de jeux</translation>
+    </message>
+    <message>
+        <source>Kept on this computer, as no sync had placed them</source>
+        <translation>Conservés sur cet ordinateur, car aucune synchronisation ne les avait placés</translation>
+    </message>
+    <message>
+        <source>Kinds of media</source>
+        <translation>Types de médias</translation>
+    </message>
+    <message>
+        <source>Last Sync...</source>
+        <translation>Dernière synchronisation…</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Laissés de côté</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Memory Stick</source>
+        <translation>Memory Stick</translation>
+    </message>
+    <message>
+        <source>No PSP is connected</source>
+        <translation>Aucune PSP n’est connectée</translation>
+    </message>
+    <message>
+        <source>No PSP is connected.</source>
+        <translation>Aucune PSP n’est connectée.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Nothing was copied: the Memory Stick has no room for all of it</source>
+        <translation>Rien n’a été copié : le Memory Stick n’a pas de place pour tout</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>Preview...</source>
+        <translation>Aperçu…</translation>
+    </message>
+    <message>
+        <source>Progress of the sync</source>
+        <translation>Progression de la synchronisation</translation>
+    </message>
+    <message>
+        <source>Read Anew</source>
+        <translation>Relire</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>Réglages…</translation>
+    </message>
+    <message>
+        <source>Show Report...</source>
+        <translation>Afficher le rapport…</translation>
+    </message>
+    <message>
+        <source>Shows what a sync would do, without doing it</source>
+        <translation>Montre ce qu’une synchronisation ferait, sans le faire</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Starting...</source>
+        <translation>Lancement…</translation>
+    </message>
+    <message>
+        <source>Starts the helper</source>
+        <translation>Lance l’assistant</translation>
+    </message>
+    <message>
+        <source>Stops the sync; the next one completes it</source>
+        <translation>Arrête la synchronisation ; la suivante l’achève</translation>
+    </message>
+    <message>
+        <source>The Last Sync</source>
+        <translation>La dernière synchronisation</translation>
+    </message>
+    <message>
+        <source>The Memory Stick could not be looked at.</source>
+        <translation>Le Memory Stick n’a pas pu être examiné.</translation>
+    </message>
+    <message>
+        <source>The Memory Stick was ejected</source>
+        <translation>Le Memory Stick a été éjecté</translation>
+    </message>
+    <message>
+        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <translation>Les copies se trouvent dans %@. Ce qui doit revenir sur le Memory Stick se met dans une dropbox.</translation>
+    </message>
+    <message>
+        <source>The sync is complete but for what was left out</source>
+        <translation>La synchronisation est complète, sauf ce qui a été laissé de côté</translation>
+    </message>
+    <message>
+        <source>The sync is complete</source>
+        <translation>La synchronisation est complète</translation>
+    </message>
+    <message>
+        <source>The sync was cancelled</source>
+        <translation>La synchronisation a été annulée</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the Memory Stick was full</source>
+        <translation>La synchronisation a été interrompue : le Memory Stick était plein</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the PSP went away</source>
+        <translation>La synchronisation a été interrompue : la PSP n’était plus là</translation>
+    </message>
+    <message>
+        <source>There is no helper</source>
+        <translation>Il n’y a pas d’assistant</translation>
+    </message>
+    <message>
+        <source>There was no sync yet</source>
+        <translation>Il n’y a pas encore eu de synchronisation</translation>
+    </message>
+    <message>
+        <source>This is too much for the Memory Stick: nothing would be copied. Please deselect something.</source>
+        <translation>C’est trop pour le Memory Stick : rien ne serait copié. Veuillez désélectionner quelque chose.</translation>
+    </message>
+    <message>
+        <source>To remove, though no sync placed them</source>
+        <translation>À supprimer, bien qu’aucune synchronisation ne les ait placés</translation>
+    </message>
+    <message>
+        <source>To replace, though no sync placed them</source>
+        <translation>À remplacer, bien qu’aucune synchronisation ne les ait placés</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Welcome to Caravel</source>
+        <translation>Bienvenue dans Caravel</translation>
+    </message>
+    <message>
+        <source>What a Sync Would Do</source>
+        <translation>Ce que ferait une synchronisation</translation>
+    </message>
+    <message>
+        <source>Where Your Media Are...</source>
+        <translation>Où sont vos médias…</translation>
+    </message>
+    <message>
+        <source>Where are your media?</source>
+        <translation>Où sont vos médias ?</translation>
+    </message>
+    <message>
+        <source>Working out what a sync would do...</source>
+        <translation>Calcul de ce que ferait une synchronisation…</translation>
+    </message>
+    <message>
+        <source>Writes out all that waits and lets go of the Memory Stick</source>
+        <translation>Écrit tout ce qui attend et libère le Memory Stick</translation>
+    </message>
+    <message>
+        <source>a link on the Memory Stick is in the way</source>
+        <translation>un lien sur le Memory Stick fait obstacle</translation>
+    </message>
+    <message>
+        <source>belongs to a file that is left out</source>
+        <translation>accompagne un fichier laissé de côté</translation>
+    </message>
+    <message>
+        <source>not found on this computer</source>
+        <translation>introuvable sur cet ordinateur</translation>
+    </message>
+    <message>
+        <source>nothing to do</source>
+        <translation>rien à faire</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>too large for the Memory Stick</source>
+        <translation>trop gros pour le Memory Stick</translation>
+    </message>
+    <message>
+        <source>too much for the Memory Stick</source>
+        <translation>trop pour le Memory Stick</translation>
+    </message>
+    <message>
+        <source>what is there could not be kept</source>
+        <translation>ce qui s’y trouve n’a pas pu être conservé</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>Initialisation…</translation>
     </message>
@@ -97,10 +473,6 @@
     <message>
         <source>%@ of %@ shown</source>
         <translation>%@ sur %@ affichés</translation>
-    </message>
-    <message>
-        <source>%@ of %@</source>
-        <translation>%@ sur %@</translation>
     </message>
     <message>
         <source>2.00 or later</source>
@@ -209,10 +581,6 @@
     <message>
         <source>Clear</source>
         <translation>Effacer</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
     </message>
     <message>
         <source>Contacts and Saves</source>
@@ -377,10 +745,6 @@ La PSP affiche la page dans son navigateur : si les signets sont synchronisés, 
     <message>
         <source>Loading...</source>
         <translation>Chargement…</translation>
-    </message>
-    <message>
-        <source>Log</source>
-        <translation>Journal</translation>
     </message>
     <message>
         <source>Move all backups of “%@” to the Trash (%@)?</source>

@@ -48,6 +48,382 @@
         <translation>ヘルパーが何度も自動的に終了します。</translation>
     </message>
     <message>
+        <source>%@ (%@ entries)</source>
+        <translation>%@（%@ 項目）</translation>
+    </message>
+    <message>
+        <source>%@ (not found)</source>
+        <translation>%@（見つかりません）</translation>
+    </message>
+    <message>
+        <source>%@ copied</source>
+        <translation>コピー %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ free of %@</source>
+        <translation>空き %@ / %@</translation>
+    </message>
+    <message>
+        <source>%@ in place</source>
+        <translation>配置済み %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ kept on this computer</source>
+        <translation>このコンピュータに保管 %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ left out</source>
+        <translation>対象外 %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ missing</source>
+        <translation>見つからない %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ needed, %@ freed, %@ free now.</source>
+        <translation>必要 %@、解放 %@、現在の空き %@。</translation>
+    </message>
+    <message>
+        <source>%@ of %@</source>
+        <translation>%@ / %@</translation>
+    </message>
+    <message>
+        <source>%@ removed</source>
+        <translation>削除 %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ replaced</source>
+        <translation>置き換え %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ to copy</source>
+        <translation>コピー予定 %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ to remove</source>
+        <translation>削除予定 %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ to replace</source>
+        <translation>置き換え予定 %@ 個</translation>
+    </message>
+    <message>
+        <source>%@ too much for %@</source>
+        <translation>%@ 超過（容量 %@）</translation>
+    </message>
+    <message>
+        <source>%@, %@ a second, %@ left</source>
+        <translation>%@、毎秒 %@、残り %@</translation>
+    </message>
+    <message>
+        <source>%@, from %@ to %@</source>
+        <translation>%@、%@ から %@ まで</translation>
+    </message>
+    <message>
+        <source>%@, from %@</source>
+        <translation>%@、%@ から</translation>
+    </message>
+    <message>
+        <source>%@: left out</source>
+        <translation>%@: 対象外</translation>
+    </message>
+    <message>
+        <source>%@: to copy</source>
+        <translation>%@: コピー予定</translation>
+    </message>
+    <message>
+        <source>%@: to remove</source>
+        <translation>%@: 削除予定</translation>
+    </message>
+    <message>
+        <source>%@: to replace</source>
+        <translation>%@: 置き換え予定</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;PSP</source>
+        <translation>PSP(&amp;P)</translation>
+    </message>
+    <message>
+        <source>A sync is running.</source>
+        <translation>同期中です。</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>始める</translation>
+    </message>
+    <message>
+        <source>Brings the Memory Stick up to date with your selection</source>
+        <translation>Memory Stick を選択内容に合わせて更新します</translation>
+    </message>
+    <message>
+        <source>Capacity of the Memory Stick after the sync</source>
+        <translation>同期後の Memory Stick の容量</translation>
+    </message>
+    <message>
+        <source>Caravel copies what you select in the next window to the PSP's Memory Stick, and removes there, from the folders of music, photos and movies, what is not selected any more. Files that it did not place itself are first copied to this computer, and your media on this computer are only read.</source>
+        <translation>Caravel は次のウインドウで選択した内容を PSP の Memory Stick にコピーし、そこの音楽・写真・ムービーのフォルダから、選択されなくなったものを削除します。Caravel が置いたものではないファイルは先にこのコンピュータへコピーされ、このコンピュータにあるメディアは読み取られるだけです。</translation>
+    </message>
+    <message>
+        <source>Caravel's helper is being started.</source>
+        <translation>Caravel のヘルパーを起動しています。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Closes this message</source>
+        <translation>このメッセージを閉じます</translation>
+    </message>
+    <message>
+        <source>Connect the PSP with a USB cable and choose "USB Connection" in its settings, or put its Memory Stick into a card reader.</source>
+        <translation>PSP を USB ケーブルで接続し、設定で「USB 接続」を選んでください。または Memory Stick をカードリーダーに挿入してください。</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>連絡先</translation>
+    </message>
+    <message>
+        <source>Everything is written to it. You can disconnect the PSP now.</source>
+        <translation>すべて書き込まれました。PSP を取り外せます。</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed from it, but are kept: copies of them come to lie in %@.</source>
+        <translation>同期で置かれたものではない Memory Stick 上のファイル: %@ 個。削除されますが保管されます。コピーは %@ に置かれます。</translation>
+    </message>
+    <message>
+        <source>Files on the Memory Stick that no sync placed: %@. They will be removed, and your settings keep no copies.</source>
+        <translation>同期で置かれたものではない Memory Stick 上のファイル: %@ 個。これらは削除され、設定によりコピーは保管されません。</translation>
+    </message>
+    <message>
+        <source>Files that a sync would change</source>
+        <translation>同期で変更されるファイル</translation>
+    </message>
+    <message>
+        <source>Files that were left out or kept</source>
+        <translation>対象外または保管されたファイル</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Game Saves</source>
+        <translation>セーブデータ</translation>
+    </message>
+    <message>
+        <source>Kept on this computer, as no sync had placed them</source>
+        <translation>同期で置かれたものではないため、このコンピュータに保管</translation>
+    </message>
+    <message>
+        <source>Kinds of media</source>
+        <translation>メディアの種類</translation>
+    </message>
+    <message>
+        <source>Last Sync...</source>
+        <translation>前回の同期...</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>対象外</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>Memory Stick</source>
+        <translation>Memory Stick</translation>
+    </message>
+    <message>
+        <source>No PSP is connected</source>
+        <translation>PSP が接続されていません</translation>
+    </message>
+    <message>
+        <source>No PSP is connected.</source>
+        <translation>PSP が接続されていません。</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>Nothing was copied: the Memory Stick has no room for all of it</source>
+        <translation>何もコピーされませんでした。Memory Stick にすべてを入れる空きがありません</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Preview...</source>
+        <translation>プレビュー...</translation>
+    </message>
+    <message>
+        <source>Progress of the sync</source>
+        <translation>同期の進行状況</translation>
+    </message>
+    <message>
+        <source>Read Anew</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>設定...</translation>
+    </message>
+    <message>
+        <source>Show Report...</source>
+        <translation>レポートを表示...</translation>
+    </message>
+    <message>
+        <source>Shows what a sync would do, without doing it</source>
+        <translation>同期を実行せずに、同期の内容を表示します</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Starting...</source>
+        <translation>起動中...</translation>
+    </message>
+    <message>
+        <source>Starts the helper</source>
+        <translation>ヘルパーを起動します</translation>
+    </message>
+    <message>
+        <source>Stops the sync; the next one completes it</source>
+        <translation>同期を中止します。次回の同期で残りが完了します</translation>
+    </message>
+    <message>
+        <source>The Last Sync</source>
+        <translation>前回の同期</translation>
+    </message>
+    <message>
+        <source>The Memory Stick could not be looked at.</source>
+        <translation>Memory Stick を調べられませんでした。</translation>
+    </message>
+    <message>
+        <source>The Memory Stick was ejected</source>
+        <translation>Memory Stick を取り出しました</translation>
+    </message>
+    <message>
+        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <translation>コピーは %@ にあります。Memory Stick に戻すものはドロップボックスに入れてください。</translation>
+    </message>
+    <message>
+        <source>The sync is complete but for what was left out</source>
+        <translation>対象外のものを除いて同期が完了しました</translation>
+    </message>
+    <message>
+        <source>The sync is complete</source>
+        <translation>同期が完了しました</translation>
+    </message>
+    <message>
+        <source>The sync was cancelled</source>
+        <translation>同期はキャンセルされました</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the Memory Stick was full</source>
+        <translation>Memory Stick がいっぱいになり、同期が中断されました</translation>
+    </message>
+    <message>
+        <source>The sync was cut short: the PSP went away</source>
+        <translation>PSP が取り外され、同期が中断されました</translation>
+    </message>
+    <message>
+        <source>There is no helper</source>
+        <translation>ヘルパーがありません</translation>
+    </message>
+    <message>
+        <source>There was no sync yet</source>
+        <translation>まだ同期されていません</translation>
+    </message>
+    <message>
+        <source>This is too much for the Memory Stick: nothing would be copied. Please deselect something.</source>
+        <translation>Memory Stick に入りきらないため、何もコピーされません。選択を減らしてください。</translation>
+    </message>
+    <message>
+        <source>To remove, though no sync placed them</source>
+        <translation>同期で置かれたものではないが、削除予定</translation>
+    </message>
+    <message>
+        <source>To replace, though no sync placed them</source>
+        <translation>同期で置かれたものではないが、置き換え予定</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Welcome to Caravel</source>
+        <translation>Caravel へようこそ</translation>
+    </message>
+    <message>
+        <source>What a Sync Would Do</source>
+        <translation>同期で行われること</translation>
+    </message>
+    <message>
+        <source>Where Your Media Are...</source>
+        <translation>メディアの場所...</translation>
+    </message>
+    <message>
+        <source>Where are your media?</source>
+        <translation>メディアはどこにありますか?</translation>
+    </message>
+    <message>
+        <source>Working out what a sync would do...</source>
+        <translation>同期の内容を調べています...</translation>
+    </message>
+    <message>
+        <source>Writes out all that waits and lets go of the Memory Stick</source>
+        <translation>未書き込みの内容を書き込み、Memory Stick を取り外せるようにします</translation>
+    </message>
+    <message>
+        <source>a link on the Memory Stick is in the way</source>
+        <translation>Memory Stick 上のリンクが妨げになっています</translation>
+    </message>
+    <message>
+        <source>belongs to a file that is left out</source>
+        <translation>対象外のファイルに付属しています</translation>
+    </message>
+    <message>
+        <source>not found on this computer</source>
+        <translation>このコンピュータに見つかりません</translation>
+    </message>
+    <message>
+        <source>nothing to do</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>too large for the Memory Stick</source>
+        <translation>Memory Stick には大きすぎます</translation>
+    </message>
+    <message>
+        <source>too much for the Memory Stick</source>
+        <translation>Memory Stick に入りきりません</translation>
+    </message>
+    <message>
+        <source>what is there could not be kept</source>
+        <translation>既存のファイルを保管できませんでした</translation>
+    </message>
+    <message>
         <source>Initializing...</source>
         <translation>初期化しています…</translation>
     </message>
@@ -97,10 +473,6 @@
     <message>
         <source>%@ of %@ shown</source>
         <translation>%@ / %@ を表示</translation>
-    </message>
-    <message>
-        <source>%@ of %@</source>
-        <translation>%@ / %@</translation>
     </message>
     <message>
         <source>2.00 or later</source>
@@ -209,10 +581,6 @@
     <message>
         <source>Clear</source>
         <translation>消去</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
     </message>
     <message>
         <source>Contacts and Saves</source>
@@ -377,10 +745,6 @@ The PSP shows the page in its browser: with bookmarks synced, one of them leads 
     <message>
         <source>Loading...</source>
         <translation>読み込み中…</translation>
-    </message>
-    <message>
-        <source>Log</source>
-        <translation>ログ</translation>
     </message>
     <message>
         <source>Move all backups of “%@” to the Trash (%@)?</source>

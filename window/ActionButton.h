@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QAction>
+#include <QPushButton>
+
+/// A button that does what an action does, and is shown and enabled as that is. Main thread.
+class ActionButton : public QPushButton
+{
+    Q_OBJECT
+public:
+    /// The action outlives it.
+    explicit ActionButton(QAction &action, QWidget *parent = nullptr)
+        : QPushButton(parent)
+        , m_action(action)
+    {
+        connect(this, &QPushButton::clicked, &action, &QAction::trigger);
+        connect(&action, &QAction::changed, this, &ActionButton::follow);
+        follow();
+    }
+
+private:
+    void follow()
+    {
+        // What a menu needs behind a text that opens a dialog, a button does without.
+        setText(m_action.iconText());
+        setToolTip(m_action.statusTip());
+        setAccessibleDescription(m_action.statusTip());
+        setEnabled(m_action.isEnabled());
+        setVisible(m_action.isVisible());
+    }
+
+    QAction &m_action;
+};
