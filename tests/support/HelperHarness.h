@@ -29,6 +29,7 @@ public:
     bool sync()
     {
         helper->logger().clear();
+        alerts.titles.clear();
         const auto says = [this](QStringView text) {
             return helper->logger().log().contains(text);
         };

@@ -6,6 +6,7 @@
 #include "support/ListModule.h"
 #include "sync/ModuleSelection.h"
 #include "sync/StickEditor.h"
+#include "sync/SyncPreview.h"
 #include "util/Settings.h"
 
 #include <QDir>
@@ -267,6 +268,47 @@ TEST(Estimate, HasTwoAtWorkAtMostAndOneThatWaits)
     mayEnd.release(3);
     SyncHarness::settle();
     EXPECT_EQ(harness.delegate.count(u"newSyncBytesEstimate 0"_s), 3);
+}
+
+TEST(Preview, AnswersAllWhoAskedAndDropsWhatIsNotTrueAnyMore)
+{
+    std::counting_semaphore<> mayEnd(0);
+    std::atomic<int> begun = 0;
+    const ListModule::Wishes wishes{[&] {
+                                        ++begun;
+                                        mayEnd.acquire();
+                                        return std::vector<CVSyncItem>();
+                                    },
+                                    u"/x"_s};
+    const SyncHarness harness;
+    const ModuleCatalogue kinds{ListModule::kind(u"Music"_s, wishes)};
+    SyncPreview preview(kinds);
+    QStringList told;
+    QObject::connect(&preview, &SyncPreview::isReady,
+                     [&](bool ready) { told.append(ready ? u"ready"_s : u"none"_s); });
+    const auto toldAfter = [&](int plannings) {
+        mayEnd.release(plannings);
+        SyncHarness::settle();
+        return joined(std::exchange(told, {}), u" ");
+    };
+    preview.request(harness.stick());
+    preview.request(harness.stick());
+    EXPECT_EQ(toldAfter(1), "ready") << "two who ask at once";
+    preview.request(harness.stick());
+    EXPECT_TRUE(waitFor([&] { return begun == 2; }));
+    preview.invalidate();
+    EXPECT_EQ(toldAfter(2), "ready") << "a change while planning begins anew";
+    EXPECT_NE(preview.plan(), nullptr);
+    preview.invalidate();
+    EXPECT_EQ(preview.plan(), nullptr);
+    EXPECT_EQ(toldAfter(0), "none") << "a later one empties the plan";
+    preview.request(harness.stick());
+    preview.forget();
+    EXPECT_EQ(toldAfter(1), "none") << "a stick that goes while planning";
+    EXPECT_EQ(preview.plan(), nullptr);
+    preview.request({});
+    EXPECT_EQ(toldAfter(0), "none") << "no stick";
+    EXPECT_EQ(begun, 4);
 }
 
 TEST(Threads, ThatCannotStartEndARunAndAnEstimateAtOnce)

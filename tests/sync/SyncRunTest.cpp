@@ -279,6 +279,34 @@ TEST_F(SyncRunTest, ReportsAStickThatFailsAndPutsItRightNextTime)
     EXPECT_EQ(readFile(harness.place(u"big"_s)).size(), 2 * chunk + 100);
 }
 
+TEST_F(SyncRunTest, LeavesWhatItCannotKeep)
+{
+    const QString kept = harness.home(u"Documents/Caravel/Removed from PSP"_s);
+    const QString mine = harness.place(u"mine"_s);
+    QFile::remove(harness.place(u"stale"_s));
+    for (const int error : {ENOSPC, EFBIG, EIO}) {
+        writeFile(mine, "mine");
+        files.refusal = error;
+        files.readOnlyBelow = error == EIO ? QString() : kept;
+        if (error == EIO) // on the stick
+            when("syncWillCleanUp", [this] { files.readableTimes = 0; });
+        EXPECT_TRUE(harness.run());
+        const RunReport &report = harness.delegate.report;
+        EXPECT_EQ(report.outcome(), RunReport::Outcome::Incomplete) << error;
+        ASSERT_FALSE(report.leftOut.empty());
+        EXPECT_EQ(report.leftOut[0].path, mine);
+        EXPECT_TRUE(report.leftOut[0].text.endsWith(u": "_s + qt_error_string(error)));
+        EXPECT_EQ(readFile(mine), "mine");
+        EXPECT_TRUE(treeOf(kept).filter(u"mine"_s).isEmpty());
+        files.readableTimes.reset();
+    }
+    files.readOnlyBelow.clear();
+    EXPECT_TRUE(harness.run());
+    EXPECT_FALSE(QFile::exists(mine));
+    EXPECT_EQ(treeOf(kept).filter(u"/PSP/MUSIC/mine"_s).size(), 1);
+    EXPECT_FALSE(QFile::exists(kept + u"/.unfinished"_s));
+}
+
 TEST_F(SyncRunTest, ComparesWhatAnInterruptedRunPlacedLast)
 {
     QVariantList unfinished;
