@@ -69,8 +69,9 @@ QVariantList Sources::rows()
         rows.append(row(CVSyncPhotos::saveName(), source, source.number == Settings::photoLibrary(),
                         CVSyncPhotos::placeOf, CVSyncPhotos::albumsOf));
     for (const auto &source : bookmarks)
-        rows.append(row(CVSyncBookmarks::saveName(), source,
-                        source.number == Settings::bookmarkSource(), CVSyncBookmarks::placeOf,
-                        CVSyncBookmarks::foldersOf));
+        rows.append(
+            row(CVSyncBookmarks::saveName(), source, source.number == Settings::bookmarkSource(),
+                CVSyncBookmarks::placeOf,
+                [](BookmarkBrowser browser) { return CVSyncBookmarks::foldersOf(browser); }));
     return rows;
 }

@@ -73,7 +73,8 @@ CVSyncBookmarks::FolderList CVSyncBookmarks::availableIdentifiers()
     return foldersOf(Settings::bookmarkSource());
 }
 
-CVSyncBookmarks::FolderList CVSyncBookmarks::foldersOf(BookmarkBrowser browser)
+CVSyncBookmarks::FolderList CVSyncBookmarks::foldersOf(BookmarkBrowser browser,
+                                                       const ShouldStop &shouldStop)
 {
     switch (browser) {
     case BookmarkBrowser::Safari:
@@ -85,7 +86,7 @@ CVSyncBookmarks::FolderList CVSyncBookmarks::foldersOf(BookmarkBrowser browser)
     case BookmarkBrowser::Camino:
         return parseCaminoBookmarks();
     case BookmarkBrowser::Places:
-        return readFirefoxDatabase();
+        return readFirefoxDatabase(shouldStop);
     case BookmarkBrowser::Chromium:
         return readChromiumBookmarks();
     }
@@ -147,7 +148,9 @@ std::vector<CVSyncItem> CVSyncBookmarks::itemsToSync()
     const QString name = QStringLiteral("/bookmarks.html");
     const QString staged = Folders::support() + name;
     const BookmarkBrowser browser = Settings::bookmarkSource();
-    const FolderList folders = foldersOf(browser);
+    const FolderList folders = foldersOf(browser, shouldStopQuestion());
+    if (shouldStop())
+        return {};
     if (!folders && isAnythingSelected())
         noteUnreadableLibrary(folders.error());
     const QByteArray lines = bookmarkLines(folders);

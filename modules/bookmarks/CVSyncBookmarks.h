@@ -4,6 +4,7 @@
 #include "sync/ModuleKind.h"
 #include "util/Settings.h"
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -19,13 +20,16 @@ public:
     static QString saveName();
 
     using FolderList = FileResult<std::vector<BookmarkFolder>>;
+    /// Asked between steps that can be felt; true ends the reading with an error. May be none.
+    using ShouldStop = std::function<bool()>;
 
     /// The top-level folders of the browser that "bookmarkSource" names, in its file's order; none
     /// for another number. A folder is identified by its title. An error, which is in the system
     /// log unless nothing is there, where its file can't be read. Any thread, as the readers below.
     static FolderList availableIdentifiers();
     /// Those of one browser.
-    static FolderList foldersOf(Settings::BookmarkBrowser browser);
+    static FolderList foldersOf(Settings::BookmarkBrowser browser,
+                                const ShouldStop &shouldStop = nullptr);
     /// The browser's file, whether or not it is there; empty where nothing leads to one.
     static QString placeOf(Settings::BookmarkBrowser browser);
     static std::optional<QStringList> selectedIdentifiersForPSP(const QString &volume);
@@ -54,7 +58,7 @@ public:
     static FolderList parseOmniWebBookmarks();
     /// Each folder of today's Firefox that holds bookmarks, by its path, which begins with the name
     /// of the menu, the toolbar or the like. The browser may be running meanwhile.
-    static FolderList readFirefoxDatabase();
+    static FolderList readFirefoxDatabase(const ShouldStop &shouldStop = nullptr);
     /// The same of Chromium and its kin.
     static FolderList readChromiumBookmarks();
     /// The folder of Firefox's first profile, absolute; missing where "profiles.ini" names none.

@@ -20,6 +20,7 @@
 
 namespace {
 
+using ShouldStop = CVSyncBookmarks::ShouldStop;
 using Stamps = std::pair<std::optional<FileStamp>, std::optional<FileStamp>>;
 
 constexpr size_t chunkSize = 1U << 20;
@@ -61,7 +62,7 @@ Stamps stampsOf(const QString &database)
     return {files().stamp(database), files().stamp(logOf(database))};
 }
 
-FileResult<> copy(const QString &source, const QString &destination)
+FileResult<> copy(const QString &source, const QString &destination, const ShouldStop &shouldStop)
 {
     auto from = OpenFile::forReading(source);
     if (!from)
@@ -71,6 +72,8 @@ FileResult<> copy(const QString &source, const QString &destination)
         return to.error();
     std::vector<char> buffer(chunkSize);
     while (true) {
+        if (shouldStop && shouldStop())
+            return FileError::of(FileError::Operation::Read, source, ECANCELED);
         const auto count = from->read(buffer.data(), buffer.size());
         if (!count)
             return count.error();
@@ -125,7 +128,7 @@ FileResult<Rows> rowsIn(const QString &path, const QString &name, const QString 
     return rows;
 }
 
-FileResult<Rows> readOnce(const QString &path, const Stamps &stamps)
+FileResult<Rows> readOnce(const QString &path, const Stamps &stamps, const ShouldStop &shouldStop)
 {
     if (!stamps.second || stamps.second->size == 0) {
         const QString url = QString::fromStdString(FileUrl::of(path.toStdString()));
@@ -134,22 +137,27 @@ FileResult<Rows> readOnce(const QString &path, const Stamps &stamps)
     }
     const QTemporaryDir folder; // for us alone to see
     const QString own = folder.filePath(QStringLiteral("places.sqlite"));
-    if (const auto copied = copy(path, own); !copied)
+    if (const auto copied = copy(path, own, shouldStop); !copied)
         return copied.error();
-    if (const auto copied = copy(logOf(path), logOf(own)); !copied)
+    if (const auto copied = copy(logOf(path), logOf(own), shouldStop); !copied)
         return copied.error();
     // What changed meanwhile is found out before the copy is asked.
     return stampsOf(path) == stamps ? rowsIn(path, own, {}) : Rows();
 }
 
-FileResult<Rows> readRows(const QString &path)
+bool wasStopped(const FileResult<Rows> &rows)
+{
+    return !rows && rows.error().number == ECANCELED;
+}
+
+FileResult<Rows> readRows(const QString &path, const ShouldStop &shouldStop)
 {
     for (int i = 0; i < tries; ++i) {
         const Stamps before = stampsOf(path);
         if (!before.first)
             return FileError::of(FileError::Operation::Read, path, ENOENT);
-        FileResult<Rows> rows = readOnce(path, before);
-        if (stampsOf(path) == before)
+        FileResult<Rows> rows = readOnce(path, before, shouldStop);
+        if (wasStopped(rows) || stampsOf(path) == before)
             return rows;
     }
     return FileError::of(FileError::Operation::Read, path, EBUSY);
@@ -180,12 +188,12 @@ void addFolder(Rows &rows, qint64 top, const QString &topPath, BookmarkPaths &pa
 
 } // namespace
 
-CVSyncBookmarks::FolderList CVSyncBookmarks::readFirefoxDatabase()
+CVSyncBookmarks::FolderList CVSyncBookmarks::readFirefoxDatabase(const ShouldStop &shouldStop)
 {
     const QString path = BrowserProfiles::firefoxDatabase();
-    FileResult<Rows> rows = readRows(path);
+    FileResult<Rows> rows = readRows(path, shouldStop);
     if (!rows) {
-        if (!rows.error().isMissing())
+        if (!rows.error().isMissing() && !wasStopped(rows))
             qCWarning(lcModules).noquote()
                 << "Can't read the bookmarks:" << rows.error().description();
         return rows.error();

@@ -22,7 +22,8 @@ using Part = MusicLibrary::Part;
 
 namespace {
 
-constexpr int steps = 64; // between two questions whether to stop
+constexpr int steps = 64;              // between two questions whether to stop
+constexpr size_t longestList = 100000; // entries; a PSP shows far fewer
 
 /// A file that the PSP plays.
 struct Song
@@ -129,7 +130,8 @@ Selection FolderMusic::listAt(const QString &path)
     qsizetype leftOut = 0;
     const auto title = PlaylistFile::read(
         m_folder.path() + u'/' + path, [&](const QString &place, const QString &called) {
-            const auto song = songAt(folder, place);
+            const auto song =
+                found.songs.size() < longestList ? songAt(folder, place) : std::nullopt;
             if (!song) {
                 ++leftOut;
                 return;

@@ -65,6 +65,9 @@ TEST_F(BrowserSourcesTest, ReadsFirefoxWhileItRuns)
     EXPECT_EQ(offered(Places), menu) << "the newest lie in the log";
     put(database + u"-wal"_s, "places.sqlite-wal");
     EXPECT_EQ(offered(Places), menu + rest);
+    int asked = 0;
+    EXPECT_FALSE(CVSyncBookmarks::readFirefoxDatabase([&asked] { return ++asked == 2; }));
+    EXPECT_EQ(asked, 2) << "a cancel ends the copy, and no other try follows";
     EXPECT_EQ(joined(treeOf(harness.home(root + u"PROFILE"_s))),
               "places.sqlite\nplaces.sqlite-wal");
     harness.set(u"enabledBookmarks", list("Bookmarks-Menu"));
