@@ -39,7 +39,8 @@ FileStatus statusFrom(const struct stat &status)
 int flushFileSystemOf(int any)
 {
     const HeldFiles::Batch removed = HeldFiles::take();
-    const int error = any < 0 ? EBADF : ::syncfs(any) == 0 ? 0 : errno;
+    const bool isDone = any >= 0 && retryInterrupted([any] { return ::syncfs(any); }) == 0;
+    const int error = isDone ? 0 : any < 0 ? EBADF : errno;
     if (error != 0)
         ::sync();
     HeldFiles::flushOthers(removed, any);
