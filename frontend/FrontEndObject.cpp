@@ -30,14 +30,16 @@ std::vector<RemoteMethod> FrontEndObject::methods()
         const QVariantList &given = request.arguments;
         Q_EMIT alert(given[0].toString(), given[1].toString(), given[2].toInt());
     });
-    for (const auto *method :
-         {&Callback::updateUserInterface, &Callback::updateSyncBytes,
-          &Callback::startConversionAnimation, &Callback::stopConversionAnimation})
+    for (const auto *method : {&Callback::updateUserInterface, &Callback::updateSyncBytes,
+                               &Callback::stopConversionAnimation})
         served.perform(*method, [this](const RemoteRequest &) { Q_EMIT changed(); });
-    served.perform(Callback::reloadMoviesView, [this](const RemoteRequest &) {
-        Q_EMIT changed();
-        Q_EMIT moviesChanged();
-    });
+    // The row of a movie whose conversion starts says so.
+    for (const auto *method : {&Callback::reloadMoviesView, &Callback::startConversionAnimation}) {
+        served.perform(*method, [this](const RemoteRequest &) {
+            Q_EMIT changed();
+            Q_EMIT moviesChanged();
+        });
+    }
     served.perform(Callback::updateSyncBytesEstimate,
                    [this](const RemoteRequest &) { Q_EMIT estimateChanged(); });
     served.perform(Callback::syncDidFinish, [this](const RemoteRequest &request) {

@@ -29,6 +29,7 @@ SettingsDialog::SettingsDialog(HelperConnection * /*helper*/, QWidget *parent)
     restore->setAutoDefault(false);
     restore->setAccessibleDescription(localized("Those of the page that is shown."));
     connect(restore, &QPushButton::clicked, this, &SettingsDialog::restoreDefaults);
+    resize(fontMetrics().averageCharWidth() * 90, fontMetrics().height() * 40);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_pages);
     layout->addWidget(buttons);
