@@ -208,7 +208,7 @@ TEST_F(LoadTest, TheWindowOpensAtOnceAndNeverStandsStill)
     const int rows = playlists + albums + movies;
     const QStringList figures =
         run(qPrintable(QStringLiteral(CARAVEL_WINDOW " %1").arg(rows))).simplified().split(u' ');
-    ASSERT_EQ(figures.size(), 4);
+    ASSERT_EQ(figures.size(), 4) << qPrintable(figures.join(u' '));
     std::printf("%s ms to the first paint, %s ms until %d rows were there, %s ms the longest "
                 "stand, %s KB at the peak\n",
                 qPrintable(figures[0]), qPrintable(figures[1]), rows, qPrintable(figures[2]),

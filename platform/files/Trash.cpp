@@ -13,8 +13,8 @@ const QByteArray dateKey = "DeletionDate=";
 
 struct Entry
 {
-    QString info; ///< the file that tells of it
-    QString path; ///< where it was
+    QString info;    ///< the file that tells of it
+    QByteArray path; ///< where it was
     QByteArray date;
 };
 
@@ -26,12 +26,17 @@ Entry entryIn(const QString &info)
         return entry;
     for (const QByteArray &line : file.read(longestInfo).split('\n')) {
         if (line.startsWith(pathKey))
-            entry.path =
-                QString::fromUtf8(QByteArray::fromPercentEncoding(line.mid(pathKey.size())));
+            entry.path = line.mid(pathKey.size());
         else if (line.startsWith(dateKey))
             entry.date = line.mid(dateKey.size());
     }
     return entry;
+}
+
+// The rules have the path percent-encoded; the toolkit writes it as it is.
+bool isFrom(const Entry &entry, const QByteArray &path)
+{
+    return entry.path == path || QByteArray::fromPercentEncoding(entry.path) == path;
 }
 
 } // namespace
@@ -44,7 +49,7 @@ bool Trash::putBack(const QString &path)
     for (const QFileInfo &info : QDir(trash + QStringLiteral("/info"))
                                      .entryInfoList({QStringLiteral("*.trashinfo")}, QDir::Files)) {
         const Entry entry = entryIn(info.filePath());
-        if (entry.path == path && entry.date >= newest.date)
+        if (isFrom(entry, path.toUtf8()) && entry.date >= newest.date)
             newest = entry;
     }
     const QFileInfo there(path);
