@@ -90,17 +90,20 @@ void ListKeeper::begin()
     m_rows.clear();
     m_rows.reserve(m_unparsed.size());
     m_slices.start(0ms);
-    parseSlice();
 }
 
+// Taking the answer from the bus, each slice and showing the rows have a turn of the event loop
+// each.
 void ListKeeper::parseSlice()
 {
+    if (m_rows.size() == m_unparsed.size()) {
+        finish();
+        return;
+    }
     QElapsedTimer since;
     since.start();
     while (m_rows.size() < m_unparsed.size() && since.elapsed() < longestSlice.count())
         m_rows.append(ListRows::fromMap(m_unparsed[m_rows.size()].toMap()));
-    if (m_rows.size() == m_unparsed.size())
-        finish();
 }
 
 void ListKeeper::finish()
