@@ -8,8 +8,8 @@
 #include "cli/SourcesCommand.h"
 #include "cli/StatusCommands.h"
 #include "cli/SyncCommand.h"
-#include "cli/TerminalWindow.h"
 #include "cli/WatchCommand.h"
+#include "cli/WindowStart.h"
 #include "platform/lists/Bundle.h"
 
 #include <CLI/CLI.hpp>
@@ -290,8 +290,8 @@ int CommandLine::run(int argc, char **argv)
     }
     if (m_chosen)
         return m_chosen();
-    if (TerminalWindow::isNeeded() && TerminalWindow::openWatch())
-        return Done;
+    if (WindowStart::isNeeded())
+        WindowStart::becomeWindow();
     Output::printError(QString::fromStdString(m_app.help()));
     return BadUsage;
 }

@@ -23,6 +23,6 @@ void WindowPlace::store(const QWidget &window)
 void WindowPlace::restore(QWidget &window)
 {
     const int letter = window.fontMetrics().averageCharWidth();
-    window.resize(120 * letter, 84 * letter);
+    window.resize(150 * letter, 110 * letter);
     window.restoreGeometry(places().value(geometryKey).toByteArray());
 }
