@@ -135,6 +135,7 @@ QWidget *SettingEditor::makeFolder(QWidget *edit)
     layout->setContentsMargins({});
     auto *const choose = new QPushButton(localized("Choose..."));
     choose->setAccessibleDescription(shown(m_text.title));
+    choose->setAutoDefault(false); // Enter in the field means the field
     layout->addWidget(edit, 1);
     layout->addWidget(choose);
     connect(choose, &QPushButton::clicked, this, [this] {

@@ -22,10 +22,13 @@ SettingsDialog::SettingsDialog(HelperConnection * /*helper*/, QWidget *parent)
             m_pages->addTab(makePage(text.page), SettingTexts::shown(text.page));
         last = text.page;
     }
-    auto *const buttons =
-        new QDialogButtonBox(QDialogButtonBox::Close | QDialogButtonBox::RestoreDefaults);
+    m_pages->setUsesScrollButtons(false); // all titles are in sight
+    // The toolkit's own texts for these are not installed everywhere.
+    auto *const buttons = new QDialogButtonBox;
+    buttons->addButton(localized("Close"), QDialogButtonBox::RejectRole);
+    QPushButton *const restore =
+        buttons->addButton(localized("Restore Defaults"), QDialogButtonBox::ResetRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
-    QPushButton *const restore = buttons->button(QDialogButtonBox::RestoreDefaults);
     restore->setAutoDefault(false);
     restore->setAccessibleDescription(localized("Those of the page that is shown."));
     connect(restore, &QPushButton::clicked, this, &SettingsDialog::restoreDefaults);

@@ -1171,6 +1171,10 @@ Die PSP zeigt die Seite in ihrem Browser: Werden Lesezeichen synchronisiert, fü
         <translation>Einzelheiten</translation>
     </message>
     <message>
+        <source>Restore Defaults</source>
+        <translation>Voreinstellungen wiederherstellen</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>heute</translation>

@@ -1171,6 +1171,10 @@ La PSP muestra la página en su navegador: si se sincronizan los marcadores, uno
         <translation>Detalles</translation>
     </message>
     <message>
+        <source>Restore Defaults</source>
+        <translation>Restablecer los valores predeterminados</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>hoy</translation>

@@ -1171,6 +1171,10 @@ La PSP affiche la page dans son navigateur : si les signets sont synchronisés, 
         <translation>Détails</translation>
     </message>
     <message>
+        <source>Restore Defaults</source>
+        <translation>Rétablir les valeurs par défaut</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>aujourd’hui</translation>

@@ -1171,6 +1171,10 @@ The PSP shows the page in its browser: with bookmarks synced, one of them leads 
         <translation>詳細</translation>
     </message>
     <message>
+        <source>Restore Defaults</source>
+        <translation>初期設定に戻す</translation>
+    </message>
+    <message>
         <source>today</source>
         <extracomment>As it stands in the middle of a sentence; the program capitalises it and appends the time.</extracomment>
         <translation>今日</translation>
