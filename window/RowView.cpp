@@ -72,7 +72,7 @@ void RowView::show(QAbstractItemModel *model)
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    const int width = fontMetrics().averageCharWidth() * 28;
+    const int width = fontMetrics().averageCharWidth() * 22;
     for (int column = 1; column < model->columnCount(); ++column)
         header()->resizeSection(column, width);
 }

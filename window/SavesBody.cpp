@@ -60,10 +60,11 @@ QWidget *SavesBody::makeHistory()
     m_history->setSelectionMode(QAbstractItemView::SingleSelection);
     m_history->setAccessibleName(localized("Backups"));
     m_history->setAccessibleDescription(localized("Of the game save that is selected above."));
-    auto *const layout = new QVBoxLayout(m_group);
-    layout->addWidget(m_history);
+    auto *const layout = new QHBoxLayout(m_group);
+    layout->addWidget(m_history, 1);
     layout->addWidget(makeButtons());
-    m_group->setMaximumHeight(fontMetrics().height() * 14);
+    m_group->setMaximumHeight(fontMetrics().height() * 11);
+    pane().view().setMinimumHeight(fontMetrics().height() * 9);
     connect(m_history->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SavesBody::updateButtons);
     m_group->hide();
@@ -74,7 +75,7 @@ QWidget *SavesBody::makeHistory()
 QWidget *SavesBody::makeButtons()
 {
     auto *const bar = new QWidget;
-    auto *const layout = new QHBoxLayout(bar);
+    auto *const layout = new QVBoxLayout(bar);
     layout->setContentsMargins({});
     m_restore = new QPushButton(localized("Restore..."));
     m_restore->setAccessibleDescription(localized("Puts the selected backup back on the PSP."));
