@@ -5,9 +5,6 @@
 #include "window/MoviesBody.h"
 #include "window/SavesBody.h"
 
-#include <QDragEnterEvent>
-#include <QMimeData>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -24,16 +21,6 @@ PageBody *makeBody(HelperConnection *helper, const QString &kind)
     return new ListBody(helper, kind);
 }
 
-QStringList filesIn(const QMimeData *data)
-{
-    QStringList paths;
-    for (const QUrl &url : data->urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    }
-    return paths;
-}
-
 } // namespace
 
 KindPage::KindPage(HelperConnection *helper, const QString &kind, QWidget *parent)
@@ -43,7 +30,6 @@ KindPage::KindPage(HelperConnection *helper, const QString &kind, QWidget *paren
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_body);
-    setAcceptDrops(m_body->takesFiles());
     connect(m_body, &PageBody::changed, this, &KindPage::selectionChanged);
 }
 
@@ -62,24 +48,7 @@ void KindPage::focusSearch()
     m_body->focusSearch();
 }
 
-bool KindPage::takesFiles() const
-{
-    return m_body->takesFiles();
-}
-
 void KindPage::addFiles(const QStringList &paths)
 {
     m_body->addFiles(paths);
-}
-
-void KindPage::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (!filesIn(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void KindPage::dropEvent(QDropEvent *event)
-{
-    event->acceptProposedAction();
-    addFiles(filesIn(event->mimeData()));
 }

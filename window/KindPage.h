@@ -22,17 +22,12 @@ public:
     /// Puts the cursor into the search field, where there is one.
     void focusSearch();
 
-    /// Whether files can be added to what there is. Those that are dropped on the page are.
-    bool takesFiles() const;
+    /// Adds files to what there is; only movies take any.
     void addFiles(const QStringList &paths);
 
 Q_SIGNALS:
     /// What is to be synced, or what there is, has changed; summary() too.
     void selectionChanged();
-
-protected:
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private:
     PageBody *m_body;

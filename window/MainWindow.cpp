@@ -24,7 +24,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QStackedWidget>
@@ -286,10 +285,7 @@ void MainWindow::showLog()
 
 void MainWindow::find()
 {
-    if (auto *field = m_pages->currentWidget()->findChild<QLineEdit *>()) {
-        field->setFocus(Qt::ShortcutFocusReason);
-        field->selectAll();
-    }
+    static_cast<KindPage *>(m_pages->currentWidget())->focusSearch();
 }
 
 void MainWindow::raiseWindow()
@@ -318,8 +314,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
-    m_helper->ask(Protocol::addMoviesFromArray, {localFiles(*event->mimeData())}, this,
-                  [](const QVariant &) {});
     m_kinds->setCurrentRow(static_cast<int>(kindOf(u"Movies") - allKinds().data()));
+    static_cast<KindPage *>(m_pages->currentWidget())->addFiles(localFiles(*event->mimeData()));
     event->acceptProposedAction();
 }

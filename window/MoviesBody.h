@@ -13,7 +13,6 @@ class MoviesBody : public ListBody
 public:
     explicit MoviesBody(HelperConnection *helper, QWidget *parent = nullptr);
 
-    bool takesFiles() const override { return true; }
     void addFiles(const QStringList &paths) override;
 
 private:

@@ -14,7 +14,6 @@ public:
     /// See KindPage.
     virtual QString summary() const = 0;
     virtual void focusSearch() {}
-    virtual bool takesFiles() const { return false; }
     virtual void addFiles(const QStringList & /*paths*/) {}
 
 Q_SIGNALS:
