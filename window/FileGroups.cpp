@@ -16,6 +16,15 @@ struct FileGroups::Rows
     quint64 bytes = 0;
 };
 
+namespace {
+
+QVariant sizeAlignment()
+{
+    return QVariant::fromValue(Qt::AlignTrailing | Qt::AlignVCenter);
+}
+
+} // namespace
+
 FileGroups::FileGroups(QObject *parent)
     : QAbstractItemModel(parent)
 {
@@ -101,6 +110,8 @@ QVariant FileGroups::groupData(const Rows &rows, int column, int role) const
         font.setBold(true);
         return font;
     }
+    if (role == Qt::TextAlignmentRole && column == Size)
+        return sizeAlignment();
     if (role != Qt::DisplayRole)
         return {};
     if (column == File)
@@ -114,7 +125,7 @@ QVariant FileGroups::groupData(const Rows &rows, int column, int role) const
 QVariant FileGroups::rowData(const Row &row, int column, int role)
 {
     if (role == Qt::TextAlignmentRole && column == Size)
-        return QVariant::fromValue(Qt::AlignTrailing | Qt::AlignVCenter);
+        return sizeAlignment();
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
     switch (column) {

@@ -17,8 +17,8 @@ FileGroupsView::FileGroupsView(FileGroups &model, QWidget *parent)
     header()->setSectionResizeMode(FileGroups::Size, QHeaderView::Interactive);
     header()->setSectionResizeMode(FileGroups::Note, QHeaderView::Interactive);
     const int letter = fontMetrics().averageCharWidth();
-    header()->resizeSection(FileGroups::Size, 14 * letter);
-    header()->resizeSection(FileGroups::Note, 28 * letter);
+    header()->resizeSection(FileGroups::Size, 12 * letter);
+    header()->resizeSection(FileGroups::Note, 24 * letter);
     connect(&model, &FileGroups::groupAdded, this, &FileGroupsView::openGroup,
             Qt::QueuedConnection);
 }

@@ -86,9 +86,10 @@ void MessageBar::closeFirst()
 
 void MessageBar::showFirst()
 {
-    setVisible(!m_messages.isEmpty());
-    if (m_messages.isEmpty())
+    if (m_messages.isEmpty()) {
+        hide();
         return;
+    }
     const Message &first = m_messages.first();
     const int side = style()->pixelMetric(QStyle::PM_LargeIconSize);
     m_icon->setPixmap(style()->standardIcon(pictureOf(first.style)).pixmap(side));
@@ -97,6 +98,7 @@ void MessageBar::showFirst()
     m_text->setHidden(first.text.isEmpty());
     m_action->setText(first.action);
     m_action->setHidden(first.action.isEmpty());
+    show();
     setAccessibleName(first.title.left(longestText));
     setAccessibleDescription(first.text.left(longestText));
     QAccessibleEvent event(this, QAccessible::Alert);

@@ -21,5 +21,5 @@ QFont Words::bold(QFont font)
 QSize Words::dialogSize(const QWidget &dialog)
 {
     const QFontMetrics letters = dialog.fontMetrics();
-    return {90 * letters.averageCharWidth(), 34 * letters.height()};
+    return {120 * letters.averageCharWidth(), 34 * letters.height()};
 }
