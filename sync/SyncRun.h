@@ -79,6 +79,7 @@ private:
     bool mayGo(const QString &path, bool isStranger);
     void copyKind(const KindPlan &kind, ItemPlacer &placer);
     void copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringList &index);
+    bool isInTheWay(const QString &destination) const;
     void record(const PlannedItem &planned, const CopyOutcome &outcome);
     void leaveOut(const CVSyncItem &item, PlannedItem::Reason reason);
     void writeLastSelection();
@@ -99,8 +100,9 @@ private:
     QHash<QString, QStringList> m_indexes; // syncIndex: per save name, relative to the volume
     QStringList m_notRemoved;              // paths; their folders stay
     KeptFiles m_kept;
-    QSet<QString> m_notKept; // destinations where something lies that can't go
-    FileError m_lastError;   // of the item that is being placed
+    QSet<QString> m_notKept;  // destinations where something lies that can't go
+    QSet<QString> m_inTheWay; // destinations of copies where something lies that no plan knew
+    FileError m_lastError;    // of the item that is being placed
     RunReport m_report;
     QElapsedTimer m_sinceReport;
 };

@@ -47,11 +47,19 @@ void SyncRun::copyItem(const PlannedItem &planned, ItemPlacer &placer, QStringLi
     m_host.syncModuleWillProcessItem(planned.item);
     if (m_stick.isPresent()) {
         m_lastError = {};
-        record(planned, placer.place(planned.item, *this));
-        index.append(StickFiles::relativeToVolume(planned.item.destination, m_stick.volume()));
+        const CopyOutcome outcome = placer.place(planned.item, *this);
+        record(planned, outcome);
+        if (outcome.ended != CopyOutcome::Ended::Refused || !isInTheWay(planned.item.destination))
+            index.append(StickFiles::relativeToVolume(planned.item.destination, m_stick.volume()));
     }
     m_host.syncModuleDidProcessItem(planned.item);
     reportNowAndThen();
+}
+
+/// What was there before this run is no more ours for having been wanted.
+bool SyncRun::isInTheWay(const QString &destination) const
+{
+    return m_inTheWay.contains(destination) && files().linkStatus(destination).exists();
 }
 
 void SyncRun::record(const PlannedItem &planned, const CopyOutcome &outcome)

@@ -6,6 +6,7 @@
 #include "sync/StickFiles.h"
 #include "sync/SyncPlanner.h"
 #include "sync/SyncRun.h"
+#include "util/FileManagerTools.h"
 #include "util/PathComponents.h"
 #include "util/Settings.h"
 
@@ -20,6 +21,17 @@ void logDecision(const PlannedItem &planned)
         qCInfo(lcSync).noquote() << "Dequeueing" << planned.item.source << "(file already synced)";
     else if (planned.action == Action::Replace)
         qCInfo(lcSync).noquote() << "Replacing" << planned.item.destination << "(file changed)";
+}
+
+// There is something, and not behind a link. Of a copy's destination: the stick's listing could not
+// be read, and what lies there is none of ours.
+bool liesOn(const QString &volume, const QString &path)
+{
+    using FileManagerTools::pathByResolvingAliasesInPath;
+    return files().linkStatus(path).exists() &&
+           pathByResolvingAliasesInPath(PathComponents::folderOf(path)) ==
+               pathByResolvingAliasesInPath(volume) +
+                   PathComponents::folderOf(path).mid(volume.size());
 }
 
 } // namespace
@@ -77,10 +89,14 @@ void SyncRun::markUnfinished()
     const qsizetype before = paths.size();
     for (const KindPlan &kind : m_plan->kinds) {
         for (const PlannedItem &planned : kind.items) {
-            if (planned.isCopied() && !m_notKept.contains(planned.item.destination) &&
-                StickFiles::isOnVolume(planned.item.destination, m_stick.volume()))
-                paths.append(
-                    StickFiles::relativeToVolume(planned.item.destination, m_stick.volume()));
+            const QString &path = planned.item.destination;
+            if (!planned.isCopied() || m_notKept.contains(path) ||
+                !StickFiles::isOnVolume(path, m_stick.volume()))
+                continue;
+            if (planned.action == PlannedItem::Action::Copy && liesOn(m_stick.volume(), path))
+                m_inTheWay.insert(path);
+            else
+                paths.append(StickFiles::relativeToVolume(path, m_stick.volume()));
         }
     }
     if (paths.size() > before)
