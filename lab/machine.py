@@ -76,14 +76,14 @@ class Machine:
     # --- What a story asks for
 
     def plug(self, name: str, *options: str) -> None:
-        """Puts the disk of that name in, "readonly", or so many bytes a second "slow"."""
+        """Puts the disk of that name in, "readonly", or with limits such as "bps-write=1000000"."""
         self.plugged += 1
         node = f"disk{self.plugged}"
         file = {"driver": "file", "filename": self.disk(name), "locking": "off"}
         disk = {"driver": "raw", "file": file, "read-only": "readonly" in options,
                 "cache": {"no-flush": True}}
-        if options and options[0] == "slow":
-            limits = {"bps-write": int(options[1])}
+        limits = {key: int(value) for key, _, value in (option.partition("=") for option in options) if value}
+        if limits:
             self.ask("object-add", **{"qom-type": "throttle-group", "id": f"limit{node}", "limits": limits})
             disk = {"driver": "throttle", "throttle-group": f"limit{node}", "file": disk}
         self.ask("blockdev-add", **{"node-name": node, **disk})

@@ -23,6 +23,8 @@ class Home:
 
     def rolled(self) -> str:
         name = "".join(self.random.choice(LETTERS) for _ in range(self.random.randint(1, 9)))
+        if name.startswith("._"):  # the companion of another file, and no medium
+            name = "-" + name
         return name * 40 if self.random.random() < 0.05 else name
 
     def write(self, path: Path) -> bool:

@@ -57,7 +57,7 @@ fi
 mkdir -p build/lab
 build() {
     cmake --preset "$preset" "${options[@]}" &&
-        cmake --build --preset "$preset" --parallel "$(nproc)" --target caravel-helper caravel
+        cmake --build --preset "$preset" --parallel "$(nproc)" --target caravel-helper caravel caravel_resources
 }
 if ! build >build/lab/build.log 2>&1; then
     tail -n 20 build/lab/build.log >&2
