@@ -95,7 +95,9 @@ public:
     {
         // There fsync would write the name before the clusters that it leads to.
         const bool isOrdered = HeldFiles::areNeededAt(m_file);
-        if (!(isOrdered ? flushFileSystemOf(m_file) : flushFile()))
+        if (isOrdered)
+            errno = flushFileSystemOf(m_file);
+        if (isOrdered ? errno != 0 : !flushFile())
             return false;
         const Posix::Descriptor old(isOrdered ? ::open(target.constData(), readOnly) : -1);
         if (std::rename(m_path.constData(), target.constData()) != 0)
