@@ -4,6 +4,13 @@
 # Options go to the benchmarks' program (for example --benchmark_filter=copy), which then runs alone.
 set -euo pipefail
 
+case ${1:-} in
+-h | --help)
+    sed -n '2,/^set/{/^set/d;s/^# //p}' "$0"
+    exit 0
+    ;;
+esac
+
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh --bench >&2
 cmake --preset release -DCARAVEL_BUILD_BENCHMARKS=ON >&2
