@@ -18,6 +18,11 @@ QString pathOf(const QString &entry)
     return folder() + u'/' + entry + QStringLiteral(".desktop");
 }
 
+QString escaped(QString text)
+{
+    return text.replace(u'\\', QStringLiteral("\\\\")).replace(u'\n', QStringLiteral("\\n"));
+}
+
 // An argument of the key Exec: quoted for the command line, its percent signs doubled since they
 // mark fields, and then all of it escaped as a string of the file is.
 QString quoted(const QString &argument)
@@ -30,11 +35,10 @@ QString quoted(const QString &argument)
             text += u'%';
         text += c;
     }
-    text.replace(u'\\', QStringLiteral("\\\\"));
-    text.replace(u'\n', QStringLiteral("\\n"));
-    return u'"' + text + u'"';
+    return u'"' + escaped(text) + u'"';
 }
 
+// TryExec: an entry that outlives the program starts nothing.
 QByteArray contents(const QString &name, const QString &executable)
 {
     return QStringLiteral("[Desktop Entry]\n"
@@ -42,9 +46,10 @@ QByteArray contents(const QString &name, const QString &executable)
                           "Name=%1\n"
                           "Icon=org.caravel.Caravel\n"
                           "Exec=%2\n"
+                          "TryExec=%3\n"
                           "NoDisplay=true\n"
                           "X-GNOME-Autostart-enabled=true\n")
-        .arg(name, quoted(executable))
+        .arg(name, quoted(executable), escaped(executable))
         .toUtf8();
 }
 

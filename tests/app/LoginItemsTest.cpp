@@ -63,7 +63,8 @@ TEST_F(LoginItemsTest, EditsTheListAndNothingElse)
     EXPECT_EQ(entry.value(u"AliasData"_s).typeId(), QMetaType::QByteArray);
     EXPECT_TRUE(readFile(autostart).contains(
         "\nExec=\"" + harness.home({}).toUtf8() +
-        "50%% \\\\\"off\\\\\"/CaravelHelper/Contents/bin/caravel-helper\"\n"))
+        "50%% \\\\\"off\\\\\"/CaravelHelper/Contents/bin/caravel-helper\"\nTryExec=" +
+        harness.home({}).toUtf8() + "50% \"off\"/CaravelHelper/Contents/bin/caravel-helper\n"))
         << readFile(autostart).constData();
     items->setStartOnLogin(false);
     EXPECT_EQ(paths(), "\n/Mail\n/CaravelHelper 2");
