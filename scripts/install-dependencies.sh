@@ -5,7 +5,7 @@ set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: install-dependencies.sh [--lint] [--fuzz] [--bench] [--lab]
+Usage: install-dependencies.sh [--lint] [--fuzz] [--bench] [--lab] [--package]
 Installs the missing ones of the Debian packages that this project needs (as root or through sudo).
 
   --lint   also what scripts/lint.sh runs: clang-format, clang-tidy, git and the checkers of desktop
@@ -13,6 +13,7 @@ Installs the missing ones of the Debian packages that this project needs (as roo
   --fuzz   also what scripts/fuzz.sh builds with: clang, its sanitizers and its symbolizer
   --bench  also what scripts/bench.sh compares with and looks through: rsync, rclone, strace
   --lab    also what scripts/lab.sh boots: qemu, a kernel, and what a desktop mounts sticks with
+  --package  also what scripts/package.sh builds, checks and installs the package with
 EOF
 }
 
@@ -36,6 +37,7 @@ while (($#)); do
         packages+=(qemu-system-x86 linux-image-amd64 busybox-static kmod cpio dosfstools ntfs-3g udev udisks2
             gvfs gvfs-daemons)
         ;;
+    --package) packages+=(debhelper dpkg-dev lintian mmdebstrap git) ;;
     -h | --help) usage; exit 0 ;;
     *) usage >&2; exit 2 ;;
     esac
