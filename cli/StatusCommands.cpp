@@ -95,14 +95,21 @@ QString volumeOf(const QVariant &stick)
     return Rows::text(stick.toMap(), u"volume");
 }
 
+constexpr auto alertLimit = 2s;
+
 // Until the PSP has no stick, or another one.
 ExitStatus waitForEject(Session &session, const QString &volume)
 {
     HelperClient &helper = session.helper();
     QEventLoop loop;
     QObject::connect(&helper, &HelperClient::gone, &loop, &QEventLoop::quit);
+    bool isTold = false;
     QObject::connect(&session.frontEnd(), &FrontEndObject::alert, &loop,
-                     [](const QString &, const QString &message) { Output::printError(message); });
+                     [&](const QString &, const QString &message) {
+                         Output::printError(message);
+                         isTold = true;
+                         loop.quit();
+                     });
     while (!helper.failed()) {
         const QVariant stick = helper.ask(Protocol::stick);
         const HelperState state = helper.state();
@@ -111,7 +118,10 @@ ExitStatus waitForEject(Session &session, const QString &volume)
         if (volumeOf(stick) != volume)
             return Done;
         if (HelperProcess::isText(state.statusText, "Eject Failed")) {
-            QCoreApplication::processEvents(); // an alert that came before the texts
+            if (!isTold) { // by the alert that says why, which may still be under way
+                QTimer::singleShot(alertLimit, &loop, &QEventLoop::quit);
+                loop.exec();
+            }
             Output::error(state.statusText + u'\n' + state.statusSubText);
             return Refused;
         }
