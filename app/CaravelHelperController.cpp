@@ -321,6 +321,7 @@ void CaravelHelperController::terminate()
     if (std::exchange(m_isQuitting, true))
         return;
     m_movies.close();
+    m_lists.close();
     logDetail(QStringLiteral("Helper quitting..."));
     m_icon.disable();
     // From here on nobody's call is taken: what it changed would be lost.

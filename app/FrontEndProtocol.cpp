@@ -1,6 +1,7 @@
 #include "app/FrontEndProtocol.h"
 
 #include "app/CaravelHelperController.h"
+#include "app/LateAnswer.h"
 #include "app/Sources.h"
 #include "modules/movies/CVSyncMovies.h"
 #include "platform/lists/UserDefaults.h"
@@ -16,6 +17,13 @@ using Request = const RemoteRequest &;
 QString text(Request request)
 {
     return request.arguments.first().toString();
+}
+
+void answerLate(ServedMethods &served, const Protocol::Method &method, LateAnswer::Ask ask)
+{
+    const auto late = std::make_shared<LateAnswer>(std::move(ask));
+    served.bindLate(method,
+                    [late](Request, const RemoteMethod::Answer &answer) { late->tell(answer); });
 }
 
 void bindConnection(ServedMethods &served, CaravelHelperController &helper)
@@ -112,7 +120,7 @@ void bindLists(ServedMethods &served, CaravelHelperController &helper)
     for (const Protocol::List &list : Protocol::lists) {
         const QString saveName = list.saveName.toString();
         if (saveName != CVSyncMovies::saveName()) // whose rows the queue adds to
-            served.answer(list.items, [&lists, saveName] { return lists.items(saveName); });
+            answerLate(served, list.items, [&lists, saveName] { return lists.items(saveName); });
         served.perform(list.select, [&lists, saveName](Request request) {
             lists.setSelected(saveName, request.arguments.first().toStringList());
         });
@@ -121,7 +129,7 @@ void bindLists(ServedMethods &served, CaravelHelperController &helper)
 
 void bindSources(ServedMethods &served)
 {
-    served.answer(Protocol::sources, [] { return Sources::rows(); });
+    answerLate(served, Protocol::sources, [] { return Sources::rows(); });
 }
 
 void bindMovies(ServedMethods &served, MovieQueue &movies)

@@ -141,7 +141,9 @@ QVariantList SelectionLists::bookmarksItems() const
     const QSet<QString> selected =
         toSet(CVSyncBookmarks::selectedIdentifiersForPSP(m_manager.pspVolume()));
     QVariantList rows;
-    for (const BookmarkFolder &folder : CVSyncBookmarks::availableIdentifiers().valueOr({})) {
+    const auto folders =
+        CVSyncBookmarks::availableIdentifiers([this] { return m_isClosed.load(); });
+    for (const BookmarkFolder &folder : folders.valueOr({})) {
         QVariantMap found = row(folder.title, kindOf(folder), folder.size, selected);
         if (folder.title)
             found.insert(QStringLiteral("name"), shownTitle(*folder.title));

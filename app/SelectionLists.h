@@ -5,12 +5,14 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include <atomic>
+
 class Clock;
 class CVSyncManager;
 
 /// The lists that the front-end offers for selection, and the selections it sends back. A list is
 /// read anew at each call. Of a selection, an identifier that could name a place outside of ours is
-/// left out, with a line in the system log. Main thread.
+/// left out, with a line in the system log. Lists on any thread, all else on the main one.
 class SelectionLists
 {
 public:
@@ -21,6 +23,10 @@ public:
         , m_clock(clock)
     {
     }
+
+    /// Readings that would leave something behind end early from now on; for a process that is
+    /// about to end.
+    void close() { m_isClosed = true; }
 
     /// The rows of the kind of that save name; none for a kind without a list here.
     QVariantList items(const QString &saveName) const;
@@ -46,4 +52,5 @@ private:
     const ModuleCatalogue &m_catalogue;
     CVSyncManager &m_manager;
     const Clock &m_clock;
+    std::atomic<bool> m_isClosed = false;
 };

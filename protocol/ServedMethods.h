@@ -31,11 +31,13 @@ public:
     }
 
     void bind(const Protocol::Method &method, Answer answer);
+    /// One that is answered later, see RemoteMethod::begin.
+    void bindLate(const Protocol::Method &method, decltype(RemoteMethod::begin) begin);
 
     /// The table's methods in its order. Each must be bound and nothing else: what is forgotten
     /// ends the process here, with its name.
     std::vector<RemoteMethod> take(std::span<const Protocol::Method *const> table);
 
 private:
-    std::map<const Protocol::Method *, Answer> m_answers;
+    std::map<const Protocol::Method *, RemoteMethod> m_bound;
 };

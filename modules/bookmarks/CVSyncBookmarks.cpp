@@ -68,9 +68,9 @@ QString CVSyncBookmarks::saveName()
     return QStringLiteral("Bookmarks");
 }
 
-CVSyncBookmarks::FolderList CVSyncBookmarks::availableIdentifiers()
+CVSyncBookmarks::FolderList CVSyncBookmarks::availableIdentifiers(const ShouldStop &shouldStop)
 {
-    return foldersOf(Settings::bookmarkSource());
+    return foldersOf(Settings::bookmarkSource(), shouldStop);
 }
 
 CVSyncBookmarks::FolderList CVSyncBookmarks::foldersOf(BookmarkBrowser browser,

@@ -26,7 +26,7 @@ public:
     /// The top-level folders of the browser that "bookmarkSource" names, in its file's order; none
     /// for another number. A folder is identified by its title. An error, which is in the system
     /// log unless nothing is there, where its file can't be read. Any thread, as the readers below.
-    static FolderList availableIdentifiers();
+    static FolderList availableIdentifiers(const ShouldStop &shouldStop = nullptr);
     /// Those of one browser.
     static FolderList foldersOf(Settings::BookmarkBrowser browser,
                                 const ShouldStop &shouldStop = nullptr);

@@ -1,6 +1,7 @@
 #include "modules/bookmarks/CVSyncBookmarks.h"
 #include "modules/bookmarks/own/BookmarkPaths.h"
 #include "modules/bookmarks/own/BrowserProfiles.h"
+#include "platform/core/AwaitedAtQuit.h"
 #include "platform/files/OpenFile.h"
 #include "sync/Log.h"
 #include "util/FileUrl.h"
@@ -135,6 +136,7 @@ FileResult<Rows> readOnce(const QString &path, const Stamps &stamps, const Shoul
         return rowsIn(path, url + QStringLiteral("?immutable=1"),
                       QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_OPEN_READONLY"));
     }
+    const AwaitedAtQuit untilRemoved;
     const QTemporaryDir folder; // for us alone to see
     const QString own = folder.filePath(QStringLiteral("places.sqlite"));
     if (const auto copied = copy(path, own, shouldStop); !copied)

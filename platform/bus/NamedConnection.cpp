@@ -161,10 +161,14 @@ bool ServedObject::handleMessage(const QDBusMessage &message, const QDBusConnect
         called->call(request);
         return true;
     }
-    const QVariant result = called->call(request);
-    reply(message, connection,
-          called->out.isEmpty() ? QVariantList()
-                                : QVariantList{BusValues::toBus(result, called->out)});
+    const auto answer = [message, connection, out = called->out](const QVariant &result) {
+        reply(message, connection,
+              out.isEmpty() ? QVariantList() : QVariantList{BusValues::toBus(result, out)});
+    };
+    if (called->begin)
+        called->begin(request, answer);
+    else
+        answer(called->call(request));
     return true;
 }
 

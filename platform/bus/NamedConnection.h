@@ -31,6 +31,11 @@ struct RemoteMethod
     /// same has it before the method runs.
     bool oneway = false;
     std::function<QVariant(const RemoteRequest &)> call; ///< main thread
+
+    using Answer = std::function<void(const QVariant &result)>;
+    /// In the place of `call` where the answer takes long: `answer` is to be called when it is
+    /// known, once. Not for a oneway method. Main thread, both.
+    std::function<void(const RemoteRequest &, Answer answer)> begin = nullptr;
 };
 
 /// Serves an object of ours to other processes under a name that they can look up. A call with

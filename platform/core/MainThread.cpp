@@ -1,5 +1,6 @@
 #include "platform/core/MainThread.h"
 
+#include "platform/core/AwaitedAtQuit.h"
 #include "platform/core/Log.h"
 #include "platform/core/own/Posix.h"
 
@@ -189,13 +190,18 @@ void countWorker(Workers::AtQuit atQuit, int change)
         awaitedWorkers += change;
 }
 
+void wakeWhoeverServes() // in serveUntilFinished()
+{
+    performOnMainThread(
+        nullptr, [] {}, CallMode::DontWait);
+}
+
 void runWorker(std::function<void()> work, Workers::AtQuit atQuit)
 {
     work();
     work = nullptr;
     countWorker(atQuit, -1);
-    performOnMainThread(
-        nullptr, [] {}, CallMode::DontWait); // wakes serveUntilFinished()
+    wakeWhoeverServes();
 }
 
 } // namespace
@@ -254,6 +260,17 @@ bool Workers::start(std::function<void()> work, AtQuit atQuit)
         qCWarning(lcPlatform, "Can't start a thread: %s", error.what());
         return false;
     }
+}
+
+AwaitedAtQuit::AwaitedAtQuit()
+{
+    ++awaitedWorkers;
+}
+
+AwaitedAtQuit::~AwaitedAtQuit()
+{
+    --awaitedWorkers;
+    wakeWhoeverServes();
 }
 
 int Workers::live()

@@ -171,12 +171,12 @@ protected:
             frontEnd.isOpen = words[0] == u"opens";
         return {};
     }
-    /// "flood until COMMAND" succeeds: more calls than can be answered, without a pause.
-    QString flood(const QString &command)
+    /// "flood METHOD until COMMAND" succeeds: calls without a pause.
+    QString flood(const QString &method, const QString &command)
     {
         const auto flooded = [&] {
             for (int i = 0; i < 150; ++i)
-                frontEnd.helper.send(Protocol::musicItems.key());
+                frontEnd.helper.send(method);
             return programs.shell(command).status == 0;
         };
         return waitFor(flooded) ? QString() : never();
@@ -255,7 +255,7 @@ protected:
         if (verb == u"ask")
             return ask(words);
         if (verb == u"flood")
-            return flood(rest.section(u' ', 1));
+            return flood(words[0], rest.section(u' ', 2));
         if (verb == u"sounds")
             return sounds.played(rest);
         if (verb == u"tray")
