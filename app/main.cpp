@@ -30,8 +30,9 @@ Options parse(int argc, char **argv)
             "Take the folders in DIR for the mounted volumes, in the place of the desktop's")
         ->type_name("DIR")
         ->envname("CARAVEL_VOLUMES");
-    command.set_version_flag(
-        "--version", [] { return "caravel-helper " + Bundle::main().version().toStdString(); });
+    command.set_version_flag("--version", [] {
+        return Bundle::main().versionLine(QStringLiteral("caravel-helper")).toStdString();
+    });
     Options options;
     try {
         command.parse(argc, argv);

@@ -96,8 +96,9 @@ private:
 CommandLine::CommandLine()
 {
     m_app.require_subcommand(0, 1);
-    m_app.set_version_flag(
-        "--version", [] { return "caravel build " + Bundle::main().version().toStdString(); });
+    m_app.set_version_flag("--version", [] {
+        return Bundle::main().versionLine(QStringLiteral("caravel")).toStdString();
+    });
     addReading("status", "Show the PSP, the sync and the selection's size",
                [this] { return runStatus(m_arguments.json); });
     addReading("watch", "Show the state and every change of it until Ctrl-C",

@@ -72,12 +72,14 @@ silently() {
     fi
 }
 
-# As the build makes it: the build number is filled in.
+# As the build makes it: the release and the build number are filled in.
 check_metainfo() {
-    local build file
+    local build release file
     build=$(sed -n 's/^set(CARAVEL_BUILD \([0-9]*\))$/\1/p' CMakeLists.txt)
+    release=$(sed -n 's/^project(Caravel VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
     file=$1/$(basename "$2" .in)
-    sed "s/@CARAVEL_BUILD@/${build:?not found in CMakeLists.txt}/" "$2" >"$file"
+    sed "s/@CARAVEL_BUILD@/${build:?not found in CMakeLists.txt}/
+         s/@PROJECT_VERSION@/${release:?not found in CMakeLists.txt}/" "$2" >"$file"
     appstreamcli validate --no-net "$file"
 }
 

@@ -23,7 +23,7 @@ std::optional<int> readOptions(int argc, char **argv)
 {
     CLI::App app("Shows and selects what a PSP's Memory Stick holds.", "caravel-window");
     app.set_version_flag("--version", [] {
-        return "caravel-window build " + Bundle::main().version().toStdString();
+        return Bundle::main().versionLine(QStringLiteral("caravel-window")).toStdString();
     });
     try {
         app.parse(argc, argv);

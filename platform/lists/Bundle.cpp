@@ -64,6 +64,12 @@ QString Bundle::version() const
     return infoString(QStringLiteral("CFBundleVersion"));
 }
 
+QString Bundle::versionLine(const QString &program) const
+{
+    return QStringLiteral("%1 %2 (build %3)")
+        .arg(program, infoString(QStringLiteral("CFBundleShortVersionString")), version());
+}
+
 QString Bundle::executable() const
 {
     const QString name = infoString(QStringLiteral("CFBundleExecutable"));

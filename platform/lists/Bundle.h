@@ -21,7 +21,10 @@ public:
 
     /// A text or number of Info.plist as text; empty where it is missing.
     QString infoString(const QString &key) const;
-    QString version() const; ///< "CFBundleVersion"
+    QString version() const; ///< "CFBundleVersion": the build number
+
+    /// What --version tells of a program: its name, the release and the build number.
+    QString versionLine(const QString &program) const;
 
     /// Full path of "Contents/bin/<CFBundleExecutable>"; empty where the key holds no file name.
     QString executable() const;
