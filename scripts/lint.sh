@@ -5,7 +5,7 @@ set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: lint.sh [--format | --scripts | --translations | --desktop | --tidy [FILE...] |
+Usage: lint.sh [--format | --scripts | --translations | --desktop | --docs | --tidy [FILE...] |
                 --shares PER-CENT]
 Without an option all of them but the last, one after the other.
 
@@ -13,6 +13,8 @@ Without an option all of them but the last, one after the other.
   --scripts        the shell scripts' and Python scripts' syntax, and shellcheck where it is installed
   --translations   the catalogues: each has every text that the sources look up, and no other
   --desktop        the desktop entry, the metadata for software catalogues, and the man pages
+  --docs           the documents: what they link to is there, the guide has every setting as it is, and the
+                   change logs begin with this release
   --tidy           clang-tidy, over the given sources or all of them (minutes)
   --shares         the lines of each room and of its tests; fails where all tests, fuzzers and the lab
                    are more than so many per cent of the product
@@ -154,6 +156,7 @@ case $what in
 --format) check_format ;;
 --scripts) check_scripts ;;
 --translations) resources/tools/check_translations.py ;;
+--docs) scripts/lint/check_docs.py ;;
 --desktop) scripts/install-dependencies.sh --lint; check_desktop ;;
 --tidy) scripts/install-dependencies.sh --lint; check_tidy "$@" ;;
 --shares) check_shares "${1-}" ;;
@@ -162,6 +165,7 @@ all)
     check_format
     check_scripts
     resources/tools/check_translations.py
+    scripts/lint/check_docs.py
     check_desktop
     check_tidy
     ;;

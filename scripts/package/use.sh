@@ -8,9 +8,29 @@ mkdir -p volumes/STICK/PSP Documents/Caravel/Dropboxes/Music
 : >volumes/STICK/MEMSTICK.IND
 printf 'no real song, but a file' >Documents/Caravel/Dropboxes/Music/Song.mp3
 
-caravel sources # which the bus starts the helper for
+# The bus starts the helper, by its service file.
+name=$(sed -n 's/^Name=//p' /usr/share/dbus-1/services/org.caravel.CaravelHelper_*.service)
+dbus-send --session --print-reply --dest="$name" /CaravelHelper \
+    org.caravel.CaravelHelperProtocol.isFirstSync >/dev/null
+helper=$(pidof caravel-helper)
+caravel sources
 caravel status
 caravel sync
 cmp Documents/Caravel/Dropboxes/Music/Song.mp3 volumes/STICK/PSP/MUSIC/Song.mp3
 caravel report
 test -f .config/autostart/caravel-helper.desktop
+
+touch used
+until [ -e upgraded ]; do
+    sleep 0.1
+done
+kill -0 "$helper"
+caravel status >/dev/null
+while kill -0 "$helper" 2>/dev/null; do
+    sleep 0.1
+done
+printf 'another' >Documents/Caravel/Dropboxes/Music/Other.mp3
+caravel sync >/dev/null
+cmp Documents/Caravel/Dropboxes/Music/Other.mp3 volumes/STICK/PSP/MUSIC/Other.mp3
+caravel --version
+echo "The helper of the upgrade took over"
