@@ -3,7 +3,12 @@
 #include "platform/core/Log.h"
 #include "platform/core/MainThread.h"
 #include "platform/core/own/Glib.h"
+#include "platform/files/FileManager.h"
 #include "platform/people/own/VCardPerson.h"
+
+#include <QProcess>
+#include <QSettings>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <condition_variable>
@@ -40,8 +45,11 @@ public:
             m_people[book] = std::move(people);
     }
 
+    enum class Service { Installed, Missing };
+
     /// Says what failed, unless nobody waits any more. Takes the error.
-    void fail(const char *what, const QString &which, GError *error)
+    void fail(const char *what, const QString &which, GError *error,
+              Service service = Service::Installed)
     {
         const std::unique_ptr<GError, decltype(&g_error_free)> owned(error, &g_error_free);
         const std::scoped_lock lock(m_mutex);
@@ -50,7 +58,7 @@ public:
         const char *const reason = error ? error->message : "no reason given";
         qCWarning(lcPlatform, "%s%s: %s", what, qUtf8Printable(which), reason);
         // Where there is no session, there is no service either.
-        if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
+        if (service == Service::Installed && qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
             m_unreadable =
                 FileError{FileError::Operation::Read, which, 0, QString::fromUtf8(reason)};
     }
@@ -163,6 +171,17 @@ bool listsAnything(ESourceRegistry *registry)
     return all != nullptr;
 }
 
+/// The file that tells the bus of a service comes in another package than its program.
+bool hasProgram(const QString &service)
+{
+    const QString file =
+        QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                               QStringLiteral("dbus-1/services/%1.service").arg(service));
+    const QSettings entry(file, QSettings::IniFormat);
+    const QString command = entry.value(QStringLiteral("D-BUS Service/Exec")).toString();
+    return command.isEmpty() || files().exists(QProcess::splitCommand(command).value(0));
+}
+
 bool hasService(GDBusConnection *bus, GCancellable *cancellable)
 {
     constexpr char daemon[] = "org.freedesktop.DBus";
@@ -176,7 +195,8 @@ bool hasService(GDBusConnection *bus, GCancellable *cancellable)
     const char *name = nullptr;
     g_variant_get(answer, "(as)", &names);
     while (g_variant_iter_next(names, "&s", &name))
-        isListed = isListed || g_str_has_prefix(name, "org.gnome.evolution.dataserver.Sources");
+        isListed = isListed || (g_str_has_prefix(name, "org.gnome.evolution.dataserver.Sources") &&
+                                hasProgram(QString::fromUtf8(name)));
     g_variant_iter_free(names);
     g_variant_unref(answer);
     return isListed;
@@ -196,7 +216,9 @@ void readBooks(Reading &reading)
     g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     const Ref<ESourceRegistry> registry(e_source_registry_new_sync(reading.cancellable(), &error));
     if (!registry) {
-        reading.fail(noService, {}, error);
+        const bool isThere = hasService(bus.get(), reading.cancellable());
+        reading.fail(noService, {}, error,
+                     isThere ? Reading::Service::Installed : Reading::Service::Missing);
         return;
     }
     GList *const sources =

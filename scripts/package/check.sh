@@ -79,6 +79,7 @@ done
 mmdebstrap --quiet --mode=root --variant=minbase bookworm "$root" "${lists[@]}"
 cp --remove-destination -L /etc/resolv.conf "$root/etc/resolv.conf"
 mount -t proc proc "$root/proc"
+inside useradd --create-home visitor
 apt_get update
 apt_get satisfy "$(dpkg-deb -f "$package" Depends)"
 files_of_root >"$scratch/before"
@@ -93,9 +94,8 @@ inside caravel-window --version
 say "Used"
 make_newer
 install -m 755 "$here/use.sh" "$root/tmp/use.sh"
-inside useradd --create-home visitor
 set -m # a process group of its own, to be ended as a whole
-inside runuser -u visitor -- dbus-run-session -- /tmp/use.sh &
+inside runuser -u visitor -- /tmp/use.sh &
 session=$!
 set +m
 wait_for "$root/home/visitor/used"

@@ -2,7 +2,10 @@
 # What a first visitor does with the installed package, in a session of their own.
 set -eu
 
-export HOME=/home/visitor LANG=C.UTF-8 CARAVEL_VOLUMES=/home/visitor/volumes
+if [ -z "${DBUS_SESSION_BUS_ADDRESS-}" ]; then
+    export HOME=/home/visitor CARAVEL_VOLUMES=/home/visitor/volumes
+    exec dbus-run-session -- "$0"
+fi
 cd "$HOME"
 mkdir -p volumes/STICK/PSP Documents/Caravel/Dropboxes/Music
 : >volumes/STICK/MEMSTICK.IND

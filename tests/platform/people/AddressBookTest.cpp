@@ -167,6 +167,8 @@ protected:
     {
         home = std::make_unique<TemporaryFolder>();
         qputenv("HOME", QFile::encodeName(home->path()));
+        qputenv("XDG_DATA_DIRS",
+                QFile::encodeName(*home / "data") + ":/usr/local/share:/usr/share");
         // One for all tests: GIO keeps the connection that it has made first.
         bus = std::make_unique<PrivateBus>();
     }
@@ -200,6 +202,16 @@ protected:
             g_object_unref(object);
     }
 
+    static void reloadBus()
+    {
+        constexpr char daemon[] = "org.freedesktop.DBus";
+        GDBusConnection *connection = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+        g_variant_unref(g_dbus_connection_call_sync(connection, daemon, "/", daemon, "ReloadConfig",
+                                                    nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
+                                                    nullptr, nullptr));
+        g_object_unref(connection);
+    }
+
     /// Sends a signal to the process that serves the books.
     static void signalFactory(int signal)
     {
@@ -217,6 +229,20 @@ protected:
 };
 
 } // namespace
+
+TEST_F(AddressBookService, MayBeMissingThoughItsFileIsThere)
+{
+    const QString entry =
+        *home / "data/dbus-1/services/org.gnome.evolution.dataserver.Sources5.service";
+    writeFile(entry, "[D-BUS Service]\nName=org.gnome.evolution.dataserver.Sources5\n"
+                     "Exec=/nowhere/registry\n");
+    reloadBus();
+    const SystemLogCapture log;
+    EXPECT_FALSE(evolutionPeople(30s).unreadable);
+    EXPECT_TRUE(log.contains(QStringLiteral("address book service can't be reached")));
+    QFile::remove(entry);
+    reloadBus();
+}
 
 TEST_F(AddressBookService, ComesBeforeTheFiles)
 {
