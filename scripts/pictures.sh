@@ -19,7 +19,7 @@ EOT
 project=$(cd "$(dirname "$0")/.." && pwd)
 preset=${CARAVEL_PRESET:-release}
 
-# In the name spaces: a user "robin", whose stick has 512 MB. What lies below the real /home stays in reach.
+# In the name spaces: a user "robin", whose stick has 1 GB. What lies below the real /home stays in reach.
 take() {
     local look=$2
     mount --bind "$1" /srv
@@ -31,7 +31,7 @@ take() {
     mount -t tmpfs none /media
     mkdir -p "$HOME" "$CARAVEL_VOLUMES"
     mkdir -m 700 "$XDG_RUNTIME_DIR"
-    mount -t tmpfs -o size=512m none "$CARAVEL_VOLUMES"
+    mount -t tmpfs -o size=983m none "$CARAVEL_VOLUMES"
     /mnt/scripts/pictures/make_media.py "$HOME" "$CARAVEL_VOLUMES/.waiting"
     cd "$HOME"
     dbus-run-session -- "/mnt/build/$preset/Caravel/Contents/tests/pictures" /srv "$look"
@@ -60,5 +60,5 @@ cmake --build --preset "$preset" --parallel "$(nproc)" \
     --target pictures caravel-helper caravel_resources caravel_translations
 mkdir -p "$into"
 for look in "${looks[@]}"; do
-    unshare --map-root-user --user --mount --pid --fork --kill-child "$0" --inside "$into" "$look"
+    unshare --map-root-user --user --mount --mount-proc --pid --fork --kill-child "$0" --inside "$into" "$look"
 done

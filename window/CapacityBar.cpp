@@ -102,6 +102,7 @@ CapacityBar::CapacityBar(QWidget *parent)
 void CapacityBar::setCapacity(const Capacity &capacity)
 {
     m_capacity = capacity;
+    setVisible(capacity.total > 0);
     const QString words = capacity.inWords();
     m_bar->setAccessibleDescription(words);
     m_bar->setToolTip(words);
@@ -118,9 +119,9 @@ void CapacityBar::nameParts()
     rest.parts.clear();
     const QString words = rest.inWords();
     if (m_capacity.fits)
-        names.append(words.toHtmlEscaped());
+        names.append(words.toHtmlEscaped().replace(u' ', QChar::Nbsp));
     else
         names.append(named(QColor(missingColour), words));
-    m_names->setText(names.join(QStringLiteral("&nbsp;&nbsp; &nbsp;")));
+    m_names->setText(names.join(QStringLiteral("&nbsp;&nbsp;&nbsp; ")));
     m_names->setAccessibleName(m_capacity.inWords());
 }

@@ -19,6 +19,7 @@ ContactsBody::ContactsBody(QWidget *parent)
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
     layout->addWidget(m_switch);
     layout->addWidget(text);
     layout->addStretch();

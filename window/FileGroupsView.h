@@ -13,5 +13,7 @@ public:
     explicit FileGroupsView(FileGroups &model, QWidget *parent = nullptr);
 
 private:
+    /// Those that the row has something for.
+    void showColumns(const QModelIndex &group, int row);
     void openGroup(const QModelIndex &group);
 };

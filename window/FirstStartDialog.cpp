@@ -13,6 +13,7 @@
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -42,11 +43,11 @@ bool isFound(const QVariantMap &row)
 QString sourceText(const QVariantMap &row)
 {
     const QString title = Rows::line(Rows::text(row, u"title"));
-    if (!isFound(row))
-        return filled(localized("%@ (not found)"), {title});
     const int entries = row.value(QStringLiteral("entries")).toInt();
+    if (entries == 1)
+        return filled(localized("%@ (1 entry)"), {title});
     return entries < 0 ? title
-                       : filled(localized("%@ (%@ entries)"), {title, QString::number(entries)});
+                       : filled(localized("%@ (%@ entries)"), {title, QLocale().toString(entries)});
 }
 
 /// The one that is chosen where it is there, else the one that holds most.
@@ -77,8 +78,14 @@ FirstStartDialog::FirstStartDialog(HelperConnection &helper, QWidget *parent)
         "removes there, from the folders of music, photos and movies, what is not selected "
         "any more. Files that it did not place itself are first copied to this computer, "
         "and your media on this computer are only read."));
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->button(QDialogButtonBox::Ok)->setText(localized("Begin"));
+    QLabel *welcome = Words::label(windowTitle());
+    welcome->setFont(Words::heading(font()));
+    QLabel *where = Words::label(localized("Where are your media?"));
+    where->setFont(Words::bold(font()));
+    // The toolkit's own texts are not installed everywhere.
+    auto *buttons = new QDialogButtonBox;
+    buttons->addButton(localized("Begin"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(localized("Cancel"), QDialogButtonBox::RejectRole);
     auto *inside = new QWidget;
     inside->setLayout(m_kinds);
     auto *scroll = new QScrollArea;
@@ -86,8 +93,10 @@ FirstStartDialog::FirstStartDialog(HelperConnection &helper, QWidget *parent)
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     auto *column = new QVBoxLayout(this);
+    column->setSpacing(column->spacing() * 3 / 2);
+    column->addWidget(welcome);
     column->addWidget(what);
-    column->addWidget(Words::label(localized("Where are your media?")));
+    column->addWidget(where);
     column->addWidget(scroll, 1);
     column->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &FirstStartDialog::accept);
@@ -125,17 +134,24 @@ void FirstStartDialog::addKind(const QString &kind, const QVariantList &rows)
     auto *column = new QVBoxLayout(box);
     auto *group = new QButtonGroup(box);
     const QVariantMap chosen = best(rows);
+    QStringList missing;
     for (const QVariant &each : rows) {
         const QVariantMap row = each.toMap();
+        if (!isFound(row)) {
+            missing.append(Rows::line(Rows::text(row, u"title")));
+            continue;
+        }
         auto *button = new QRadioButton(sourceText(row).replace(u'&', QStringLiteral("&&")));
         const QString place = Rows::line(Rows::text(row, u"place"));
         button->setToolTip(place.toHtmlEscaped());
         button->setAccessibleDescription(place);
-        button->setEnabled(isFound(row));
         button->setChecked(row == chosen);
         group->addButton(button, row.value(QStringLiteral("value")).toInt());
         column->addWidget(button);
     }
+    if (!missing.isEmpty())
+        column->addWidget(
+            Words::label(filled(localized("Not found: %@"), {missing.join(QStringLiteral(", "))})));
     m_kinds->addWidget(box);
     m_choices.append(Choice{{}, group});
 }

@@ -34,6 +34,16 @@ QImage imageFor(const QMIconTransformer &transformer, const QString &name, QSize
     return canvas;
 }
 
+QIcon iconOf(const QImage &image)
+{
+    if (image.isNull())
+        return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+    const QPixmap picture = QPixmap::fromImage(image);
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected); // else the selection's colour would lie over it
+    return icon;
+}
+
 } // namespace
 
 Icons::Icons(const QString &resourcePath, QSize size, QObject *parent)
@@ -93,9 +103,7 @@ void Icons::adopt(const std::vector<std::pair<QString, QImage>> &images)
 {
     for (const auto &[name, image] : images) {
         m_asked.remove(name);
-        m_icons.insert(name, new QIcon(image.isNull() ? QApplication::style()->standardIcon(
-                                                            QStyle::SP_FileIcon)
-                                                      : QIcon(QPixmap::fromImage(image))));
+        m_icons.insert(name, new QIcon(iconOf(image)));
         Q_EMIT ready(name);
     }
     read();

@@ -6,7 +6,7 @@
 #include "platform/core/Localized.h"
 #include "util/TextFormat.h"
 #include "window/ListPane.h"
-#include "window/Notice.h"
+#include "window/MessageBar.h"
 #include "window/RowView.h"
 #include "window/SettingEditor.h"
 
@@ -25,16 +25,19 @@ ListBody::ListBody(HelperConnection *helper, const QString &saveName, QWidget *p
     , m_filter(&m_rows)
     , m_keeper(HelperCalls::of(helper), m_texts.list(), &m_rows)
     , m_pane(new ListPane(&m_filter, m_texts.columns.first(), m_texts.isCheckable))
-    , m_notice(new Notice)
+    , m_messages(new MessageBar)
     , m_switch(new SettingEditor(m_texts.switchKey, SettingEditor::Form::Short))
+    , m_top(new QHBoxLayout)
     , m_layout(new QVBoxLayout(this))
 {
     m_icons.setDevicePixelRatio(devicePixelRatioF());
     m_rows.setIcons(&m_icons);
     m_pane->view().setIconSize(m_texts.iconSize);
-    m_layout->addWidget(m_switch);
+    m_top->addWidget(m_switch, 1);
+    m_layout->setContentsMargins({});
+    m_layout->addLayout(m_top);
     m_layout->addWidget(m_pane, 1);
-    m_layout->addWidget(m_notice);
+    m_layout->addWidget(m_messages);
     connect(&m_rows, &RowModel::selectionEdited, this, &PageBody::changed);
     connect(m_switch, &SettingEditor::written, this, &PageBody::changed);
     connect(&m_keeper, &ListKeeper::read, this, &ListBody::rowsAreRead);
@@ -43,8 +46,8 @@ ListBody::ListBody(HelperConnection *helper, const QString &saveName, QWidget *p
             m_pane->showMessage(localized("The helper has given no answer."));
     });
     connect(&m_keeper, &ListKeeper::notTaken, this, [this] {
-        m_notice->say(localized("The helper has not taken the selection as it was made. What is "
-                                "shown now is what it has."));
+        say(localized("The helper has not taken the selection as it was made. What is "
+                      "shown now is what it has."));
     });
     // The selection is among the settings, and others may have changed it.
     m_reloading.setSingleShot(true);
@@ -53,9 +56,14 @@ ListBody::ListBody(HelperConnection *helper, const QString &saveName, QWidget *p
     Preferences::observe(this, [this] { m_reloading.start(); });
 }
 
-void ListBody::addAbove(QWidget *widget)
+void ListBody::say(const QString &text)
 {
-    m_layout->insertWidget(1, widget);
+    m_messages->sayOnly({{}, text});
+}
+
+void ListBody::addBeside(QWidget *widget)
+{
+    m_top->addWidget(widget);
 }
 
 void ListBody::addBelow(QWidget *widget)
@@ -121,7 +129,7 @@ void ListBody::takeSource(int value)
     m_pane->showMessage(localized("Loading..."));
     Preferences::setLater(m_texts.sourceKey.toString(), value, this, [this](bool isWritten) {
         if (!isWritten)
-            m_notice->say(localized("The preferences can't be written."));
+            say(localized("The preferences can't be written."));
         reload();
     });
 }

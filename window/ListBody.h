@@ -8,7 +8,8 @@
 
 class HelperConnection;
 class ListPane;
-class Notice;
+class MessageBar;
+class QHBoxLayout;
 class QVBoxLayout;
 class SettingEditor;
 
@@ -29,9 +30,11 @@ protected:
     const RowModel &rows() const { return m_rows; }
     ListKeeper &keeper() { return m_keeper; }
     ListPane &pane() const { return *m_pane; }
-    Notice &notice() const { return *m_notice; }
-    /// Goes between the switch and the list, or below the list.
-    void addAbove(QWidget *widget);
+    /// Says what has just happened, in the place of what was said before.
+    void say(const QString &text);
+    MessageBar &messages() const { return *m_messages; }
+    /// Goes beside the switch, or below the list.
+    void addBeside(QWidget *widget);
     void addBelow(QWidget *widget);
 
 private:
@@ -46,8 +49,9 @@ private:
     RowFilter m_filter;
     ListKeeper m_keeper;
     ListPane *m_pane;
-    Notice *m_notice;
+    MessageBar *m_messages;
     SettingEditor *m_switch;
+    QHBoxLayout *m_top;
     QVBoxLayout *m_layout;
     QTimer m_reloading; // single shot: one change of the settings seldom comes alone
 };

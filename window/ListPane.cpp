@@ -107,6 +107,7 @@ void ListPane::focusSearch()
 void ListPane::showList()
 {
     m_stack->setCurrentIndex(0);
+    m_view->fitColumns();
     m_view->restoreTop();
     updateCounts();
 }
@@ -126,7 +127,7 @@ void ListPane::showMessage(const QString &text, const QList<QPushButton *> &butt
         m_buttons->addWidget(button, 0, Qt::AlignCenter);
     m_message->setText(text);
     m_stack->setCurrentIndex(1);
-    m_counts->clear();
+    m_counts->hide();
     enableTop(false);
 }
 
@@ -146,6 +147,7 @@ void ListPane::updateCounts()
     if (hidden > 0)
         parts.append(filled(localized("selected and out of sight: %@"), {number(hidden)}));
     m_counts->setText(parts.join(QStringLiteral(" – ")));
+    m_counts->setHidden(parts.isEmpty());
     enableTop(shown > 0);
     m_search->setEnabled(true);
 }

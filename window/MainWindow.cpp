@@ -131,10 +131,10 @@ void MainWindow::followHelper()
     const FrontEndObject &frontEnd = m_helper->frontEnd();
     connect(m_helper, &HelperConnection::stateChanged, this, &MainWindow::helperChanged);
     connect(&frontEnd, &FrontEndObject::alert, this, &MainWindow::showAlert);
-    connect(&frontEnd, &FrontEndObject::syncDidFinish, this, &MainWindow::syncDidFinish);
+    connect(m_watch, &StickWatch::syncFinished, this, &MainWindow::syncDidFinish);
     connect(m_watch, &StickWatch::stickChanged, this, &MainWindow::stickChanged);
     const auto showCapacity = [this] {
-        m_capacity->setCapacity(Capacity::of(m_watch->stick(), m_planner->summary()));
+        m_capacity->setCapacity(Capacity::of(m_watch->stick(), m_planner->latest()));
     };
     connect(m_watch, &StickWatch::changed, this, showCapacity);
     connect(m_planner, &Planner::changed, this, [this, showCapacity] {

@@ -1,13 +1,14 @@
 #include "window/MessageBar.h"
 
 #include "platform/core/Localized.h"
+#include "window/Sign.h"
 #include "window/Words.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
-#include <QStyle>
 
 #include <utility>
 
@@ -15,17 +16,27 @@ namespace {
 
 constexpr qsizetype longestText = 1000;
 
-QStyle::StandardPixmap pictureOf(MessageBar::Style style)
+const Sign &signOf(MessageBar::Style style)
 {
     switch (style) {
     case MessageBar::Style::Warning:
-        return QStyle::SP_MessageBoxWarning;
+        return Signs::warning;
     case MessageBar::Style::Critical:
-        return QStyle::SP_MessageBoxCritical;
+        return Signs::critical;
     case MessageBar::Style::Information:
         break;
     }
-    return QStyle::SP_MessageBoxInformation;
+    return Signs::information;
+}
+
+/// Between the window's own colour and the message's.
+QColor mixed(const QColor &window, const QColor &colour, double share)
+{
+    const auto part = [share](int from, int to) {
+        return from + qRound((to - from) * share);
+    };
+    return {part(window.red(), colour.red()), part(window.green(), colour.green()),
+            part(window.blue(), colour.blue())};
 }
 
 } // namespace
@@ -37,12 +48,6 @@ MessageBar::MessageBar(QWidget *parent)
     , m_text(Words::label())
     , m_action(new QPushButton)
 {
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
-    for (QLabel *label : {m_title, m_text})
-        label->setForegroundRole(QPalette::ToolTipText);
     m_title->setFont(Words::bold(font()));
     auto *close = new QPushButton(localized("Close"));
     close->setAccessibleDescription(localized("Closes this message"));
@@ -53,10 +58,12 @@ MessageBar::MessageBar(QWidget *parent)
         act();
     });
     auto *row = new QHBoxLayout(this);
+    row->setSpacing(row->spacing() * 3 / 2);
     auto *words = new QVBoxLayout;
+    words->setSpacing(2);
     words->addWidget(m_title);
     words->addWidget(m_text);
-    row->addWidget(m_icon, 0, Qt::AlignTop);
+    row->addWidget(m_icon);
     row->addLayout(words, 1);
     row->addWidget(m_action, 0, Qt::AlignVCenter);
     row->addWidget(close, 0, Qt::AlignVCenter);
@@ -72,9 +79,9 @@ void MessageBar::say(const Message &message)
     showFirst();
 }
 
-void MessageBar::withdraw(const QString &title)
+void MessageBar::sayOnly(const Message &message)
 {
-    m_messages.removeIf([&title](const Message &each) { return each.title == title; });
+    m_messages = {message};
     showFirst();
 }
 
@@ -91,16 +98,30 @@ void MessageBar::showFirst()
         return;
     }
     const Message &first = m_messages.first();
-    const int side = style()->pixelMetric(QStyle::PM_LargeIconSize);
-    m_icon->setPixmap(style()->standardIcon(pictureOf(first.style)).pixmap(side));
+    m_icon->setPixmap(signOf(first.style).picture(*this, 1.5));
     m_title->setText(first.title.left(longestText));
+    m_title->setHidden(first.title.isEmpty());
     m_text->setText(first.text.left(longestText));
     m_text->setHidden(first.text.isEmpty());
     m_action->setText(first.action);
     m_action->setHidden(first.action.isEmpty());
     show();
+    update();
     setAccessibleName(first.title.left(longestText));
     setAccessibleDescription(first.text.left(longestText));
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
+}
+
+void MessageBar::paintEvent(QPaintEvent * /*event*/)
+{
+    if (m_messages.isEmpty())
+        return;
+    const QColor window = palette().color(QPalette::Window);
+    const QColor colour(signOf(m_messages.first().style).colour);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(mixed(window, colour, 0.5));
+    painter.setBrush(mixed(window, colour, 0.12));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
 }

@@ -3,13 +3,12 @@
 #include <QFrame>
 #include <QList>
 
-#include <QList>
 #include <functional>
 
 class QLabel;
 class QPushButton;
 
-/// Messages above the pages, one after the other, until each is closed. Main thread.
+/// Messages, one after the other, until each is closed. Main thread.
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -19,16 +18,19 @@ public:
     enum class Style { Warning, Information, Critical };
     struct Message
     {
-        QString title;
-        QString text;
+        QString title = {}; ///< empty: none
+        QString text = {};
         Style style = Style::Information;
         QString action = {}; ///< a button's text; empty: none
         std::function<void()> act = {};
     };
     /// The newest is shown first; one that is there already comes to the front.
     void say(const Message &message);
-    /// Takes away those of that title.
-    void withdraw(const QString &title);
+    /// Shows it in the place of all that are there.
+    void sayOnly(const Message &message);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void closeFirst();

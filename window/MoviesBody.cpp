@@ -8,7 +8,7 @@
 #include "util/PathComponents.h"
 #include "util/TextFormat.h"
 #include "window/ListPane.h"
-#include "window/Notice.h"
+#include "window/MessageBar.h"
 #include "window/RowView.h"
 
 #include <QFileDialog>
@@ -50,7 +50,7 @@ MoviesBody::MoviesBody(HelperConnection *helper, QWidget *parent)
     : ListBody(helper, QStringLiteral("Movies"), parent)
 {
     rows().setEditable(true);
-    addAbove(makeButtons());
+    addBeside(makeButtons());
     m_progress.setInterval(progressInterval);
     connect(&m_progress, &QTimer::timeout, this, &MoviesBody::askProgress);
     connect(&rows(), &RowModel::nameEdited, this, &MoviesBody::rename);
@@ -79,7 +79,6 @@ QWidget *MoviesBody::makeButtons()
         localized("Moves the selected movies to the Trash, or takes them out of the conversion."));
     for (QPushButton *const button : {add, m_rename, m_remove})
         layout->addWidget(button);
-    layout->addStretch();
     connect(add, &QPushButton::clicked, this, &MoviesBody::chooseFiles);
     connect(m_remove, &QPushButton::clicked, this, &MoviesBody::removeSelected);
     connect(m_rename, &QPushButton::clicked, this, [this] {
@@ -112,7 +111,7 @@ void MoviesBody::addFiles(const QStringList &paths)
 {
     helper().ask(
         Protocol::addMoviesFromArray, {paths}, this, [this](const QVariant &) { reload(); },
-        [this](const QString &) { notice().say(localized("The movies could not be added.")); });
+        [this](const QString &) { say(localized("The movies could not be added.")); });
 }
 
 void MoviesBody::askProgress()
@@ -136,7 +135,7 @@ void MoviesBody::askProgress()
 void MoviesBody::rename(const ListRow &row, const QString &title)
 {
     if (!PathComponents::isName(title)) {
-        notice().say(filled(localized("This can't be a movie's name: %@"), {Rows::line(title)}));
+        say(filled(localized("This can't be a movie's name: %@"), {Rows::line(title)}));
         return;
     }
     helper().ask(Protocol::renameMovieItem, {row.given, title}, this,
@@ -170,7 +169,9 @@ void MoviesBody::remove(const QList<ListRow> &movies)
         : isQueued(movies.first())
             ? filled(localized("“%@” has been taken out of the conversion."), {movies.first().name})
             : filled(localized("“%@” has been moved to the Trash."), {movies.first().name});
-    notice().offer(text, localized("Undo"), [this, movies] { undo(movies); });
+    messages().sayOnly({.text = text, .action = localized("Undo"), .act = [this, movies] {
+                            undo(movies);
+                        }});
 }
 
 void MoviesBody::undo(const QList<ListRow> &movies)
@@ -198,8 +199,8 @@ void MoviesBody::putBack(const QStringList &folders, const QStringList &selected
         if (!self)
             return;
         if (!isDone)
-            self->notice().say(localized("Not everything could be put back. Look for it in the "
-                                         "Trash."));
+            self->say(localized("Not everything could be put back. Look for it in the "
+                                "Trash."));
         self->m_toSelect = selected;
         self->reload();
     };

@@ -26,11 +26,6 @@ quint64 count(const QVariantMap &row, QStringView key)
     return row.value(key.toString()).toULongLong();
 }
 
-QString size(quint64 bytes)
-{
-    return bytes == 0 ? localized("nothing") : FileManagerTools::sizeDescriptionForByteCount(bytes);
-}
-
 QString counts(const QVariantMap &row, std::span<const Named> named)
 {
     QStringList parts;
@@ -78,10 +73,20 @@ QString PlanTexts::totals(const QVariantMap &planSummary)
         {u"inPlace", QT_TRANSLATE_NOOP("", "%@ in place")},
         {u"leftOut", QT_TRANSLATE_NOOP("", "%@ left out")},
     };
-    return counts(planSummary, named) + QStringLiteral(". ") +
-           filled(localized("%@ needed, %@ freed, %@ free now."),
-                  {size(count(planSummary, u"bytesNeeded")),
-                   size(count(planSummary, u"bytesFreed")), size(count(planSummary, u"free"))});
+    static constexpr Named room[] = {
+        {u"bytesNeeded", QT_TRANSLATE_NOOP("", "%@ needed")},
+        {u"bytesFreed", QT_TRANSLATE_NOOP("", "%@ freed")},
+        {u"free", QT_TRANSLATE_NOOP("", "%@ free now")},
+    };
+    QStringList bytes;
+    for (const Named &each : room) {
+        if (const quint64 number = count(planSummary, each.key); number > 0)
+            bytes.append(filled(localized(each.words),
+                                {FileManagerTools::sizeDescriptionForByteCount(number)}));
+    }
+    const QString text =
+        counts(planSummary, named) + QStringLiteral(". ") + bytes.join(QStringLiteral(", "));
+    return text.left(1).toUpper() + text.mid(1) + u'.';
 }
 
 QString PlanTexts::strangers(const QVariantMap &planSummary)
@@ -128,7 +133,9 @@ std::optional<FileGroups::Group> PlanTexts::groupOf(const QString &kind, const Q
 
 FileGroups::Row PlanTexts::rowOf(const QVariantMap &item)
 {
-    return {text(item, u"path"), count(item, u"bytes"), reasonText(text(item, u"reason"))};
+    const QString path = text(item, u"path"); // below the volume
+    return {path.startsWith(u'/') ? path.sliced(1) : path, count(item, u"bytes"),
+            reasonText(text(item, u"reason"))};
 }
 
 QString PlanTexts::outcome(const QVariantMap &runSummary)

@@ -15,6 +15,7 @@ Planner::Planner(HelperConnection &helper, const StickWatch &watch, QObject *par
     connect(&helper.frontEnd(), &FrontEndObject::planIsReady, this, &Planner::planIsReady);
     connect(&helper.frontEnd(), &FrontEndObject::syncDidFinish, this, &Planner::planSoon);
     connect(&watch, &StickWatch::stickChanged, this, [this] {
+        m_latest.clear();
         adopt({});
         planSoon();
     });
@@ -55,6 +56,8 @@ void Planner::adopt(const QVariantMap &summary)
 {
     m_isPlanning = false;
     m_summary = summary;
+    if (!summary.isEmpty())
+        m_latest = summary;
     ++m_plan;
     Q_EMIT changed();
 }

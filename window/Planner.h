@@ -22,6 +22,8 @@ public:
 
     /// As Protocol::planSummary; empty where there is no plan.
     const QVariantMap &summary() const { return m_summary; }
+    /// The last one that was there for this stick, which may be of before the last change.
+    const QVariantMap &latest() const { return m_latest; }
     bool isPlanning() const { return m_isPlanning; }
 
     using Rows = std::function<void(const QVariantList &)>;
@@ -41,6 +43,7 @@ private:
     HelperConnection &m_helper;
     const StickWatch &m_watch;
     QVariantMap m_summary;
+    QVariantMap m_latest;
     QTimer m_soon; // single shot
     bool m_isPlanning = false;
     int m_plan = 0; // counts them

@@ -25,7 +25,7 @@ PreviewDialog::PreviewDialog(Planner &planner, const StickWatch &watch, QWidget 
     auto *files = new FileGroupsView(m_files);
     files->setAccessibleName(localized("Files that a sync would change"));
     m_strangers->setFont(Words::bold(font()));
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto *buttons = Words::closeButtons();
     buttons->addButton(m_sync, QDialogButtonBox::AcceptRole);
     auto *column = new QVBoxLayout(this);
     column->addWidget(m_totals);

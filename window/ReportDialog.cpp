@@ -3,6 +3,7 @@
 #include "frontend/HelperConnection.h"
 #include "frontend/Rows.h"
 #include "platform/core/Localized.h"
+#include "util/PathComponents.h"
 #include "util/TextFormat.h"
 #include "window/FileGroupsView.h"
 #include "window/PlanTexts.h"
@@ -34,8 +35,8 @@ ReportDialog::ReportDialog(HelperConnection &helper, QWidget *parent)
     setWindowTitle(localized("The Last Sync"));
     auto *files = new FileGroupsView(m_files);
     files->setAccessibleName(localized("Files that were left out or kept"));
-    m_outcome->setFont(Words::bold(font()));
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    m_outcome->setFont(Words::heading(font()));
+    auto *buttons = Words::closeButtons();
     auto *column = new QVBoxLayout(this);
     for (QWidget *each : {m_outcome, m_when, m_kept})
         column->addWidget(each);
@@ -53,7 +54,7 @@ void ReportDialog::showSummary(const QVariantMap &summary)
 {
     m_outcome->setText(PlanTexts::outcome(summary));
     m_when->setHidden(summary.isEmpty());
-    const QString volume = Rows::line(Rows::text(summary, u"volume"));
+    const QString volume = Rows::line(PathComponents::lastOf(Rows::text(summary, u"volume")));
     const QVariant started = summary.value(QStringLiteral("started"));
     const QVariant ended = summary.value(QStringLiteral("ended"));
     m_when->setText(
@@ -82,8 +83,8 @@ void ReportDialog::take(const QVariantList &rows)
         const QString folder = PlanTexts::keptFolder(item);
         if (folder.isEmpty())
             continue;
-        m_kept->setText(filled(localized("The copies lie in %@. What should be on the Memory "
-                                         "Stick again belongs into a dropbox."),
+        m_kept->setText(filled(localized("The copies lie in %@. What should go back to the "
+                                         "Memory Stick belongs in a dropbox."),
                                {folder}));
         m_kept->show();
     }

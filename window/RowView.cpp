@@ -29,7 +29,8 @@ public:
             return;
         }
         QStyleOptionProgressBar bar;
-        bar.rect = option.rect.adjusted(2, 4, -2, -4);
+        const int spare = option.rect.height() - option.fontMetrics.height() * 3 / 2;
+        bar.rect = option.rect.adjusted(2, spare / 2, -2, -spare / 2);
         bar.palette = option.palette;
         bar.fontMetrics = option.fontMetrics;
         bar.direction = option.direction;
@@ -72,9 +73,23 @@ void RowView::show(QAbstractItemModel *model)
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    const int width = fontMetrics().averageCharWidth() * 22;
-    for (int column = 1; column < model->columnCount(); ++column)
-        header()->resizeSection(column, width);
+    header()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 12);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
+        m_isTouched = m_isTouched || (column > 0 && !m_isFitting && isVisible());
+    });
+}
+
+void RowView::fitColumns()
+{
+    if (m_isTouched)
+        return;
+    m_isFitting = true;
+    const int letter = fontMetrics().averageCharWidth();
+    for (int column = 1; column < model()->columnCount(); ++column) {
+        const int wide = std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
+        header()->resizeSection(column, std::clamp(wide + 2 * letter, 16 * letter, 40 * letter));
+    }
+    m_isFitting = false;
 }
 
 QList<int> RowView::selectedRows() const

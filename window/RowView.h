@@ -12,6 +12,8 @@ public:
 
     /// To be called once, after setModel() is not to be called any more.
     void show(QAbstractItemModel *model);
+    /// Makes the columns as wide as what is in sight of them, until the user has done it.
+    void fitColumns();
     /// Rows of the model's source that are selected, in the order in which they are shown.
     QList<int> selectedRows() const;
     void keepTop();
@@ -26,4 +28,6 @@ protected:
 
 private:
     QPersistentModelIndex m_top;
+    bool m_isFitting = false;
+    bool m_isTouched = false; // the user has made columns wider or narrower
 };

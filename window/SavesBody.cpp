@@ -6,8 +6,8 @@
 #include "util/PathComponents.h"
 #include "util/TextFormat.h"
 #include "window/ListPane.h"
-#include "window/Notice.h"
 #include "window/RowView.h"
+#include "window/Sign.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -198,13 +198,14 @@ void SavesBody::updateButtons()
 void SavesBody::confirm(const QString &question, const QString &consequence, const QString &button,
                         std::function<void()> action)
 {
-    auto *const box = new QMessageBox(QMessageBox::Question, window()->windowTitle(), question,
-                                      QMessageBox::Cancel, this);
+    auto *const box = new QMessageBox(QMessageBox::NoIcon, window()->windowTitle(), question,
+                                      QMessageBox::NoButton, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIconPixmap(Signs::question.picture(*box, 2.5));
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(consequence);
     QPushButton *const yes = box->addButton(button, QMessageBox::AcceptRole);
-    box->setDefaultButton(QMessageBox::Cancel);
+    box->setDefaultButton(box->addButton(localized("Cancel"), QMessageBox::RejectRole));
     connect(yes, &QPushButton::clicked, this, action);
     box->open();
 }
@@ -213,7 +214,7 @@ void SavesBody::restore()
 {
     const ListRow *const backup = selectedBackup();
     const auto restore = [this, identifier = backup->identifier] {
-        notice().say(localized("The game save is being put back on the PSP..."));
+        say(localized("The game save is being put back on the PSP..."));
         // What goes wrong comes as an alert, before the answer.
         auto *const alerts = new QObject(this);
         auto isDone = std::make_shared<bool>(true);
@@ -221,8 +222,8 @@ void SavesBody::restore()
                 [isDone] { *isDone = false; });
         helper().ask(Protocol::restoreBackupWithIdentifier, {identifier}, alerts,
                      [this, alerts, isDone](const QVariant &) {
-                         notice().say(*isDone ? localized("The game save is on the PSP.")
-                                              : localized("The game save has not been put back."));
+                         say(*isDone ? localized("The game save is on the PSP.")
+                                     : localized("The game save has not been put back."));
                          alerts->deleteLater();
                          reload();
                      });

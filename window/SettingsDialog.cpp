@@ -3,6 +3,7 @@
 #include "frontend/Preferences.h"
 #include "platform/core/Localized.h"
 #include "window/SettingEditor.h"
+#include "window/Words.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -23,9 +24,7 @@ SettingsDialog::SettingsDialog(HelperConnection * /*helper*/, QWidget *parent)
         last = text.page;
     }
     m_pages->setUsesScrollButtons(false); // all titles are in sight
-    // The toolkit's own texts for these are not installed everywhere.
-    auto *const buttons = new QDialogButtonBox;
-    buttons->addButton(localized("Close"), QDialogButtonBox::RejectRole);
+    auto *const buttons = Words::closeButtons();
     QPushButton *const restore =
         buttons->addButton(localized("Restore Defaults"), QDialogButtonBox::ResetRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);

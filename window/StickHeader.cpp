@@ -42,7 +42,7 @@ StickHeader::StickHeader(HelperConnection &helper, const StickWatch &watch, QWid
     , m_text(Words::label())
     , m_again(new QPushButton(localized("Try Again")))
 {
-    m_title->setFont(Words::bold(font()));
+    m_title->setFont(Words::heading(font()));
     m_again->setAccessibleDescription(localized("Starts the helper"));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -30,7 +30,11 @@ StickWatch::StickWatch(HelperConnection &helper, QObject *parent)
     connect(&frontEnd, &FrontEndObject::changed, this, &StickWatch::readSoon);
     connect(&frontEnd, &FrontEndObject::pspDidMount, this, &StickWatch::readSoon);
     connect(&frontEnd, &FrontEndObject::pspDidUnmount, this, &StickWatch::readSoon);
-    connect(&frontEnd, &FrontEndObject::syncDidFinish, this, &StickWatch::readSoon);
+    connect(&frontEnd, &FrontEndObject::syncDidFinish, this, [this] {
+        m_hasFinished = true;
+        m_isStale = true;
+        read();
+    });
 }
 
 void StickWatch::readSoon()
@@ -91,4 +95,8 @@ void StickWatch::adopt(const Seen &seen)
     Q_EMIT changed();
     if (isOther)
         Q_EMIT stickChanged();
+    if (m_hasFinished && !m_isStale) {
+        m_hasFinished = false;
+        Q_EMIT syncFinished();
+    }
 }

@@ -31,6 +31,8 @@ Q_SIGNALS:
     void changed();
     /// Another stick, or none any more.
     void stickChanged();
+    /// A sync has ended, and all of this shows what it left.
+    void syncFinished();
 
 private:
     struct Seen
@@ -51,5 +53,6 @@ private:
     QElapsedTimer m_clock;
     QTimer m_soon; // single shot
     bool m_isReading = false;
-    bool m_isStale = false; // told of a change while reading
+    bool m_hasFinished = false; // told of it, and not yet read after it
+    bool m_isStale = false;     // told of a change while reading
 };

@@ -1,5 +1,8 @@
 #include "window/Words.h"
 
+#include "platform/core/Localized.h"
+
+#include <QDialogButtonBox>
 #include <QFontMetrics>
 #include <QLabel>
 
@@ -16,6 +19,20 @@ QFont Words::bold(QFont font)
 {
     font.setBold(true);
     return font;
+}
+
+QFont Words::heading(QFont font)
+{
+    font.setPointSizeF(font.pointSizeF() * 1.25);
+    return bold(font);
+}
+
+// The toolkit's own texts are not installed everywhere.
+QDialogButtonBox *Words::closeButtons()
+{
+    auto *buttons = new QDialogButtonBox;
+    buttons->addButton(localized("Close"), QDialogButtonBox::RejectRole);
+    return buttons;
 }
 
 QSize Words::dialogSize(const QWidget &dialog)

@@ -4,6 +4,7 @@
 #include <QSize>
 #include <QString>
 
+class QDialogButtonBox;
 class QLabel;
 class QWidget;
 
@@ -14,6 +15,11 @@ namespace Words {
 QLabel *label(const QString &text = {});
 
 QFont bold(QFont font);
+/// Of what heads a window or a dialog.
+QFont heading(QFont font);
+
+/// With "Close", to which others can be added.
+QDialogButtonBox *closeButtons();
 
 /// Of a dialog that holds a list, by the size of its letters.
 QSize dialogSize(const QWidget &dialog);

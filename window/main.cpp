@@ -5,6 +5,7 @@
 #include "platform/core/QuitSignals.h"
 #include "window/MainWindow.h"
 #include "window/WindowInstance.h"
+#include "window/WindowStyle.h"
 
 #include <CLI/CLI.hpp>
 
@@ -66,6 +67,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(QStringLiteral("Caravel"));
     QApplication::setDesktopFileName(QStringLiteral("org.caravel.Caravel"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("org.caravel.Caravel")));
+    WindowStyle::install();
     WindowInstance instance;
     if (!instance.isFirst())
         return 0;

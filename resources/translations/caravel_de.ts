@@ -52,10 +52,6 @@
         <translation>%@ (%@ Einträge)</translation>
     </message>
     <message>
-        <source>%@ (not found)</source>
-        <translation>%@ (nicht gefunden)</translation>
-    </message>
-    <message>
         <source>%@ copied</source>
         <translation>%@ kopiert</translation>
     </message>
@@ -78,10 +74,6 @@
     <message>
         <source>%@ missing</source>
         <translation>%@ fehlen</translation>
-    </message>
-    <message>
-        <source>%@ needed, %@ freed, %@ free now.</source>
-        <translation>%@ benötigt, %@ werden frei, %@ jetzt frei.</translation>
     </message>
     <message>
         <source>%@ of %@</source>
@@ -320,7 +312,7 @@
         <translation>Der Memory Stick wurde ausgeworfen</translation>
     </message>
     <message>
-        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <source>The copies lie in %@. What should go back to the Memory Stick belongs in a dropbox.</source>
         <translation>Die Kopien liegen in %@. Was wieder auf den Memory Stick soll, gehört in eine Dropbox.</translation>
     </message>
     <message>
@@ -406,10 +398,6 @@
     <message>
         <source>nothing to do</source>
         <translation>nichts zu tun</translation>
-    </message>
-    <message>
-        <source>nothing</source>
-        <translation>nichts</translation>
     </message>
     <message>
         <source>too large for the Memory Stick</source>
@@ -1565,6 +1553,30 @@ Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>„%@“ kommt jetzt aus einer anderen Quelle. Eine Synchronisierung würde von der PSP entfernen, was aus der vorigen kam.
 
 Klicken Sie auf „Jetzt synchronisieren“, um trotzdem zu synchronisieren.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Not found: %@</source>
+        <translation>Nicht gefunden: %@</translation>
+    </message>
+    <message>
+        <source>%@ (1 entry)</source>
+        <translation>%@ (1 Eintrag)</translation>
+    </message>
+    <message>
+        <source>%@ needed</source>
+        <translation>%@ benötigt</translation>
+    </message>
+    <message>
+        <source>%@ freed</source>
+        <translation>%@ werden frei</translation>
+    </message>
+    <message>
+        <source>%@ free now</source>
+        <translation>%@ jetzt frei</translation>
     </message>
 </context>
 </TS>

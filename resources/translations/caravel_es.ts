@@ -52,10 +52,6 @@
         <translation>%@ (%@ elementos)</translation>
     </message>
     <message>
-        <source>%@ (not found)</source>
-        <translation>%@ (no se ha encontrado)</translation>
-    </message>
-    <message>
         <source>%@ copied</source>
         <translation>%@ copiados</translation>
     </message>
@@ -78,10 +74,6 @@
     <message>
         <source>%@ missing</source>
         <translation>%@ no encontrados</translation>
-    </message>
-    <message>
-        <source>%@ needed, %@ freed, %@ free now.</source>
-        <translation>%@ necesarios, %@ liberados, %@ libres ahora.</translation>
     </message>
     <message>
         <source>%@ of %@</source>
@@ -320,7 +312,7 @@
         <translation>Se ha expulsado el Memory Stick</translation>
     </message>
     <message>
-        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <source>The copies lie in %@. What should go back to the Memory Stick belongs in a dropbox.</source>
         <translation>Las copias están en %@. Lo que deba volver al Memory Stick se pone en un dropbox.</translation>
     </message>
     <message>
@@ -406,10 +398,6 @@
     <message>
         <source>nothing to do</source>
         <translation>nada que hacer</translation>
-    </message>
-    <message>
-        <source>nothing</source>
-        <translation>nada</translation>
     </message>
     <message>
         <source>too large for the Memory Stick</source>
@@ -1565,6 +1553,30 @@ Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>«%@» viene ahora de otra fuente. Una sincronización eliminaría de la PSP lo que vino de la anterior.
 
 Haga clic en «Sincronizar ahora» para sincronizar de todos modos.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Not found: %@</source>
+        <translation>No encontrados: %@</translation>
+    </message>
+    <message>
+        <source>%@ (1 entry)</source>
+        <translation>%@ (1 entrada)</translation>
+    </message>
+    <message>
+        <source>%@ needed</source>
+        <translation>%@ necesarios</translation>
+    </message>
+    <message>
+        <source>%@ freed</source>
+        <translation>%@ liberados</translation>
+    </message>
+    <message>
+        <source>%@ free now</source>
+        <translation>%@ libres ahora</translation>
     </message>
 </context>
 </TS>

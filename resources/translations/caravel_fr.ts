@@ -52,10 +52,6 @@
         <translation>%@ (%@ éléments)</translation>
     </message>
     <message>
-        <source>%@ (not found)</source>
-        <translation>%@ (introuvable)</translation>
-    </message>
-    <message>
         <source>%@ copied</source>
         <translation>%@ copiés</translation>
     </message>
@@ -78,10 +74,6 @@
     <message>
         <source>%@ missing</source>
         <translation>%@ manquants</translation>
-    </message>
-    <message>
-        <source>%@ needed, %@ freed, %@ free now.</source>
-        <translation>%@ nécessaires, %@ libérés, %@ libres à présent.</translation>
     </message>
     <message>
         <source>%@ of %@</source>
@@ -320,7 +312,7 @@
         <translation>Le Memory Stick a été éjecté</translation>
     </message>
     <message>
-        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <source>The copies lie in %@. What should go back to the Memory Stick belongs in a dropbox.</source>
         <translation>Les copies se trouvent dans %@. Ce qui doit revenir sur le Memory Stick se met dans une dropbox.</translation>
     </message>
     <message>
@@ -406,10 +398,6 @@
     <message>
         <source>nothing to do</source>
         <translation>rien à faire</translation>
-    </message>
-    <message>
-        <source>nothing</source>
-        <translation>rien</translation>
     </message>
     <message>
         <source>too large for the Memory Stick</source>
@@ -1565,6 +1553,30 @@ Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>« %@ » vient maintenant d’une autre source. Une synchronisation supprimerait de la PSP ce qui venait de la précédente.
 
 Cliquez sur « Synchroniser maintenant » pour synchroniser quand même.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Not found: %@</source>
+        <translation>Introuvables : %@</translation>
+    </message>
+    <message>
+        <source>%@ (1 entry)</source>
+        <translation>%@ (1 entrée)</translation>
+    </message>
+    <message>
+        <source>%@ needed</source>
+        <translation>%@ nécessaires</translation>
+    </message>
+    <message>
+        <source>%@ freed</source>
+        <translation>%@ libérés</translation>
+    </message>
+    <message>
+        <source>%@ free now</source>
+        <translation>%@ libres à présent</translation>
     </message>
 </context>
 </TS>

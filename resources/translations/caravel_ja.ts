@@ -52,10 +52,6 @@
         <translation>%@（%@ 項目）</translation>
     </message>
     <message>
-        <source>%@ (not found)</source>
-        <translation>%@（見つかりません）</translation>
-    </message>
-    <message>
         <source>%@ copied</source>
         <translation>コピー %@ 個</translation>
     </message>
@@ -78,10 +74,6 @@
     <message>
         <source>%@ missing</source>
         <translation>見つからない %@ 個</translation>
-    </message>
-    <message>
-        <source>%@ needed, %@ freed, %@ free now.</source>
-        <translation>必要 %@、解放 %@、現在の空き %@。</translation>
     </message>
     <message>
         <source>%@ of %@</source>
@@ -320,7 +312,7 @@
         <translation>Memory Stick を取り出しました</translation>
     </message>
     <message>
-        <source>The copies lie in %@. What should be on the Memory Stick again belongs into a dropbox.</source>
+        <source>The copies lie in %@. What should go back to the Memory Stick belongs in a dropbox.</source>
         <translation>コピーは %@ にあります。Memory Stick に戻すものはドロップボックスに入れてください。</translation>
     </message>
     <message>
@@ -406,10 +398,6 @@
     <message>
         <source>nothing to do</source>
         <translation>変更なし</translation>
-    </message>
-    <message>
-        <source>nothing</source>
-        <translation>なし</translation>
     </message>
     <message>
         <source>too large for the Memory Stick</source>
@@ -1565,6 +1553,30 @@ Click &quot;Sync Now&quot; to sync all the same.</source>
         <translation>「%@」の取得元が変更されました。同期すると、以前の取得元からのものが PSP から削除されます。
 
 それでも同期するには、「今すぐ同期」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Not found: %@</source>
+        <translation>見つからないもの: %@</translation>
+    </message>
+    <message>
+        <source>%@ (1 entry)</source>
+        <translation>%@（1 項目）</translation>
+    </message>
+    <message>
+        <source>%@ needed</source>
+        <translation>必要 %@</translation>
+    </message>
+    <message>
+        <source>%@ freed</source>
+        <translation>解放 %@</translation>
+    </message>
+    <message>
+        <source>%@ free now</source>
+        <translation>現在の空き %@</translation>
     </message>
 </context>
 </TS>

@@ -34,9 +34,9 @@ PHOTOS = {
     "Winter Walk": ("lightsteelblue", "white", 12),
 }
 MOVIES = {
-    "Lighthouse": ("navy", "orange", 46),
-    "Skipping Stones": ("teal", "lavender", 31),
-    "The Long Jetty": ("maroon", "khaki", 58),
+    "Lighthouse": ("navy", "orange", 246),
+    "Skipping Stones": ("teal", "lavender", 131),
+    "The Long Jetty": ("maroon", "khaki", 318),
 }
 SAVES = (
     ("ULUS10001SLOT0", "Lighthouse Keeper", "Slot 1", "Night 3, 12 ships home", "navy", "gold"),
@@ -78,7 +78,7 @@ def make_photos(home: Path) -> None:
                 make_sample.make_video(gradient("640x480", first, second), 0, path)
                 picture = path.read_bytes()
             path.write_bytes(picture)
-            padded(path, MEGABYTE + number * 70_000)
+            padded(path, 2 * MEGABYTE + number * 70_000)
 
 
 def make_movies(home: Path) -> None:
@@ -91,7 +91,7 @@ def make_movies(home: Path) -> None:
         movie = folder / f"{identifier}.MP4"
         movie.touch()
         padded(movie, size * MEGABYTE)
-    make_sample.make_video("testsrc2=size=1280x720:rate=25", 60, home / "Videos/Regatta.avi",
+    make_sample.make_video("testsrc2=size=1280x720:rate=25", 180, home / "Videos/Regatta.avi",
                            ("-c:v", "mpeg4", "-q:v", "9"))
 
 

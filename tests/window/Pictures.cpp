@@ -5,11 +5,13 @@
 #include "frontend/Preferences.h"
 #include "platform/core/Localized.h"
 #include "window/MainWindow.h"
+#include "window/WindowStyle.h"
 #include "window/WindowUser.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QPalette>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -122,13 +124,32 @@ private:
         sees(localized("To remove, though no sync placed them"));
         picture(u"preview"_s);
         press(localized("Sync Now"));
-        sees(localized("Cancel Sync"));
-        picture(u"syncing"_s, 300ms);
+        watchCopying();
         sees(localized("The sync is complete"));
         picture(u"done"_s);
         press(localized("Show Report..."));
         picture(u"report"_s);
         press(localized("Close"));
+    }
+
+    /// At a real stick's pace: the helper has a short turn now and then.
+    void watchCopying() const
+    {
+        const auto helper = [](const QString &signal) {
+            QProcess::execute(u"pkill"_s, {signal, u"-x"_s, u"caravel-helper"_s});
+        };
+        const auto isHalfDone = [] {
+            QAccessibleInterface *bar = find(QAccessible::ProgressBar, {});
+            return bar && bar->valueInterface()->currentValue().toInt() >= 65;
+        };
+        for (int turn = 0; turn < 400 && !isHalfDone(); ++turn) {
+            helper(u"-CONT"_s);
+            settle(10ms);
+            helper(u"-STOP"_s);
+            settle(40ms);
+        }
+        picture(u"syncing"_s, 0ms);
+        helper(u"-CONT"_s);
     }
 
     void afterwards()
@@ -157,8 +178,10 @@ private:
                 action->trigger();
         }
         picture(name);
-        if (QWidget *dialog = QApplication::activeModalWidget())
-            dialog->close();
+        for (QWidget *each : QApplication::topLevelWidgets()) {
+            if (each->parentWidget())
+                each->close();
+        }
     }
 
     const QString m_folder;
@@ -176,6 +199,7 @@ int main(int argc, char **argv)
     GTEST_FLAG_SET(throw_on_failure, true);
     const bool isDark = application.arguments().value(2) == u"dark";
     QApplication::setStyle(u"Fusion"_s);
+    WindowStyle::install();
     if (isDark)
         QApplication::setPalette(darkPalette());
     installTranslations(HelperProcess::bundle().resourcePath() + u"/translations"_s);

@@ -122,6 +122,9 @@ void WindowUser::inList(const QString &list, Qt::Key pressed)
 void WindowUser::picture(const QString &folder, const QString &name)
 {
     QApplication::processEvents();
-    for (QWidget *each : inFront())
-        each->grab().save(folder + u'/' + name + u".png"_s);
+    QList<QWidget *> windows = inFront();
+    // One that belongs to another stands before it.
+    std::ranges::stable_sort(windows, {},
+                             [](const QWidget *each) { return !!each->parentWidget(); });
+    windows.last()->grab().save(folder + u'/' + name + u".png"_s);
 }
