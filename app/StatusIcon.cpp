@@ -7,6 +7,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto frameTime = 75ms;
+constexpr auto unseenTime = 1s;
 constexpr quint32 lastFrame = 13;
 
 const QString noPSPImage = QStringLiteral("InactiveNoPSPIcon");
@@ -19,7 +20,6 @@ StatusIcon::StatusIcon(StatusBar &statusBar, CVSyncManager &manager)
     : m_statusBar(statusBar)
     , m_manager(manager)
 {
-    m_syncAnimationTimer.setInterval(frameTime);
     m_syncAnimationTimer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_syncAnimationTimer, &QTimer::timeout, &m_syncAnimationTimer,
                      [this] { syncAnimationPing(); });
@@ -87,11 +87,18 @@ void StatusIcon::startSyncAnimation()
     if (m_syncAnimationTimer.isActive())
         return;
     m_syncAnimationFrame = 0;
-    m_syncAnimationTimer.start();
+    m_syncAnimationTimer.start(frameTime);
 }
 
 void StatusIcon::syncAnimationPing()
 {
+    // Each frame is told on the bus: none that nobody sees.
+    const bool isShown = m_statusItem && m_statusItem->isShown();
+    const std::chrono::milliseconds time = isShown ? frameTime : unseenTime;
+    if (m_syncAnimationTimer.intervalAsDuration() != time)
+        m_syncAnimationTimer.setInterval(time);
+    if (!isShown)
+        return;
     if (m_syncAnimationFrame <= 1)
         m_syncAnimationDirection = 1;
     if (m_syncAnimationFrame >= lastFrame)

@@ -20,6 +20,15 @@ QString harmless(QString text)
     return text;
 }
 
+// The library escapes the first 32 control characters alone.
+QString escaped(const QJsonDocument &document)
+{
+    QString text = QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+    for (char16_t c = 0x7f; c <= 0x9f; ++c)
+        text.replace(QChar(c), QStringLiteral("\\u%1").arg(ushort(c), 4, 16, QLatin1Char('0')));
+    return text;
+}
+
 void write(std::FILE *stream, const QString &text)
 {
     const QByteArray bytes = text.toLocal8Bit();
@@ -51,12 +60,12 @@ void Output::raw(const QString &text)
 
 void Output::json(const QJsonObject &object)
 {
-    print(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+    print(escaped(QJsonDocument(object)));
 }
 
 void Output::json(const QJsonArray &array)
 {
-    print(QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact)));
+    print(escaped(QJsonDocument(array)));
 }
 
 bool Output::isTerminal()

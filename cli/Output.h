@@ -20,7 +20,7 @@ void printError(const QString &line);
 /// display.
 void raw(const QString &text);
 
-/// A JSON document on one line.
+/// A JSON document on one line, control characters as their escapes: what is read from it is exact.
 void json(const QJsonObject &object);
 void json(const QJsonArray &array);
 

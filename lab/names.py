@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Fills a home with files of awkward names: names.py SEED HOME. Seed 0 takes the names that are known to
-be awkward, any other rolls them. Each file has contents of its own, and is wanted on the stick: it lies in
+"""Fills a home with files of awkward names: names.py SEED[-LAST] HOME. Seed 0 takes the names that are
+known to be awkward, any other rolls eight; those of several seeds lie side by side. Each file has contents of its own, and is wanted on the stick: it lies in
 a dropbox, or in the playlist "All" or the album "All"."""
 
 import plistlib
@@ -17,9 +17,11 @@ LETTERS = 'aAbBéÉ ..__:?*"\\|<>~%\x01\x7f日ßs\u0301\U0001f3b5-'
 
 
 class Home:
-    def __init__(self, seed: int, home: Path):
-        self.home, self.count, self.random = home, 0, random.Random(seed)
-        self.names = LISTED if seed == 0 else [self.rolled() for _ in range(8)]
+    def __init__(self, seeds: range, home: Path):
+        self.home, self.count, self.names = home, 0, []
+        for seed in seeds:
+            self.random = random.Random(seed)
+            self.names += LISTED if seed == 0 else [self.rolled() for _ in range(8)]
 
     def rolled(self) -> str:
         name = "".join(self.random.choice(LETTERS) for _ in range(self.random.randint(1, 9)))
@@ -75,6 +77,7 @@ class Home:
         file.write_bytes(plistlib.dumps(contents, sort_keys=False))
 
 
-home = Home(int(sys.argv[1]), Path(sys.argv[2]))
+first, _, last = sys.argv[1].partition("-")
+home = Home(range(int(first), int(last or first) + 1), Path(sys.argv[2]))
 home.fill_dropboxes()
 home.fill_libraries()

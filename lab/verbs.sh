@@ -94,7 +94,8 @@ mount_stick() {
     fat*) mount -t vfat -o "$options,$fat,codepage=437,iocharset=ascii,shortname=mixed,utf8,${FLUSH-flush,}errors=remount-ro" \
         "$dev" $place ;;
     exfat) mount -t exfat -o "$options,$fat,iocharset=utf8,errors=remount-ro" "$dev" $place ;;
-    exfat-fuse) mount.exfat-fuse "$dev" $place >/dev/null ;;
+    # Without it each reading of a file is noted on the stick, O_NOATIME or not.
+    exfat-fuse) mount.exfat-fuse -o noatime "$dev" $place >/dev/null ;;
     ntfs) ntfs-3g -o "windows_names,$options" "$dev" $place ;;
     esac
 }

@@ -22,6 +22,7 @@ public:
     void setAlternateImage(const QString &name) override;
     void setMenu(Menu *menu) override;
     void setEnabled(bool enabled) override;
+    bool isShown() const override { return m_notifier && (m_isWatched || m_x11Tray); }
 
 private:
     void closeMenu();
@@ -35,6 +36,7 @@ private:
     QString m_alternateImage;
     QString m_toolTip;
     Menu *m_menu = nullptr;
+    bool m_isWatched = false;
     QDBusServiceWatcher m_watcher;
     std::unique_ptr<StatusNotifier> m_notifier; // while enabled
     std::unique_ptr<X11Tray> m_x11Tray;         // while enabled and there is no watcher
@@ -106,6 +108,7 @@ void DesktopStatusItem::setEnabled(bool enabled)
 
 void DesktopStatusItem::watcherCame()
 {
+    m_isWatched = true;
     if (!m_notifier)
         return;
     m_x11Tray.reset();
@@ -114,6 +117,7 @@ void DesktopStatusItem::watcherCame()
 
 void DesktopStatusItem::watcherWent()
 {
+    m_isWatched = false;
     if (!m_notifier)
         return;
     if (X11Tray::isPossible() && !m_x11Tray)

@@ -22,6 +22,8 @@ public:
     virtual void setMenu(Menu *menu) = 0;
     /// An item is made disabled; the desktop shows it while it is enabled.
     virtual void setEnabled(bool enabled) = 0;
+    /// Whether there is a tray that shows it now.
+    virtual bool isShown() const = 0;
 };
 
 /// Where status items come from.

@@ -42,6 +42,10 @@ TEST(StatusIconTest, SwingsThroughThirteenFrames)
         icon.syncAnimationPing();
     }
     EXPECT_EQ(bar.images, expected);
+    bar.isShown = false;
+    icon.syncAnimationPing();
+    EXPECT_EQ(bar.images, expected) << "where nobody sees them";
+    bar.isShown = true;
     harness.mountStick();
     icon.stopSyncAnimation();
     EXPECT_EQ(bar.images.last(), u"InactiveIcon/ActiveIcon"_s);

@@ -15,6 +15,7 @@ public:
     QString toolTip;
     int items = 0; ///< that exist now
     bool enabled = false;
+    bool isShown = true; ///< by a tray
     const Menu *menu = nullptr;
 
     std::unique_ptr<StatusItem> makeStatusItem() override { return std::make_unique<Item>(*this); }
@@ -38,6 +39,7 @@ private:
         }
         void setMenu(Menu *shown) override { m_bar.menu = shown; }
         void setEnabled(bool isEnabled) override { m_bar.enabled = isEnabled; }
+        bool isShown() const override { return m_bar.isShown; }
 
     private:
         FakeStatusBar &m_bar;
