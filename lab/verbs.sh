@@ -180,9 +180,13 @@ status_is_not() { ! status_is "$@"; }
 stick_is_known() { ask pspIsMounted | grep -q true; }
 run_is_over() { ask isSyncing | grep -q false; }
 
+sync_now() {
+    busctl --user call $bus_name /CaravelHelper org.caravel.CaravelHelperProtocol syncNow 'a{sv}' 0
+}
+
 # Has the helper start one and goes on when it is at work, its pause before that over.
 sync_begins() {
-    busctl --user call $bus_name /CaravelHelper org.caravel.CaravelHelperProtocol syncNow 'a{sv}' 0
+    sync_now
     until_ status_is 'Preparing to Sync...'
     until_ status_is_not 'Preparing to Sync...'
 }
