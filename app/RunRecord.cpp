@@ -71,10 +71,23 @@ void RunRecord::begin(const QString &volume, const QDateTime &now)
 {
     m_volume = volume;
     m_summary = {{QStringLiteral("started"), seconds(now)}, {QStringLiteral("volume"), volume}};
-    update({});
+    record({});
 }
 
 void RunRecord::update(const RunReport &report)
+{
+    // Each writing waits for the disk.
+    const auto isKnown = [this, &report] {
+        return m_summary.value(QStringLiteral("copied")) == report.copied &&
+               m_summary.value(QStringLiteral("replaced")) == report.replaced &&
+               m_summary.value(QStringLiteral("removed")) == report.removed &&
+               m_items.size() == qsizetype(report.kept.size() + report.leftOut.size());
+    };
+    if (!isKnown())
+        record(report);
+}
+
+void RunRecord::record(const RunReport &report)
 {
     const size_t counts[] = {report.copied,      report.replaced,   report.removed,
                              report.kept.size(), report.failures(), report.missing()};
@@ -97,7 +110,7 @@ void RunRecord::update(const RunReport &report)
 void RunRecord::end(const RunReport &report, const QDateTime &now)
 {
     m_summary.insert(QStringLiteral("ended"), seconds(now));
-    update(report);
+    record(report);
 }
 
 QVariantList RunRecord::items(quint32 first, quint32 count) const

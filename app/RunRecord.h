@@ -36,6 +36,7 @@ public:
     std::optional<Counts> leftOut() const;
 
 private:
+    void record(const RunReport &report);
     void read();
     void write() const;
 
