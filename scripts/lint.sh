@@ -5,8 +5,8 @@ set -euo pipefail
 
 usage() {
     cat <<'EOF'
-Usage: lint.sh [--format | --scripts | --translations | --desktop | --docs | --tidy [FILE...] |
-                --shares PER-CENT]
+Usage: lint.sh [--format | --scripts | --translations | --desktop | --docs | --clang |
+                --tidy [FILE...] | --shares PER-CENT]
 Without an option all of them but the last, one after the other.
 
   --format         clang-format's check of every C++ file
@@ -15,6 +15,7 @@ Without an option all of them but the last, one after the other.
   --desktop        the desktop entry, the metadata for software catalogues, and the man pages
   --docs           the documents: what they link to is there, the guide has every setting as it is, and the
                    change logs begin with this release
+  --clang          what clang warns of, in every source of the debug build (minutes)
   --tidy           clang-tidy, over the given sources or all of them (minutes)
   --shares         the lines of each room and of its tests; fails where all tests, fuzzers and the lab
                    are more than so many per cent of the product
@@ -105,16 +106,29 @@ check_desktop() {
     echo "Desktop: ${#files[@]} files are in order"
 }
 
+# The generated files that the sources' compilation needs are made by the build.
+build_debug() {
+    [[ -e build/debug/build.ninja ]] || cmake --preset debug >/dev/null
+    cmake --build --preset debug --parallel "$(nproc)"
+}
+
+check_clang() {
+    build_debug
+    # shellcheck disable=SC2016 # the inner shell's own
+    jq -r '.[].command' build/debug/compile_commands.json |
+        sed 's/^[^ ]* /clang++ -fsyntax-only -Werror /' |
+        xargs -d '\n' -n 1 -P "$(nproc)" sh -c 'cd build/debug && eval "$0"'
+    echo "clang: nothing to warn of"
+}
+
 check_tidy() {
     local files=("$@")
     if ((${#files[@]} == 0)); then
         mapfile -t files < <(sources '*.cpp')
     fi
-    # The generated moc files that the sources' compilation needs are made by the build.
-    cmake --preset debug >/dev/null
-    cmake --build --preset debug --parallel "$(nproc)"
+    build_debug
     printf '%s\0' "${files[@]}" |
-        xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p build/debug 2> >(
+        xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet --warnings-as-errors='*' -p build/debug 2> >(
             grep -v -E '^[0-9]+ warnings? generated|^Suppressed [0-9]+|^Use -header-filter' >&2
         )
 }
@@ -158,6 +172,7 @@ case $what in
 --translations) resources/tools/check_translations.py ;;
 --docs) scripts/lint/check_docs.py ;;
 --desktop) scripts/install-dependencies.sh --lint; check_desktop ;;
+--clang) scripts/install-dependencies.sh --fuzz; check_clang ;;
 --tidy) scripts/install-dependencies.sh --lint; check_tidy "$@" ;;
 --shares) check_shares "${1-}" ;;
 all)
@@ -167,6 +182,8 @@ all)
     resources/tools/check_translations.py
     scripts/lint/check_docs.py
     check_desktop
+    scripts/install-dependencies.sh --fuzz
+    check_clang
     check_tidy
     ;;
 *) usage >&2; exit 2 ;;
