@@ -18,6 +18,8 @@
 #include "util/StringTools.h"
 #include "util/TextFormat.h"
 
+#include <QFile>
+
 #include <cstdlib>
 #include <utility>
 
@@ -158,6 +160,9 @@ void CaravelHelperController::changeStartOnLogin()
 void CaravelHelperController::createFolders()
 {
     FileManagerTools::createPath(Folders::support());
+    // The pages of contacts and bookmarks are made there.
+    QFile::setPermissions(Folders::support(),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     FileManagerTools::createPath(Folders::documents());
     for (const ModuleKind &kind : m_catalogue) {
         if (kind.hasDropbox)

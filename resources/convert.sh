@@ -103,16 +103,17 @@ remember_error() {
 
 # Fills probe with what ffprobe knows, as "streams.stream.0.width" and so on. The further
 # arguments are ffprobe's own. Reading is confined to local files: a playlist could name others.
+# An error that repeats a file's own text could look like a value, and the shell would run what stands in
+# one that it counts with: only what names, numbers and ratios are made of counts.
 probe_file() {
-    local file=$1 line key value
+    local file=$1 line key value harmless='[a-zA-Z0-9_.,:/+-]'
     shift
     probe=()
     start_child ffprobe -v error -protocol_whitelist file,crypto,data -of flat "$@" "file:$file"
     while next_line; do
-        if [[ $line =~ ^((streams|format)\.[a-z0-9_.]+)=(.*)$ ]]; then
+        if [[ $line =~ ^((streams|format)\.[a-z0-9_.]+)=\"?($harmless*)\"?$ ]]; then
             key=${BASH_REMATCH[1]} value=${BASH_REMATCH[3]}
-            value=${value#\"}
-            probe[$key]=${value%\"}
+            probe[$key]=$value
         else
             remember_error "$line"
         fi

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Holds the documents against the tree: each file and heading that they link to exists, the guide has every
-setting with its default, and the release is called the same everywhere."""
+"""Holds the documents against the tree: each file and heading that they link to exists, and each test that holds
+a promise; the guide has every setting with its default, and the release is called the same everywhere."""
 
 import re
 import sys
@@ -9,6 +9,8 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 LINK = re.compile(r"\[[^\]]*\]\(([^)\s]+)\)|\bsrcset=\"([^\"]+)\"|\bsrc=\"([^\"]+)\"")
 SETTING = re.compile(r"Setting<(\w+)>\s+\w+\{\s*u\"(\w+)\",\s*([^,}]+)")
+TEST = re.compile(r"\bTEST(?:_F|_P)?\((\w+), (\w+)\)")
+PROMISED = re.compile(r"`(?:[a-z]+\.(\w+))?\.([A-Z]\w+|\*)`")
 ENUM = re.compile(r"enum class (\w+) : \w+ \{(.*?)\}", re.DOTALL)
 ENUM_VALUE = re.compile(r"\b(\w+) = (\d+)")
 
@@ -29,6 +31,20 @@ def broken_links(document: Path) -> list[str]:
         if not file.exists() or (anchor and anchor not in anchors(file)):
             broken.append(f"{document.relative_to(ROOT)}: nothing is at {target}")
     return broken
+
+
+def missing_tests() -> list[str]:
+    """Those that the promises name. What begins with a dot goes on with the suite before it."""
+    sources = [source for folder in ("tests", "bench") for source in (ROOT / folder).rglob("*.cpp")]
+    suites: dict[str, set[str]] = {}
+    for suite, test in TEST.findall("".join(source.read_text() for source in sources)):
+        suites.setdefault(suite, set()).add(test)
+    missing, suite = [], ""
+    for named in PROMISED.finditer((ROOT / "docs/reliability.md").read_text()):
+        suite = named[1] or suite
+        if suite not in suites or named[2] not in {"*", *suites[suite]}:
+            missing.append(f"docs/reliability.md: there is no test {suite}.{named[2]}")
+    return missing
 
 
 def defaults() -> dict[str, str]:
@@ -73,7 +89,7 @@ def wrong_release() -> list[str]:
 def main() -> int:
     documents = [*ROOT.glob("*.md"), *ROOT.glob("docs/**/*.md")]
     faults = [fault for document in sorted(documents) for fault in broken_links(document)]
-    faults += wrong_settings() + wrong_release()
+    faults += missing_tests() + wrong_settings() + wrong_release()
     print("\n".join(faults) or f"Documents: {len(documents)} files are in order")
     return 1 if faults else 0
 
