@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Holds the documents against the tree: each file and heading that they link to exists, and each test that holds
-a promise; the guide has every setting with its default, and the release is called the same everywhere."""
+"""Holds the documents against the tree: each file and heading that they link to exists, and each test that
+holds a promise; the guide has every setting with its default, and the release is the same everywhere."""
 
 import re
 import sys
@@ -50,7 +50,11 @@ def missing_tests() -> list[str]:
 def defaults() -> dict[str, str]:
     """Of each setting that is no note of the helper's own, as the guide writes it."""
     text = (ROOT / "util/Settings.h").read_text().split("// --- Kept by the helper")[0]
-    numbers = {f"{enum}::{name}": number for enum, body in ENUM.findall(text) for name, number in ENUM_VALUE.findall(body)}
+    numbers = {
+        f"{enum}::{name}": number
+        for enum, body in ENUM.findall(text)
+        for name, number in ENUM_VALUE.findall(body)
+    }
     found = {}
     for _, key, value in SETTING.findall(text):
         value = value.strip()
@@ -65,7 +69,7 @@ def wrong_settings() -> list[str]:
     wanted = {key: value for key, value in defaults().items() if key in rows or f"`{key}`" not in guide}
     keys = sorted(wanted.keys() | rows.keys())
     return [
-        f"docs/guide/settings.md: {key} has the default {rows.get(key)}, and in util/Settings.h {wanted.get(key)}"
+        f"docs/guide/settings.md: the default of {key} is {rows.get(key)}, in util/Settings.h {wanted.get(key)}"
         for key in keys
         if wanted.get(key) != rows.get(key)
     ]
@@ -82,7 +86,9 @@ def wrong_release() -> list[str]:
     wanted = {"CHANGELOG.md": f"{release} (build {build})", "packaging/debian/changelog": release}
     found = {name: re.search(head, (ROOT / name).read_text(), re.MULTILINE)[1] for name, head in heads.items()}
     return [
-        f"{name} begins with {found[name]}, and this is {wanted[name]}" for name in heads if found[name] != wanted[name]
+        f"{name} begins with {found[name]}, and this is {wanted[name]}"
+        for name in heads
+        if found[name] != wanted[name]
     ]
 
 
