@@ -4,9 +4,12 @@
 
 #include "frontend/HelperConnection.h"
 #include "frontend/HelperProcess.h"
+#include "frontend/Preferences.h"
 #include "platform/core/Localized.h"
 #include "window/KindPage.h"
 #include "window/MainWindow.h"
+#include "window/WindowInstance.h"
+#include "window/WindowStyle.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -144,6 +147,10 @@ int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     installTranslations(HelperProcess::bundle().resourcePath() + QStringLiteral("/translations"));
+    WindowStyle::install();
+    WindowInstance instance;
+    instance.isFirst();
+    Preferences::begin();
     HelperConnection helper;
     MainWindow window(&helper);
     const Watch watch(&window, QCoreApplication::arguments().value(1).toInt());

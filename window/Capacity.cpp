@@ -43,11 +43,12 @@ Capacity Capacity::of(const QVariantMap &stick, const QVariantMap &plan)
     quint64 others = less(capacity.total + capacity.missing, capacity.free);
     for (const QVariant &each : plan.value(QStringLiteral("kinds")).toList()) {
         const QVariantMap row = each.toMap();
-        const Part part{row.value(QStringLiteral("name")).toString(), bytes(row, "bytes")};
+        const Part part{row.value(QStringLiteral("name")).toString(),
+                        std::min(bytes(row, "bytes"), others)};
         if (part.bytes == 0 || !kindOf(part.kind))
             continue;
         capacity.parts.append(part);
-        others = less(others, part.bytes);
+        others -= part.bytes;
     }
     std::ranges::sort(capacity.parts, {}, [](const Part &part) { return kindOf(part.kind); });
     if (others > 0)

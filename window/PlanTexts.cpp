@@ -84,9 +84,10 @@ QString PlanTexts::totals(const QVariantMap &planSummary)
             bytes.append(filled(localized(each.words),
                                 {FileManagerTools::sizeDescriptionForByteCount(number)}));
     }
-    const QString text =
-        counts(planSummary, named) + QStringLiteral(". ") + bytes.join(QStringLiteral(", "));
-    return text.left(1).toUpper() + text.mid(1) + u'.';
+    QString text = counts(planSummary, named) + u'.';
+    if (!bytes.isEmpty())
+        text += u' ' + bytes.join(QStringLiteral(", ")) + u'.';
+    return text.left(1).toUpper() + text.mid(1);
 }
 
 QString PlanTexts::strangers(const QVariantMap &planSummary)

@@ -34,7 +34,7 @@ WindowMenus::Actions WindowMenus::make(QMainWindow &window)
                         localized("Writes out all that waits and lets go of the Memory Stick"));
     actions.report = add(file, localized("Last Sync..."), {});
     file.addSeparator();
-    actions.quit = add(file, localized("Quit"), QKeySequence::Quit);
+    actions.quit = add(file, localized("Quit"), Qt::CTRL | Qt::Key_Q);
     QMenu &edit = *window.menuBar()->addMenu(localized("&Edit"));
     actions.find = add(edit, localized("Find"), QKeySequence::Find);
     actions.reload = add(edit, localized("Read Anew"), QKeySequence::Refresh);

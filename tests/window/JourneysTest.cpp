@@ -4,6 +4,7 @@
 #include "frontend/HelperConnection.h"
 #include "frontend/Preferences.h"
 #include "platform/bus/RemoteObject.h"
+#include "support/PSFFile.h"
 #include "window/MainWindow.h"
 #include "window/WindowUser.h"
 
@@ -109,6 +110,64 @@ TEST_F(Journeys, ACancelledSync)
     press(u"Cancel Sync"_s);
     EXPECT_SEES("The sync was cancelled");
     EXPECT_FALSE(QFile::exists(stick(u"/PSP/MUSIC/Record/000. One.mp3"_s)));
+}
+
+TEST_F(Journeys, AGameSaveComesBack)
+{
+    const QString save = u"/PSP/SAVEDATA/ULUS10001/"_s;
+    const QString waiting = m_programs.path(u"MEMORYSTICK"_s);
+    PSFFile parameters;
+    parameters.add("TITLE", 2, "Lighthouse");
+    writeFile(waiting + save + u"PARAM.SFO"_s, parameters.contents());
+    writeFile(waiting + save + u"ICON0.PNG"_s, "no picture");
+    writeFile(waiting + save + u"DATA.BIN"_s, "night 3");
+    writeFile(waiting + u"/.caravel/known"_s, {}); // synced before
+    openWindow();
+    press(u"Begin"_s);
+    plugIn();
+    inList(u"Kinds of media"_s, u"Game"_s);
+    EXPECT_SEES("The sync is complete");
+    writeFile(stick(save + u"DATA.BIN"_s), "night 4");
+    type(Qt::Key_F5);
+    EXPECT_SEES("Newer on the PSP than what is kept");
+    inList(u"Game"_s, Qt::Key_Down);
+    EXPECT_SEES("Backups of Lighthouse");
+    inList(u"Backups"_s, Qt::Key_Down);
+    press(u"Restore..."_s);
+    EXPECT_SEES("Put the backup of “Lighthouse” from");
+    EXPECT_SEES("is kept as the newest backup, and then replaced.");
+    press(u"Restore"_s);
+    EXPECT_SEES("The game save is on the PSP.");
+    EXPECT_EQ(readFile(stick(save + u"DATA.BIN"_s)), "night 3");
+}
+
+TEST_F(Journeys, KeysAloneReachEverything)
+{
+    openWindow();
+    press(u"Begin"_s);
+    plugIn();
+    EXPECT_SEES("Capacity of the Memory Stick after the sync");
+    EXPECT_SEES("Playlist");
+    std::string order;
+    for (int step = 0; step < 10; ++step)
+        order += type(Qt::Key_Tab) + "|";
+    EXPECT_EQ(order, "Sync music|Search|Select All|Select None|Playlist|Preview|Eject PSP|"
+                     "Sync Now|Kinds of media|Sync music|");
+    EXPECT_EQ(type(Qt::Key_F, Qt::ControlModifier), "Search");
+    type(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_SEES("Keeps the newest line in sight.");
+    EXPECT_EQ(nameless(), "");
+    type(Qt::Key_W, Qt::ControlModifier);
+    m_window->activateWindow();
+    type(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_SEES("Start at login");
+    for (int page = 0; page < 7; ++page) {
+        EXPECT_EQ(nameless(), "");
+        type(Qt::Key_Tab, Qt::ControlModifier);
+    }
+    type(Qt::Key_Escape);
+    type(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(m_window->isVisible());
 }
 
 TEST_F(Journeys, AHelperThatDies)

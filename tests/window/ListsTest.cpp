@@ -1,7 +1,9 @@
 #include "frontend/Rows.h"
 #include "support/TestSupport.h"
+#include "window/Capacity.h"
 #include "window/KindTexts.h"
 #include "window/ListKeeper.h"
+#include "window/PlanTexts.h"
 #include "window/RowFilter.h"
 
 #include <QAbstractItemModelTester>
@@ -146,6 +148,29 @@ TEST(EmptyList, SaysWhyAndWhatToDo)
     EXPECT_EQ(broken.text, u"What One has written can't be read; it may be damaged: /x\n"
                            u"Nothing else was found on this computer.");
     EXPECT_FALSE(EmptyList::of(u"Music"_s, {}).text.isEmpty());
+}
+
+TEST(Capacity, TellsWhatIsTooMuchAndDoesNotTrustTheNumbers)
+{
+    const auto words = [](const QVariantMap &plan) {
+        const QVariantMap stick{{u"capacity"_s, 1000}, {u"free"_s, 400}};
+        return Capacity::of(stick, plan).inWords();
+    };
+    const auto plan = [](int needed, QVariant music) {
+        const QVariantMap kinds{{u"name"_s, u"Music"_s}, {u"bytes"_s, std::move(music)}};
+        return QVariantMap{{u"free"_s, 400},
+                           {u"bytesFreed"_s, 100},
+                           {u"bytesNeeded"_s, needed},
+                           {u"fits"_s, needed <= 500},
+                           {u"kinds"_s, QVariantList{kinds, u"no map"_s, QVariantMap()}}};
+    };
+    EXPECT_EQ(words({}), u"Others 600 b, 400 b free of 1000 b");
+    EXPECT_EQ(words(plan(300, 350)), u"Music 350 b, Others 450 b, 200 b free of 1000 b");
+    EXPECT_EQ(words(plan(800, 900)), u"Music 900 b, Others 400 b, 300 b too much for 1000 b");
+    EXPECT_EQ(words(plan(300, 5000)), u"Music 800 b, 200 b free of 1000 b");
+    EXPECT_EQ(words(plan(300, u"?"_s)), u"Others 800 b, 200 b free of 1000 b");
+    EXPECT_EQ(PlanTexts::totals({}), u"Nothing to do.");
+    EXPECT_FALSE(PlanTexts::groupOf(u"Unknown"_s, {}));
 }
 
 /// Answers when it is told to.

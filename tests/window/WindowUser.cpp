@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QSet>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -18,6 +20,9 @@ QList<QWidget *> inFront()
         return {dialog};
     QList<QWidget *> windows = QApplication::topLevelWidgets();
     windows.removeIf([](const QWidget *each) { return !each->isVisible() || !each->isWindow(); });
+    // One that belongs to another stands before it.
+    std::ranges::stable_sort(windows, {},
+                             [](const QWidget *each) { return !!each->parentWidget(); });
     return windows;
 }
 
@@ -32,7 +37,8 @@ void key(QWidget *widget, int key, const QString &text = {})
 QAccessibleInterface *rowOf(const QString &list, const QString &row)
 {
     for (QAccessibleInterface *each : WindowUser::shown()) {
-        if (each->text(QAccessible::Name).startsWith(row) && each->parent() &&
+        if (each->role() != QAccessible::ColumnHeader &&
+            each->text(QAccessible::Name).startsWith(row) && each->parent() &&
             each->parent()->text(QAccessible::Name) == list)
             return each;
     }
@@ -94,8 +100,37 @@ std::string WindowUser::screen()
     return joined(texts).substr(0, 3000);
 }
 
+std::string WindowUser::nameless()
+{
+    static const QSet<QAccessible::Role> controls{
+        QAccessible::Button,   QAccessible::CheckBox,     QAccessible::RadioButton,
+        QAccessible::ComboBox, QAccessible::EditableText, QAccessible::SpinBox,
+        QAccessible::List,     QAccessible::Tree,         QAccessible::Table,
+        QAccessible::PageTab,  QAccessible::ProgressBar,  QAccessible::Dialog};
+    QStringList found;
+    for (const QAccessibleInterface *each : shown()) {
+        if (controls.contains(each->role()) && each->text(QAccessible::Name).isEmpty())
+            found.append(QString::fromLatin1(each->object()->metaObject()->className()));
+    }
+    return joined(found);
+}
+
+std::string WindowUser::type(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    inFront().last()->activateWindow(); // as a desktop does where a dialog was closed
+    EXPECT_TRUE(waitFor([] { return QGuiApplication::focusWindow(); }, patience));
+    QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+    QApplication::processEvents();
+    const QWidget *cursor = QApplication::focusWidget();
+    return cursor ? QAccessible::queryAccessibleInterface(const_cast<QWidget *>(cursor))
+                        ->text(QAccessible::Name)
+                        .toStdString()
+                  : "";
+}
+
 void WindowUser::press(const QString &button)
 {
+    EXPECT_EQ(nameless(), "");
     ASSERT_TRUE(waitFor([&] { return find(QAccessible::Button, button); }, patience))
         << button.toStdString() << " in:\n"
         << screen();
@@ -122,9 +157,5 @@ void WindowUser::inList(const QString &list, Qt::Key pressed)
 void WindowUser::picture(const QString &folder, const QString &name)
 {
     QApplication::processEvents();
-    QList<QWidget *> windows = inFront();
-    // One that belongs to another stands before it.
-    std::ranges::stable_sort(windows, {},
-                             [](const QWidget *each) { return !!each->parentWidget(); });
-    windows.last()->grab().save(folder + u'/' + name + u".png"_s);
+    inFront().last()->grab().save(folder + u'/' + name + u".png"_s);
 }

@@ -17,8 +17,12 @@ QAccessibleInterface *find(QAccessible::Role role, const QString &name);
 bool sees(const QString &text);
 /// The names of all that is in sight.
 std::string screen();
+/// Controls in sight that nobody who doesn't see them could tell.
+std::string nameless();
 
 void press(const QString &button);
+/// Presses keys where the cursor is, and tells the name of where it is then.
+std::string type(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 /// Goes to the row of that name in a list, and types the keys there.
 void inList(const QString &list, const QString &row, const QString &keys = {});
 /// Presses a key in a list.
