@@ -1,5 +1,7 @@
 #include "util/FileUrl.h"
 
+#include <algorithm>
+
 namespace FileUrl {
 
 namespace {
@@ -71,11 +73,17 @@ std::optional<QString> path(std::string_view url)
 std::string of(std::string_view path)
 {
     static constexpr char digits[] = "0123456789ABCDEF";
-    std::string url = "file://";
-    if (path.find_first_of("%?#") == path.npos)
+    constexpr std::string_view front = "file://";
+    const auto isEscaped = [](char c) {
+        return c == '%' || c == '?' || c == '#';
+    };
+    std::string url;
+    url.reserve(front.size() + path.size());
+    url.append(front);
+    if (std::ranges::none_of(path, isEscaped))
         return url.append(path);
     for (const char c : path) {
-        if (c == '%' || c == '?' || c == '#')
+        if (isEscaped(c))
             url.append({'%', digits[c >> 4], digits[c & 15]});
         else
             url += c;

@@ -15,6 +15,7 @@
 #include <QHash>
 #include <QStringEncoder>
 
+#include <algorithm>
 #include <map>
 #include <optional>
 
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int steps = 64;              // between two questions whether to stop
 constexpr size_t longestList = 100000; // entries; a PSP shows far fewer
+constexpr size_t usualTexts = 200;     // bytes of a song's place and tags, at most
 
 /// A file that the PSP plays.
 struct Song
@@ -231,6 +233,9 @@ void FolderMusic::readTags()
                 m_songs[song].isWanted = true;
         }
     }
+    const auto wanted = static_cast<size_t>(
+        std::ranges::count_if(m_songs, [](const Song &song) { return song.isWanted; }));
+    m_library.reserve(wanted, wanted * usualTexts);
     TagIndex &index = m_index.emplace(Folders::support() + QStringLiteral("/MusicTags"));
     std::vector<Song *> unread;
     for (Song &song : m_songs) {

@@ -66,6 +66,12 @@ public:
     /// The track with that id, its texts valid as long as the library.
     std::optional<Track> track(std::int64_t id) const;
 
+    /// For so many tracks, with texts of so many bytes in all; more may come.
+    void reserve(size_t tracks, size_t textBytes)
+    {
+        m_tracks.reserve(tracks);
+        m_text.reserve(textBytes);
+    }
     /// Adds a track, copying its texts, and gives its id.
     std::int64_t add(const Track &track);
     void add(Playlist playlist) { m_playlists.push_back(std::move(playlist)); }
