@@ -1,16 +1,16 @@
-// Finding 20,000 files in place, against a bare loop of the same stat calls.
+// Finding 20,000 files in place, against what a run does that has nothing to do, and against a bare
+// loop of the same stat calls; and showing a plan of 100,000 rows.
 
-#include "Workbench.h"
+#include "app/PlanRows.h"
 #include "support/ListModule.h"
 #include "support/SyncHarness.h"
 #include "sync/SyncPlanner.h"
 
-#include <QDir>
-#include <QFile>
-
 #include <benchmark/benchmark.h>
 
 #include <sys/stat.h>
+
+#include <chrono>
 
 namespace {
 
@@ -20,38 +20,34 @@ constexpr int perFolder = 20;
 /// Sources and their equal copies, as a music selection lies on a stick.
 struct InPlace
 {
-    Workbench folder;
     std::vector<CVSyncItem> items;
+    const ListModule::Wishes wishes{[this] { return items; }, QStringLiteral("/PSP/MUSIC")};
+    SyncHarness harness{{ListModule::kind(QStringLiteral("Music"), wishes)}};
 
     InPlace()
     {
-        QDir().mkpath(folder / QStringLiteral("stick/PSP/MUSIC"));
+        harness.mountStick();
         for (int i = 0; i < fileCount; ++i) {
-            const QString album = QStringLiteral("Some Album %1").arg(i / perFolder);
-            const QString name = QStringLiteral("%1/105. A Song %2.mp3").arg(album).arg(i);
-            for (const QString &top :
-                 {QStringLiteral("home/Music/"), QStringLiteral("stick/PSP/MUSIC/")}) {
-                QDir().mkpath(folder / (top + album));
-                QFile file(folder / (top + name));
-                if (!file.open(QIODevice::WriteOnly) || file.write("contents") != 8)
-                    qFatal("can't write %s", qPrintable(file.fileName()));
-            }
-            items.emplace_back(folder / (QStringLiteral("home/Music/") + name),
-                               folder / (QStringLiteral("stick/PSP/MUSIC/") + name), name);
+            const QString name =
+                QStringLiteral("Some Album %1/105. A Song %2.mp3").arg(i / perFolder).arg(i);
+            const QString source = harness.home(QStringLiteral("Music/") + name);
+            const QString copy = harness.stick(QStringLiteral("PSP/MUSIC/") + name);
+            writeFile(source, "contents");
+            writeFile(copy, "contents");
+            items.emplace_back(source, copy, name);
         }
     }
 };
 
-void prepareInPlace(benchmark::State &state)
+void planInPlace(benchmark::State &state)
 {
-    const InPlace place;
-    const ListModule::Wishes wishes{[&place] { return place.items; }, QStringLiteral("/PSP/MUSIC")};
-    SyncHarness harness;
-    const QString stick = place.folder / QStringLiteral("stick");
+    InPlace place;
+    const QString stick = place.harness.stick();
     quint64 left = 0;
     for (auto _ : state) {
         ModuleList modules;
-        modules.push_back(std::make_unique<ListModule>(stick, QStringLiteral("Music"), wishes));
+        modules.push_back(
+            std::make_unique<ListModule>(stick, QStringLiteral("Music"), place.wishes));
         const SyncPlan plan = SyncPlanner(stick, [] { return false; }).plan(modules);
         left += plan.syncBytesTotal() + plan.kinds[0].removals.size();
     }
@@ -59,9 +55,29 @@ void prepareInPlace(benchmark::State &state)
         state.SkipWithError("not everything was in place");
 }
 
+/// From the end of its pauses until it would copy.
+void prepareAndCleanUp(benchmark::State &state)
+{
+    InPlace place;
+    std::chrono::steady_clock::time_point began;
+    std::chrono::duration<double> taken{};
+    place.harness.clock.onSleep = [&began](int) {
+        began = std::chrono::steady_clock::now();
+    };
+    place.harness.delegate.onEvent = [&](const QString &event) {
+        if (event == u"syncDidStart")
+            taken = std::chrono::steady_clock::now() - began;
+    };
+    for (auto _ : state) {
+        if (!place.harness.run() || place.harness.delegate.processed() > 0)
+            state.SkipWithError("there was something to do");
+        state.SetIterationTime(taken.count());
+    }
+}
+
 void bareStatLoop(benchmark::State &state)
 {
-    const InPlace place;
+    InPlace place;
     std::vector<std::pair<std::string, std::string>> paths;
     for (const CVSyncItem &item : place.items)
         paths.emplace_back(item.source.toStdString(), item.destination.toStdString());
@@ -77,10 +93,50 @@ void bareStatLoop(benchmark::State &state)
     }
 }
 
-BENCHMARK(prepareInPlace)
+constexpr unsigned rowCount = 100000;
+
+const SyncPlan &longPlan()
+{
+    static const SyncPlan made = [] {
+        SyncPlan plan{.volume = QStringLiteral("/media/STICK")};
+        KindPlan &kind = plan.kinds.emplace_back();
+        for (unsigned i = 0; i < rowCount; ++i) {
+            const QString name = QStringLiteral("Some Album/%1. A Song.mp3").arg(i);
+            kind.items.push_back({{QStringLiteral("/home/me/Music/") + name,
+                                   plan.volume + QStringLiteral("/PSP/MUSIC/") + name, name}});
+        }
+        return plan;
+    }();
+    return made;
+}
+
+void page(benchmark::State &state, unsigned first)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(PlanRows::items(longPlan(), {}, first, PlanRows::longestPage));
+}
+
+void summary(benchmark::State &state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(PlanRows::summary(longPlan()));
+}
+
+BENCHMARK_CAPTURE(page, last, rowCount - PlanRows::longestPage)
+    ->Name("page of 100,000 rows/last")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(page, first, 0)
+    ->Name("page of 100,000 rows/peer: first")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(summary)->Name("page of 100,000 rows/peer: summary")->Unit(benchmark::kMillisecond);
+BENCHMARK(planInPlace)
     ->Name("20,000 files in place/plan")
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
+BENCHMARK(prepareAndCleanUp)
+    ->Name("20,000 files in place/peer: prepare and clean-up")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
 BENCHMARK(bareStatLoop)
     ->Name("20,000 files in place/peer: bare loop of the stats")
     ->Unit(benchmark::kMillisecond)
