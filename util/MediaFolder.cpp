@@ -1,13 +1,23 @@
 #include "util/MediaFolder.h"
 
+#include "platform/files/OpenFile.h"
 #include "util/FileManagerTools.h"
 #include "util/Log.h"
 #include "util/PathComponents.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <cerrno>
+
+namespace {
+
+/// Why the folder can't be read; nothing where it can: it opens, but is no file.
+std::optional<FileError> obstacleTo(const QString &folder)
+{
+    const auto opened = OpenFile::forReading(folder);
+    return opened || opened.error().number == EISDIR ? std::nullopt : std::optional(opened.error());
+}
+
+} // namespace
 
 FileResult<MediaFolder> MediaFolder::read(const QString &folder, Detail detail)
 {
@@ -17,9 +27,9 @@ FileResult<MediaFolder> MediaFolder::read(const QString &folder, Detail detail)
     if (!status.isFolder())
         return FileError::of(FileError::Operation::Read, folder,
                              status.exists() ? ENOTDIR : ENOENT);
-    if (!QFileInfo(found.m_path).isReadable()) {
+    if (const auto obstacle = obstacleTo(found.m_path)) {
         qCWarning(lcUtil).noquote() << "Can't read the folder" << found.m_path;
-        return FileError::of(FileError::Operation::Read, found.m_path, EACCES);
+        return *obstacle;
     }
     found.m_entries = detail == Detail::Sizes ? manager.subpathsWithSizes(found.m_path)
                                               : manager.subpaths(found.m_path);
@@ -60,9 +70,10 @@ std::optional<FileError> MediaFolder::unreadableAmong(const QSet<QString> &names
         const auto isInside = [&](const QString &name) {
             return (name + u'/').startsWith(folder + u'/');
         };
-        const QString path = m_path + u'/' + folder;
-        if (std::ranges::any_of(names, isInside) && !QFileInfo(path).isReadable())
-            return FileError::of(FileError::Operation::Read, path, EACCES);
+        if (!std::ranges::any_of(names, isInside))
+            continue;
+        if (const auto obstacle = obstacleTo(m_path + u'/' + folder))
+            return obstacle;
     }
     return std::nullopt;
 }

@@ -1,14 +1,14 @@
 #include "modules/music/own/RhythmboxLibrary.h"
 
 #include "modules/music/own/RhythmboxQuery.h"
-#include "platform/files/FileManager.h"
+#include "platform/files/OpenFile.h"
 #include "sync/Log.h"
 #include "util/PathComponents.h"
 #include "util/StringTools.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QHash>
+#include <QIODevice>
 #include <QStandardPaths>
 #include <QXmlStreamReader>
 
@@ -19,8 +19,8 @@
 
 namespace {
 
-constexpr qint64 databaseLimit = 1LL << 30; // bytes
-constexpr int steps = 1024;                 // entries between two questions whether to stop
+constexpr quint64 databaseLimit = 1ULL << 30; // bytes
+constexpr int steps = 1024;                   // entries between two questions whether to stop
 
 struct Limit
 {
@@ -65,19 +65,47 @@ QString propertyOfSortKey(const QString &key)
     return properties.value(key);
 }
 
+/// An open file as the XML reader takes it, with what kept it from being read.
+class XmlFile : public QIODevice
+{
+public:
+    explicit XmlFile(OpenFile &file)
+        : m_file(file)
+    {
+        open(QIODevice::ReadOnly);
+    }
+
+    std::optional<FileError> failure;
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const auto count = m_file.read(data, static_cast<size_t>(size));
+        if (count)
+            return static_cast<qint64>(*count);
+        failure = count.error();
+        return -1;
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    OpenFile &m_file;
+};
+
 /// A file that is read as a stream; the reader's errors become one of ours.
 FileResult<> readXml(const QString &path, const std::function<void(QXmlStreamReader &)> &take)
 {
-    const int descriptor = files().openForReading(path);
-    if (descriptor < 0)
-        return FileError::of(FileError::Operation::Read, path, errno);
-    QFile file;
-    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    if (file.size() > databaseLimit)
+    auto opened = OpenFile::forReading(path);
+    if (!opened)
+        return opened.error();
+    if (files().status(path).size > databaseLimit)
         return FileError::of(FileError::Operation::Read, path, EFBIG);
+    XmlFile file(*opened);
     QXmlStreamReader xml(&file);
     if (xml.readNextStartElement())
         take(xml);
+    if (file.failure)
+        return *file.failure;
     if (!xml.hasError())
         return {};
     return FileError{FileError::Operation::Parse, path, 0,

@@ -18,6 +18,7 @@ public:
     std::function<void()> onFull;        ///< at the first write that finds no room
     QString readOnlyBelow;               ///< nothing below can be made or removed
     int refusal = EROFS;                 ///< why
+    QString locked;                      ///< this can't be opened
     bool waitsForLocks = true;
     int closed = 0; ///< the flushed ones too
     int flushed = 0;
@@ -31,6 +32,11 @@ public:
     int createForWriting(const QString &path, Existing existing) override
     {
         return isReadOnly(path) ? -1 : FileManager::createForWriting(path, existing);
+    }
+    int openForReading(const QString &path) override
+    {
+        errno = EACCES;
+        return path == locked ? -1 : FileManager::openForReading(path);
     }
     qint64 transfer(int, int, size_t) override { return -1; }
     qint64 read(int descriptor, void *buffer, size_t count) override

@@ -1,9 +1,11 @@
 #include "modules/music/CVSyncMusic.h"
 
+#include "support/FailingFileManager.h"
 #include "support/SourceData.h"
 #include "support/SyncHarness.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -166,6 +168,50 @@ TEST_F(MusicSourcesTest, TakesListsAsPlayersWriteThem)
     EXPECT_EQ(harness.tree(u".caravel"_s), "Music@1.plist");
     harness.set(u"musicSource", 7); // as 0
     EXPECT_EQ(CVSyncMusic::selectedIdentifiersForPSP(harness.stick()), std::nullopt);
+}
+
+TEST_F(MusicSourcesTest, IsNotCarriedAwayByWhatIsHuge)
+{
+    const QByteArray frame = "TIT2\x05\0\0\1\0\0\3"_ba + QByteArray(10 << 20, 'T');
+    put("Big/a.mp3", "ID3\4\0\0\x05\0\0\x0b"_ba + frame);
+    put("Lines.m3u", QByteArray("Big/a.mp3\n").repeated(1'000'000));
+    EXPECT_EQ(offered(Folders), "Lines 100000\nBig/ 1");
+    const std::string name = std::string(246, 'T') + ".mp3 < a.mp3";
+    EXPECT_EQ(wishes("Big/"), "Unsorted/000. " + name);
+}
+
+TEST_F(MusicSourcesTest, SaysHowFarItIsAndStopsWhenAsked)
+{
+    for (int i = 0; i < 130; ++i)
+        put((QByteArray::number(i) + ".mp3").constData(), "x");
+    harness.set(u"musicSource", Folders);
+    CVSyncMusic::setSelectedIdentifiers({u"Musik/"_s}, {});
+    const auto saidUntil = [&](qsizetype last) {
+        QStringList said;
+        CVSyncMusic module(harness.stick());
+        module.setProgress([&](const QString &text) { said.append(text); });
+        module.setShouldStop([&] { return said.size() == last; });
+        module.itemsToSync();
+        return joined(said);
+    };
+    EXPECT_EQ(saidUntil(2), "Reading songs: 0 of 130\nReading songs: 64 of 130");
+    EXPECT_EQ(saidUntil(9), "Reading songs: 0 of 66\nReading songs: 64 of 66");
+    EXPECT_EQ(saidUntil(9), "");
+}
+
+TEST_F(MusicSourcesTest, TellsAFolderThatCantBeReadFromAnEmptyOne)
+{
+    FailingFileManager failing;
+    FileManager::setDefaultManager(&failing);
+    QDir().mkpath(music + u"/Band/Locked"_s);
+    harness.set(u"musicSource", Folders);
+    EXPECT_EQ(wishes("Band/Locked/"), "");
+    failing.locked = music + u"/Band/Locked"_s;
+    EXPECT_EQ(wishes("Band/"), "");
+    EXPECT_EQ(wishes("Band/Locked/"), "unreadable: Locked");
+    failing.locked = music;
+    EXPECT_EQ(wishes("Band/"), "unreadable: Musik");
+    FileManager::setDefaultManager(nullptr);
 }
 
 TEST_F(MusicSourcesTest, ReadsRhythmbox)
