@@ -15,7 +15,10 @@ Plans::Plans(const ModuleCatalogue &catalogue, CVSyncManager &manager)
     , m_manager(manager)
     , m_preview(catalogue)
 {
-    connect(&m_preview, &SyncPreview::isReady, this, &Plans::isReady);
+    connect(&m_preview, &SyncPreview::isReady, this, [this](bool ready) {
+        // A stick may go without a word, and was empty then.
+        Q_EMIT isReady(ready && m_manager.pspIsMounted() && isOfStick());
+    });
 }
 
 void Plans::watchSettings(DistributedNotificationCenter &center)
@@ -59,6 +62,11 @@ void Plans::checkBasis()
         return;
     m_basis = std::move(now);
     m_preview.invalidate();
+}
+
+bool Plans::isOfStick() const
+{
+    return m_preview.plan() && m_preview.plan()->volume == m_manager.pspVolume();
 }
 
 std::shared_ptr<const SyncPlan> Plans::plan() const

@@ -34,6 +34,7 @@ Q_SIGNALS:
 private:
     QVariantList basis() const;
     void checkBasis();
+    bool isOfStick() const;
     std::shared_ptr<const SyncPlan> plan() const;
     bool isKnown(const QString &saveName) const;
 
