@@ -32,6 +32,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     checkTitles(CVSyncBookmarks::parseCaminoBookmarks());
     home.write(QStringLiteral("Library/Safari/Bookmarks.plist"), input);
     (void)CVSyncBookmarks::readSafariBookmarks();
+    home.write(QStringLiteral(".config/chromium/Default/Bookmarks"), input);
+    checkTitles(CVSyncBookmarks::readChromiumBookmarks());
     home.write(support + QStringLiteral("Firefox/profiles.ini"), input);
     (void)CVSyncBookmarks::defaultFirefoxProfile();
     return 0;
