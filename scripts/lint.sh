@@ -81,7 +81,12 @@ check_metainfo() {
     build=$(sed -n 's/^set(CARAVEL_BUILD \([0-9]*\))$/\1/p' CMakeLists.txt)
     release=$(sed -n 's/^project(Caravel VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
     file=$1/$(basename "$2" .in)
+    local picture
+    while read -r picture; do
+        [[ -f docs/guide/pictures/$picture ]] || { echo "$2: there is no picture $picture" && return 1; }
+    done < <(sed -n 's|.*@CARAVEL_PICTURES@/\(.*\)</image>.*|\1|p' "$2")
     sed "s/@CARAVEL_BUILD@/${build:?not found in CMakeLists.txt}/
+         s|@CARAVEL_PICTURES@|https://caravel.org/pictures|
          s/@PROJECT_VERSION@/${release:?not found in CMakeLists.txt}/" "$2" >"$file"
     appstreamcli validate --no-net "$file"
 }

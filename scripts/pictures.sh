@@ -5,14 +5,15 @@ set -euo pipefail
 
 usage() {
     cat <<'EOT'
-Usage: pictures.sh [--into DIR] [--look light|dark]
+Usage: pictures.sh [--into DIR] [--look light|dark] [-- OPTION...]
 Installs what is missing, builds, and takes the pictures anew. Needs no display.
 
   --into DIR   writes them there instead of docs/guide/pictures
   --look LOOK  light or dark ones only
   --help       this text
 
-LANGUAGE and QT_SCALE_FACTOR mean what they mean to the window.
+What follows "--" are options of the toolkit, as -reverse; CARAVEL_LOCALE (de_DE.UTF-8) has another language,
+QT_SCALE_FACTOR another size.
 EOT
 }
 
@@ -25,7 +26,7 @@ take() {
     mount --bind "$1" /srv
     mount --bind "$project" /mnt
     export HOME=/home/robin XDG_RUNTIME_DIR=/home/.run CARAVEL_VOLUMES=/media/robin
-    export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen
+    export LC_ALL=${CARAVEL_LOCALE:-C.UTF-8} QT_QPA_PLATFORM=offscreen
     unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME DISPLAY WAYLAND_DISPLAY
     mount -t tmpfs none /home
     mount -t tmpfs none /media
@@ -34,11 +35,11 @@ take() {
     mount -t tmpfs -o size=983m none "$CARAVEL_VOLUMES"
     /mnt/scripts/pictures/make_media.py "$HOME" "$CARAVEL_VOLUMES/.waiting"
     cd "$HOME"
-    dbus-run-session -- "/mnt/build/$preset/Caravel/Contents/tests/pictures" /srv "$look"
+    dbus-run-session -- "/mnt/build/$preset/Caravel/Contents/tests/pictures" /srv "$look" "${@:3}"
 }
 
 if [[ ${1:-} == --inside ]]; then
-    take "$2" "$3"
+    take "${@:2}"
     exit
 fi
 
@@ -49,6 +50,7 @@ while (($#)); do
     --into) into=$(mkdir -p "$2" && cd "$2" && pwd) && shift ;;
     --look) looks=("$2") && shift ;;
     -h | --help) usage && exit 0 ;;
+    --) shift && break ;;
     *) usage >&2 && exit 2 ;;
     esac
     shift
@@ -60,5 +62,5 @@ cmake --build --preset "$preset" --parallel "$(nproc)" \
     --target pictures caravel-helper caravel_resources caravel_translations
 mkdir -p "$into"
 for look in "${looks[@]}"; do
-    unshare --map-root-user --user --mount --mount-proc --pid --fork --kill-child "$0" --inside "$into" "$look"
+    unshare --map-root-user --user --mount --mount-proc --pid --fork --kill-child "$0" --inside "$into" "$look" "$@"
 done

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QPushButton>
+#include <QRegularExpression>
 
 /// A button that does what an action does, and is shown and enabled as that is. Main thread.
 class ActionButton : public QPushButton
@@ -22,7 +23,8 @@ private:
     void follow()
     {
         // What a menu needs behind a text that opens a dialog, a button does without.
-        setText(m_action.iconText());
+        static const QRegularExpression dots(QStringLiteral("[ \u00A0]?(\u2026|\\.\\.\\.)$"));
+        setText(m_action.iconText().remove(dots));
         setToolTip(m_action.statusTip());
         setAccessibleDescription(m_action.statusTip());
         setEnabled(m_action.isEnabled());

@@ -6,6 +6,7 @@
 #include "platform/core/Localized.h"
 #include "util/Settings.h"
 #include "util/TextFormat.h"
+#include "window/KindTexts.h"
 #include "window/Kinds.h"
 #include "window/Words.h"
 
@@ -42,7 +43,7 @@ bool isFound(const QVariantMap &row)
 
 QString sourceText(const QVariantMap &row)
 {
-    const QString title = Rows::line(Rows::text(row, u"title"));
+    const QString title = sourceTitle(row);
     const int entries = row.value(QStringLiteral("entries")).toInt();
     if (entries == 1)
         return filled(localized("%@ (1 entry)"), {title});
@@ -138,7 +139,7 @@ void FirstStartDialog::addKind(const QString &kind, const QVariantList &rows)
     for (const QVariant &each : rows) {
         const QVariantMap row = each.toMap();
         if (!isFound(row)) {
-            missing.append(Rows::line(Rows::text(row, u"title")));
+            missing.append(sourceTitle(row));
             continue;
         }
         auto *button = new QRadioButton(sourceText(row).replace(u'&', QStringLiteral("&&")));

@@ -34,13 +34,20 @@ QImage imageFor(const QMIconTransformer &transformer, const QString &name, QSize
     return canvas;
 }
 
-QIcon iconOf(const QImage &image)
+/// In a selected row a symbol has the colour of the text, and a picture stays as it is.
+QIcon iconOf(const QImage &image, bool isSymbol)
 {
     if (image.isNull())
         return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
-    const QPixmap picture = QPixmap::fromImage(image);
-    QIcon icon(picture);
-    icon.addPixmap(picture, QIcon::Selected); // else the selection's colour would lie over it
+    QIcon icon(QPixmap::fromImage(image));
+    QImage selected = image;
+    if (isSymbol) {
+        QPainter painter(&selected);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(QRect({}, selected.deviceIndependentSize().toSize()),
+                         QApplication::palette().color(QPalette::HighlightedText));
+    }
+    icon.addPixmap(QPixmap::fromImage(selected), QIcon::Selected);
     return icon;
 }
 
@@ -103,7 +110,7 @@ void Icons::adopt(const std::vector<std::pair<QString, QImage>> &images)
 {
     for (const auto &[name, image] : images) {
         m_asked.remove(name);
-        m_icons.insert(name, new QIcon(iconOf(image)));
+        m_icons.insert(name, new QIcon(iconOf(image, !name.contains(u'/'))));
         Q_EMIT ready(name);
     }
     read();

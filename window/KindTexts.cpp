@@ -19,7 +19,7 @@ constexpr QSize saveIcon{72, 40};
 /// Of the chosen source.
 QString whyEmpty(const QVariantMap &source)
 {
-    const QString title = Rows::line(Rows::text(source, u"title"));
+    const QString title = sourceTitle(source);
     const QString place = Rows::line(Rows::text(source, u"place"));
     if (!source.value(QStringLiteral("found")).toBool())
         return filled(localized("Nothing of %@ was found on this computer. It would lie here: %@"),
@@ -32,7 +32,7 @@ QString whyEmpty(const QVariantMap &source)
 
 EmptyList::Other offerOf(const QVariantMap &source)
 {
-    const QString title = Rows::line(Rows::text(source, u"title"));
+    const QString title = sourceTitle(source);
     const int entries = source.value(QStringLiteral("entries")).toInt();
     const QString text =
         entries < 0 ? filled(localized("Take %@"), {title})
@@ -41,6 +41,13 @@ EmptyList::Other offerOf(const QVariantMap &source)
 }
 
 } // namespace
+
+// The helper's are the English ones of the settings.
+QString sourceTitle(const QVariantMap &source)
+{
+    const QByteArray title = Rows::line(Rows::text(source, u"title")).toUtf8();
+    return localized(title.constData());
+}
 
 KindTexts KindTexts::of(const QString &saveName)
 {

@@ -26,6 +26,9 @@ struct KindTexts
     const Protocol::List &list() const;
 };
 
+/// The name of a source, from a row of Protocol::sources, in the user's language.
+QString sourceTitle(const QVariantMap &source);
+
 /// Why a list is empty that comes from a source.
 struct EmptyList
 {

@@ -21,15 +21,21 @@ void WindowStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
                                 QPainter *painter, const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isRound = element == PE_IndicatorRadioButton;
     const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
     constexpr int middle = 128;
-    if (!isBox || option->palette.color(QPalette::Base).lightness() > middle)
+    if (!(isBox || isRound) || option->palette.color(QPalette::Base).lightness() > middle)
         return;
     QColor edge = option->palette.color(QPalette::Text);
     edge.setAlphaF(0.5F);
     painter->save();
     painter->setPen(edge);
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    if (isRound) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->drawEllipse(QRectF(option->rect).adjusted(1, 1, -1, -1));
+    } else {
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    }
     painter->restore();
 }

@@ -140,7 +140,7 @@ private:
         };
         const auto isHalfDone = [] {
             QAccessibleInterface *bar = find(QAccessible::ProgressBar, {});
-            return bar && bar->valueInterface()->currentValue().toInt() >= 65;
+            return bar && bar->valueInterface()->currentValue().toInt() >= 50;
         };
         for (int turn = 0; turn < 400 && !isHalfDone(); ++turn) {
             helper(u"-CONT"_s);
