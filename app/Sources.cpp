@@ -9,7 +9,7 @@
 namespace {
 
 // Libraries of one file that are longer are not read to be counted: that would be felt.
-constexpr quint64 countedBytes = 16ULL << 20;
+constexpr quint64 countedBytes = 64ULL << 20;
 
 template <typename Number>
 struct Source

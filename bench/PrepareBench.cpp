@@ -123,12 +123,12 @@ void summary(benchmark::State &state)
 }
 
 BENCHMARK_CAPTURE(page, last, rowCount - PlanRows::longestPage)
-    ->Name("page of 100,000 rows/last")
+    ->Name("last page of 100,000 rows/plan")
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(page, first, 0)
-    ->Name("page of 100,000 rows/peer: first")
+    ->Name("first page of 100,000 rows/plan")
     ->Unit(benchmark::kMillisecond);
-BENCHMARK(summary)->Name("page of 100,000 rows/peer: summary")->Unit(benchmark::kMillisecond);
+BENCHMARK(summary)->Name("summary of 100,000 rows/plan")->Unit(benchmark::kMillisecond);
 BENCHMARK(planInPlace)
     ->Name("20,000 files in place/plan")
     ->Unit(benchmark::kMillisecond)
