@@ -19,9 +19,10 @@ QString text(Request request)
     return request.arguments.first().toString();
 }
 
-void answerLate(ServedMethods &served, const Protocol::Method &method, LateAnswer::Ask ask)
+void answerLate(ServedMethods &served, const Protocol::Method &method,
+                std::function<LateAnswer::Ask()> question)
 {
-    const auto late = std::make_shared<LateAnswer>(std::move(ask));
+    const auto late = std::make_shared<LateAnswer>(std::move(question));
     served.bindLate(method,
                     [late](Request, const RemoteMethod::Answer &answer) { late->tell(answer); });
 }
@@ -120,7 +121,11 @@ void bindLists(ServedMethods &served, CaravelHelperController &helper)
     for (const Protocol::List &list : Protocol::lists) {
         const QString saveName = list.saveName.toString();
         if (saveName != CVSyncMovies::saveName()) // whose rows the queue adds to
-            answerLate(served, list.items, [&lists, saveName] { return lists.items(saveName); });
+            answerLate(served, list.items, [&lists, saveName] {
+                return [&lists, saveName] {
+                    return lists.items(saveName);
+                };
+            });
         served.perform(list.select, [&lists, saveName](Request request) {
             lists.setSelected(saveName, request.arguments.first().toStringList());
         });
@@ -129,12 +134,12 @@ void bindLists(ServedMethods &served, CaravelHelperController &helper)
 
 void bindSources(ServedMethods &served)
 {
-    answerLate(served, Protocol::sources, [] { return Sources::rows(); });
+    answerLate(served, Protocol::sources, [] { return Sources::rows; });
 }
 
 void bindMovies(ServedMethods &served, MovieQueue &movies)
 {
-    served.answer(Protocol::moviesItems, [&movies] { return movies.moviesItems(); });
+    answerLate(served, Protocol::moviesItems, [&movies] { return movies.moviesItems(); });
     served.answer(Protocol::isConvertingMovie, [&movies] { return movies.isConvertingMovie(); });
     served.perform(Protocol::addMoviesFromArray, [&movies](Request request) {
         movies.addMoviesFromArray(request.arguments.first().toStringList());

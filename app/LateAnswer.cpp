@@ -7,25 +7,27 @@
 void LateAnswer::tell(Tell tell)
 {
     m_waiting.push_back(std::move(tell));
-    if (m_told.empty())
+    if (!m_isAsked)
         begin();
 }
 
 void LateAnswer::begin()
 {
-    m_told = std::exchange(m_waiting, {});
-    const auto work = [this] {
+    m_isAsked = true;
+    const auto work = [this, ask = m_question(), told = std::exchange(m_waiting, {})] {
+        const QVariant answer = ask();
+        for (const Tell &tell : told)
+            tell(answer);
         performOnMainThread(
-            this, [this, answer = m_ask()] { finish(answer); }, CallMode::DontWait);
+            this, [this] { finish(); }, CallMode::DontWait);
     };
     if (!Workers::start(work, Workers::AtQuit::Leave))
         work();
 }
 
-void LateAnswer::finish(const QVariant &answer)
+void LateAnswer::finish()
 {
-    for (const Tell &tell : std::exchange(m_told, {}))
-        tell(answer);
+    m_isAsked = false;
     if (!m_waiting.empty())
         begin();
 }

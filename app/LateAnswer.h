@@ -6,9 +6,9 @@
 #include <functional>
 #include <vector>
 
-/// A question whose answer is read from files, which may take long: asked on a worker, so that the
-/// main thread goes on. Who asks while it is being answered shares the next answer, which is read
-/// from what is there then. A quit doesn't wait for it. Main thread.
+/// A question whose answer is read from files, which may take long: answered by a worker, so that
+/// the main thread goes on. Who asks while it is being answered shares the next answer, which is
+/// read from what is there then. A quit doesn't wait for it. Main thread.
 class LateAnswer : public QObject
 {
     Q_OBJECT
@@ -16,20 +16,20 @@ public:
     using Ask = std::function<QVariant()>;
     using Tell = std::function<void(const QVariant &)>;
 
-    /// `ask` is called on any thread, by one at a time.
-    explicit LateAnswer(Ask ask)
-        : m_ask(std::move(ask))
+    /// `question` gives, on the main thread, what a worker is then to ask, one at a time.
+    explicit LateAnswer(std::function<Ask()> question)
+        : m_question(std::move(question))
     {
     }
 
-    /// `tell` is called once, on the main thread and after this call.
+    /// `tell` is called once, on any thread and after this call.
     void tell(Tell tell);
 
 private:
     void begin();
-    void finish(const QVariant &answer);
+    void finish();
 
-    const Ask m_ask;
-    std::vector<Tell> m_told;    // by the answer that is being read; empty: none is
-    std::vector<Tell> m_waiting; // for the next one
+    const std::function<Ask()> m_question;
+    bool m_isAsked = false;
+    std::vector<Tell> m_waiting; // for the next answer
 };

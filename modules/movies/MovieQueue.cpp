@@ -64,6 +64,17 @@ QList<QueuedMovie>::iterator find(const QVariantMap &row, QList<QueuedMovie> &mo
                         [&](const QueuedMovie &movie) { return movie.key() == key; });
 }
 
+QVariantList libraryRows(const QSet<QString> &selected)
+{
+    QVariantList rows;
+    for (const QString &identifier : CVSyncMovies::availableIdentifiers()) {
+        const QString movie = CVSyncMovies::fileOf(identifier, ConvertedMovie::movieEnding);
+        if (!identifier.endsWith(u"/.DS_Store") && files().exists(movie))
+            rows.append(MovieRows::libraryRow(identifier, selected.contains(identifier)));
+    }
+    return rows;
+}
+
 } // namespace
 
 MovieQueue::MovieQueue(Services services, QObject *parent)
@@ -89,23 +100,20 @@ void MovieQueue::select(const QStringList &identifiers) const
     CVSyncMovies::setSelectedIdentifiers(identifiers, m_services.manager.pspVolume());
 }
 
-QVariantList MovieQueue::moviesItems()
+std::function<QVariantList()> MovieQueue::moviesItems()
 {
-    QVariantList rows;
+    QVariantList queued;
     const QStringList chosen = selection();
     const QSet<QString> selected(chosen.begin(), chosen.end());
-    for (const QString &identifier : CVSyncMovies::availableIdentifiers()) {
-        const QString movie = CVSyncMovies::fileOf(identifier, ConvertedMovie::movieEnding);
-        if (!identifier.endsWith(u"/.DS_Store") && files().exists(movie))
-            rows.append(MovieRows::libraryRow(identifier, selected.contains(identifier)));
-    }
     for (QueuedMovie &movie : m_moviesQueue) {
         movie.isEnabled = selected.contains(movie.source);
-        rows.append(MovieRows::row(movie));
+        queued.append(MovieRows::row(movie));
     }
     for (const QueuedMovie &movie : m_moviesFailed)
-        rows.append(MovieRows::row(movie));
-    return rows;
+        queued.append(MovieRows::row(movie));
+    return [selected, queued] {
+        return libraryRows(selected) + queued;
+    };
 }
 
 void MovieQueue::addMoviesFromArray(const QStringList &paths)

@@ -52,8 +52,9 @@ public:
     explicit MovieQueue(Services services, QObject *parent = nullptr);
     ~MovieQueue() override;
 
-    /// Rows of the library, of the queue, and of what failed.
-    QVariantList moviesItems();
+    /// What reads, once and on any thread, the library's rows, and adds those of the queue, and of
+    /// what failed, as they are now.
+    std::function<QVariantList()> moviesItems();
     /// Queues movies by the absolute paths of their sources, which their rows have in normal form;
     /// others are said in the system log.
     void addMoviesFromArray(const QStringList &paths);

@@ -34,7 +34,7 @@ struct RemoteMethod
 
     using Answer = std::function<void(const QVariant &result)>;
     /// In the place of `call` where the answer takes long: `answer` is to be called when it is
-    /// known, once. Not for a oneway method. Main thread, both.
+    /// known, once and on any thread. Not for a oneway method. Main thread.
     std::function<void(const RemoteRequest &, Answer answer)> begin = nullptr;
 };
 

@@ -108,7 +108,7 @@ TEST_F(MovieQueueTest, SaysWhyAMovieIsNotInTheLibrary)
               "The movie \"lost\" was converted, but neither the movie library nor the folder  "
               "could take it. It has to be converted again.");
     QStringList rows;
-    for (const QVariant &row : queue.moviesItems())
+    for (const QVariant &row : queue.moviesItems()())
         rows.append(row.toMap()[u"identifier"_s].toString().remove(harness.home({})));
     EXPECT_EQ(joined(rows), "M4V00001/short\nFilms/a.avi\nb.avi\nkilled.avi\nfloods.avi\nlost.avi");
 }
@@ -128,8 +128,8 @@ TEST_F(MovieQueueTest, StoresBesideTheMainThreadAndKeepsTheMark)
     EXPECT_FALSE(files.hasHeldTheMainThread);
 
     files.whileMoving = [&] {
-        queue.removeMovieItem(queue.moviesItems().last().toMap());
+        queue.removeMovieItem(queue.moviesItems()().last().toMap());
     };
     convert("echo movie >\"$3\"; echo thumbnail >\"$4\"", {u"removed.avi"_s});
-    EXPECT_EQ(queue.moviesItems().size(), 1);
+    EXPECT_EQ(queue.moviesItems()().size(), 1);
 }
