@@ -22,6 +22,7 @@ int main(int argc, char **argv)
                                       "--benchmark_report_aggregates_only=true"};
     defaults.insert(defaults.end(), argv + 1, argv + argc);
     std::vector<char *> arguments;
+    arguments.reserve(defaults.size());
     for (std::string &argument : defaults)
         arguments.push_back(argument.data());
     int count = static_cast<int>(arguments.size());
