@@ -1,5 +1,6 @@
 #include "window/FileGroupsView.h"
 
+#include "platform/core/Localized.h"
 #include "window/FileGroups.h"
 
 #include <QHeaderView>
@@ -8,6 +9,7 @@ FileGroupsView::FileGroupsView(FileGroups &model, QWidget *parent)
     : QTreeView(parent)
 {
     setModel(&model);
+    setAccessibleDescription(localized("In groups, the most important first."));
     setUniformRowHeights(true);
     setAlternatingRowColors(true);
     setSelectionMode(ExtendedSelection);

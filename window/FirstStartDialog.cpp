@@ -85,8 +85,11 @@ FirstStartDialog::FirstStartDialog(HelperConnection &helper, QWidget *parent)
     where->setFont(Words::bold(font()));
     // The toolkit's own texts are not installed everywhere.
     auto *buttons = new QDialogButtonBox;
-    buttons->addButton(localized("Begin"), QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton(localized("Cancel"), QDialogButtonBox::RejectRole);
+    QPushButton *begin = buttons->addButton(localized("Begin"), QDialogButtonBox::AcceptRole);
+    begin->setDefault(true);
+    begin->setAccessibleDescription(localized("Takes these sources and shows their lists."));
+    buttons->addButton(localized("Cancel"), QDialogButtonBox::RejectRole)
+        ->setAccessibleDescription(localized("Changes nothing."));
     auto *inside = new QWidget;
     inside->setLayout(m_kinds);
     auto *scroll = new QScrollArea;

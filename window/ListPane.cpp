@@ -36,6 +36,9 @@ ListPane::ListPane(RowFilter *filter, const QString &name, bool isCheckable, QWi
 {
     m_view->show(filter);
     m_view->setAccessibleName(name);
+    if (isCheckable)
+        m_view->setAccessibleDescription(
+            localized("The space bar selects or deselects the chosen rows."));
     m_stack->addWidget(m_view);
     m_stack->addWidget(makeMessage());
     m_counts->setTextFormat(Qt::PlainText);

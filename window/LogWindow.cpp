@@ -75,6 +75,7 @@ void LogWindow::makeView()
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_view->setAccessibleName(localized("Log"));
+    m_view->setAccessibleDescription(localized("The newest line is the last one."));
     auto *const copying = new QAction(localized("Copy"), m_view);
     copying->setShortcut(QKeySequence::Copy);
     copying->setShortcutContext(Qt::WidgetShortcut);
@@ -92,7 +93,9 @@ QWidget *LogWindow::makeTop()
     m_search->setAccessibleName(localized("Search"));
     m_search->setClearButtonEnabled(true);
     auto *const previous = new QPushButton(localized("Previous"));
+    previous->setAccessibleDescription(localized("Goes to the previous line that was found."));
     auto *const next = new QPushButton(localized("Next"));
+    next->setAccessibleDescription(localized("Goes to the next line that was found."));
     layout->addWidget(m_search, 1);
     layout->addWidget(m_found);
     layout->addWidget(previous);

@@ -78,6 +78,8 @@ QWidget *MainWindow::makeMiddle()
 {
     m_kinds->setIconSize({pictureSide, pictureSide});
     m_kinds->setAccessibleName(localized("Kinds of media"));
+    m_kinds->setAccessibleDescription(
+        localized("What there is of each kind, and how much of it is selected."));
     m_kinds->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     m_kinds->setFixedWidth(pictureSide + 26 * fontMetrics().averageCharWidth());
     m_kinds->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

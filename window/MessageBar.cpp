@@ -105,6 +105,7 @@ void MessageBar::showFirst()
     m_text->setHidden(first.text.isEmpty());
     m_action->setText(first.action);
     m_action->setHidden(first.action.isEmpty());
+    m_action->setAccessibleDescription((first.title + first.text).left(longestText));
     show();
     update();
     setAccessibleName(first.title.left(longestText));

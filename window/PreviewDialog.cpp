@@ -24,6 +24,8 @@ PreviewDialog::PreviewDialog(Planner &planner, const StickWatch &watch, QWidget 
     setWindowTitle(localized("What a Sync Would Do"));
     auto *files = new FileGroupsView(m_files);
     files->setAccessibleName(localized("Files that a sync would change"));
+    m_sync->setAccessibleDescription(
+        localized("Brings the Memory Stick up to date with your selection"));
     m_strangers->setFont(Words::bold(font()));
     auto *buttons = Words::closeButtons();
     buttons->addButton(m_sync, QDialogButtonBox::AcceptRole);

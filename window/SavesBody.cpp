@@ -39,6 +39,8 @@ SavesBody::SavesBody(HelperConnection *helper, QWidget *parent)
     , m_shownBackups(&m_backups)
 {
     addBelow(makeHistory());
+    pane().view().setAccessibleDescription(
+        localized("The backups of the chosen game save are listed below."));
     keeper().setAmendment([this](const QVariantList &rows) { return withStick(rows); });
     FrontEndObject &frontEnd = helper->frontEnd();
     connect(&frontEnd, &FrontEndObject::planIsReady, this, &SavesBody::askStick);
@@ -205,7 +207,10 @@ void SavesBody::confirm(const QString &question, const QString &consequence, con
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(consequence);
     QPushButton *const yes = box->addButton(button, QMessageBox::AcceptRole);
-    box->setDefaultButton(box->addButton(localized("Cancel"), QMessageBox::RejectRole));
+    yes->setAccessibleDescription(consequence);
+    QPushButton *const no = box->addButton(localized("Cancel"), QMessageBox::RejectRole);
+    no->setAccessibleDescription(localized("Changes nothing."));
+    box->setDefaultButton(no);
     connect(yes, &QPushButton::clicked, this, action);
     box->open();
 }

@@ -84,4 +84,5 @@ void SyncPanel::showProgress()
     m_progress->setValue(percent.value_or(0));
     m_pace->setVisible(state.syncing);
     m_pace->setText(percent ? paceText(state, m_watch.rate()) : QString());
+    m_progress->setAccessibleDescription(percent ? m_pace->text() : m_status->text());
 }

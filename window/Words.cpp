@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QFontMetrics>
 #include <QLabel>
+#include <QPushButton>
 
 QLabel *Words::label(const QString &text)
 {
@@ -31,7 +32,8 @@ QFont Words::heading(QFont font)
 QDialogButtonBox *Words::closeButtons()
 {
     auto *buttons = new QDialogButtonBox;
-    buttons->addButton(localized("Close"), QDialogButtonBox::RejectRole);
+    buttons->addButton(localized("Close"), QDialogButtonBox::RejectRole)
+        ->setAccessibleDescription(localized("Closes this window."));
     return buttons;
 }
 

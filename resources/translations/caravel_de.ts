@@ -1578,5 +1578,45 @@ Klicken Sie auf „Jetzt synchronisieren“, um trotzdem zu synchronisieren.</tr
         <source>%@ free now</source>
         <translation>%@ jetzt frei</translation>
     </message>
+    <message>
+        <source>What there is of each kind, and how much of it is selected.</source>
+        <translation>Was es von jeder Art gibt, und wie viel davon ausgewählt ist.</translation>
+    </message>
+    <message>
+        <source>The space bar selects or deselects the chosen rows.</source>
+        <translation>Die Leertaste wählt die markierten Zeilen aus oder ab.</translation>
+    </message>
+    <message>
+        <source>Closes this window.</source>
+        <translation>Schließt dieses Fenster.</translation>
+    </message>
+    <message>
+        <source>Takes these sources and shows their lists.</source>
+        <translation>Nimmt diese Quellen und zeigt ihre Listen.</translation>
+    </message>
+    <message>
+        <source>Changes nothing.</source>
+        <translation>Ändert nichts.</translation>
+    </message>
+    <message>
+        <source>In groups, the most important first.</source>
+        <translation>In Gruppen, die wichtigsten zuerst.</translation>
+    </message>
+    <message>
+        <source>The newest line is the last one.</source>
+        <translation>Die neueste Zeile ist die letzte.</translation>
+    </message>
+    <message>
+        <source>Goes to the previous line that was found.</source>
+        <translation>Geht zur vorigen gefundenen Zeile.</translation>
+    </message>
+    <message>
+        <source>Goes to the next line that was found.</source>
+        <translation>Geht zur nächsten gefundenen Zeile.</translation>
+    </message>
+    <message>
+        <source>The backups of the chosen game save are listed below.</source>
+        <translation>Darunter stehen die Sicherungen des gewählten Spielstands.</translation>
+    </message>
 </context>
 </TS>

@@ -1578,5 +1578,45 @@ Haga clic en «Sincronizar ahora» para sincronizar de todos modos.</translation
         <source>%@ free now</source>
         <translation>%@ libres ahora</translation>
     </message>
+    <message>
+        <source>What there is of each kind, and how much of it is selected.</source>
+        <translation>Lo que hay de cada tipo y cuánto está seleccionado.</translation>
+    </message>
+    <message>
+        <source>The space bar selects or deselects the chosen rows.</source>
+        <translation>La barra espaciadora marca o desmarca las filas elegidas.</translation>
+    </message>
+    <message>
+        <source>Closes this window.</source>
+        <translation>Cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>Takes these sources and shows their lists.</source>
+        <translation>Toma estas fuentes y muestra sus listas.</translation>
+    </message>
+    <message>
+        <source>Changes nothing.</source>
+        <translation>No cambia nada.</translation>
+    </message>
+    <message>
+        <source>In groups, the most important first.</source>
+        <translation>Por grupos, los más importantes primero.</translation>
+    </message>
+    <message>
+        <source>The newest line is the last one.</source>
+        <translation>La línea más reciente es la última.</translation>
+    </message>
+    <message>
+        <source>Goes to the previous line that was found.</source>
+        <translation>Va a la línea encontrada anterior.</translation>
+    </message>
+    <message>
+        <source>Goes to the next line that was found.</source>
+        <translation>Va a la siguiente línea encontrada.</translation>
+    </message>
+    <message>
+        <source>The backups of the chosen game save are listed below.</source>
+        <translation>Debajo figuran las copias de la partida elegida.</translation>
+    </message>
 </context>
 </TS>

@@ -1578,5 +1578,45 @@ Cliquez sur « Synchroniser maintenant » pour synchroniser quand même.</transl
         <source>%@ free now</source>
         <translation>%@ libres à présent</translation>
     </message>
+    <message>
+        <source>What there is of each kind, and how much of it is selected.</source>
+        <translation>Ce qu’il y a de chaque sorte, et combien en est sélectionné.</translation>
+    </message>
+    <message>
+        <source>The space bar selects or deselects the chosen rows.</source>
+        <translation>La barre d’espace coche ou décoche les lignes choisies.</translation>
+    </message>
+    <message>
+        <source>Closes this window.</source>
+        <translation>Ferme cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>Takes these sources and shows their lists.</source>
+        <translation>Prend ces sources et montre leurs listes.</translation>
+    </message>
+    <message>
+        <source>Changes nothing.</source>
+        <translation>Ne change rien.</translation>
+    </message>
+    <message>
+        <source>In groups, the most important first.</source>
+        <translation>Par groupes, les plus importants d’abord.</translation>
+    </message>
+    <message>
+        <source>The newest line is the last one.</source>
+        <translation>La ligne la plus récente est la dernière.</translation>
+    </message>
+    <message>
+        <source>Goes to the previous line that was found.</source>
+        <translation>Va à la ligne trouvée précédente.</translation>
+    </message>
+    <message>
+        <source>Goes to the next line that was found.</source>
+        <translation>Va à la ligne trouvée suivante.</translation>
+    </message>
+    <message>
+        <source>The backups of the chosen game save are listed below.</source>
+        <translation>Les copies de la sauvegarde choisie sont listées en dessous.</translation>
+    </message>
 </context>
 </TS>

@@ -1578,5 +1578,45 @@ Click &quot;Sync Now&quot; to sync all the same.</source>
         <source>%@ free now</source>
         <translation>現在の空き %@</translation>
     </message>
+    <message>
+        <source>What there is of each kind, and how much of it is selected.</source>
+        <translation>種類ごとの内容と、選択されている数です。</translation>
+    </message>
+    <message>
+        <source>The space bar selects or deselects the chosen rows.</source>
+        <translation>スペースバーで、選んだ行のチェックを付け外しします。</translation>
+    </message>
+    <message>
+        <source>Closes this window.</source>
+        <translation>このウインドウを閉じます。</translation>
+    </message>
+    <message>
+        <source>Takes these sources and shows their lists.</source>
+        <translation>これらの取り込み元を使い、一覧を表示します。</translation>
+    </message>
+    <message>
+        <source>Changes nothing.</source>
+        <translation>何も変更しません。</translation>
+    </message>
+    <message>
+        <source>In groups, the most important first.</source>
+        <translation>重要なものから順に、グループに分けて示します。</translation>
+    </message>
+    <message>
+        <source>The newest line is the last one.</source>
+        <translation>最も新しい行が最後です。</translation>
+    </message>
+    <message>
+        <source>Goes to the previous line that was found.</source>
+        <translation>前に見つかった行へ移ります。</translation>
+    </message>
+    <message>
+        <source>Goes to the next line that was found.</source>
+        <translation>次に見つかった行へ移ります。</translation>
+    </message>
+    <message>
+        <source>The backups of the chosen game save are listed below.</source>
+        <translation>選んだセーブデータのバックアップが下に並びます。</translation>
+    </message>
 </context>
 </TS>

@@ -147,7 +147,8 @@ TEST_F(Journeys, KeysAloneReachEverything)
     press(u"Begin"_s);
     plugIn();
     EXPECT_SEES("Capacity of the Memory Stick after the sync");
-    EXPECT_TRUE(waitFor([] { return find(QAccessible::Button, u"Preview"_s); }));
+    for (const QString &button : {u"Preview"_s, u"Select All"_s})
+        EXPECT_TRUE(waitFor([&] { return find(QAccessible::Button, button); }));
     std::string order;
     for (int step = 0; step < 10; ++step)
         order += type(Qt::Key_Tab) + "|";

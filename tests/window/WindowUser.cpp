@@ -109,8 +109,13 @@ std::string WindowUser::nameless()
         QAccessible::PageTab,  QAccessible::ProgressBar,  QAccessible::Dialog};
     QStringList found;
     for (const QAccessibleInterface *each : shown()) {
-        if (controls.contains(each->role()) && each->text(QAccessible::Name).isEmpty())
-            found.append(QString::fromLatin1(each->object()->metaObject()->className()));
+        const QString name = each->text(QAccessible::Name);
+        const bool isWhole =
+            each->role() == QAccessible::Dialog || each->role() == QAccessible::PageTab;
+        const bool isTold =
+            !name.isEmpty() && (isWhole || !each->text(QAccessible::Description).isEmpty());
+        if (controls.contains(each->role()) && !isTold)
+            found.append(u"%1 \"%2\""_s.arg(int(each->role())).arg(name));
     }
     return joined(found);
 }

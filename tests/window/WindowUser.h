@@ -17,7 +17,7 @@ QAccessibleInterface *find(QAccessible::Role role, const QString &name);
 bool sees(const QString &text);
 /// The names of all that is in sight.
 std::string screen();
-/// Controls in sight that nobody who doesn't see them could tell.
+/// Controls in sight without a name or a description for who doesn't see them.
 std::string nameless();
 
 void press(const QString &button);
