@@ -25,6 +25,9 @@ QString heldComponent(QStringView component)
         name.chop(1);
     for (qsizetype i = name.size(); i-- > 0 && name[i] == u'.';)
         name[i] = u'_';
+    // Another file's companion, which goes when that one comes.
+    if (name.startsWith(u"._"))
+        name[0] = u'_';
     return name.isEmpty() ? QStringLiteral("_") : name;
 }
 

@@ -28,7 +28,8 @@ public:
 
     /// The destination as the stick can hold it: in each component below the volume the characters
     /// below 0x20 and `" * : < > ? \ |` become "_", a dot at the end becomes "_", blanks at the end
-    /// go, and what is left empty becomes "_". Where devices' names are refused, "_" follows them.
+    /// go, "._" at the start becomes "__", and what is left empty becomes "_". Where devices' names
+    /// are refused, "_" follows them.
     QString destination(const QString &path) const;
 
     /// The same for all paths that the stick takes for one. Paths that were written by an earlier

@@ -252,6 +252,7 @@ TEST(StickNames, HoldsWhatFatCanAndTellsWhatItTakesForOne)
         {"end. ", "end_", "end. "},
         {"...", "___", ""},
         {"  ", "_", "  "},
+        {".<x", "__x", ".<x"}, // no companion of x
         {" .x", " .x", " .x"},
         {"A./B../c", "A_/B__/c", "a/b/c"},
         {"A//b/", "A/b", "a//b/"},

@@ -62,7 +62,7 @@ struct World
     }
     QString held(QString place) const
     {
-        static const QRegularExpression unheld(u"[?:]|\\.(?=\\.*(/|$))"_s);
+        static const QRegularExpression unheld(u"[?:]|\\.(?=\\.*(/|$))|(?<![^/])\\.(?=[_?:])"_s);
         return isFat ? place.replace(unheld, u"_"_s) : place;
     }
     bool isListed(const QString &place, const std::set<QString> &places) const
