@@ -23,6 +23,7 @@ cmp Documents/Caravel/Dropboxes/Music/Song.mp3 volumes/STICK/PSP/MUSIC/Song.mp3
 caravel report
 test -f .config/autostart/caravel-helper.desktop
 
+printf 'another' >Documents/Caravel/Dropboxes/Music/Other.mp3
 touch used
 until [ -e upgraded ]; do
     sleep 0.1
@@ -32,8 +33,9 @@ caravel status >/dev/null
 while kill -0 "$helper" 2>/dev/null; do
     sleep 0.1
 done
-printf 'another' >Documents/Caravel/Dropboxes/Music/Other.mp3
-caravel sync >/dev/null
-cmp Documents/Caravel/Dropboxes/Music/Other.mp3 volumes/STICK/PSP/MUSIC/Other.mp3
+# The new one syncs the stick, which it knows, by itself.
+until cmp -s Documents/Caravel/Dropboxes/Music/Other.mp3 volumes/STICK/PSP/MUSIC/Other.mp3; do
+    sleep 0.1
+done
 caravel --version
 echo "The helper of the upgrade took over"
