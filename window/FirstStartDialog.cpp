@@ -56,7 +56,7 @@ QVariantMap best(const QVariantList &rows)
 {
     QVariantMap best;
     for (const QVariant &each : rows) {
-        const QVariantMap row = each.toMap();
+        QVariantMap row = each.toMap();
         if (row.value(QStringLiteral("chosen")).toBool() && isFound(row))
             return row;
         const QString entries = QStringLiteral("entries");

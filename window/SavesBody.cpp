@@ -198,7 +198,7 @@ void SavesBody::updateButtons()
 }
 
 void SavesBody::confirm(const QString &question, const QString &consequence, const QString &button,
-                        std::function<void()> action)
+                        const std::function<void()> &action)
 {
     auto *const box = new QMessageBox(QMessageBox::NoIcon, window()->windowTitle(), question,
                                       QMessageBox::NoButton, this);

@@ -31,7 +31,7 @@ private:
     void restore();
     void remove(const QString &identifier, const QString &question);
     void confirm(const QString &question, const QString &consequence, const QString &button,
-                 std::function<void()> action);
+                 const std::function<void()> &action);
 
     QStringList m_onStick; ///< identifiers of saves that the next sync will keep
     QString m_shownSave;   ///< whose history is shown
