@@ -72,7 +72,7 @@ std::optional<FileError> MediaFolder::unreadableAmong(const QSet<QString> &names
         };
         if (!std::ranges::any_of(names, isInside))
             continue;
-        if (const auto obstacle = obstacleTo(m_path + u'/' + folder))
+        if (auto obstacle = obstacleTo(m_path + u'/' + folder))
             return obstacle;
     }
     return std::nullopt;

@@ -289,6 +289,7 @@ std::vector<std::int64_t> Rhythmbox::answerOf(const List &list) const
     sort(songs, list);
     cut(songs, list.limit);
     std::vector<std::int64_t> ids;
+    ids.reserve(songs.size());
     for (const Song *song : songs)
         ids.push_back(song->id);
     return ids;
