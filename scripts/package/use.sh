@@ -16,6 +16,7 @@ name=$(sed -n 's/^Name=//p' /usr/share/dbus-1/services/org.caravel.CaravelHelper
 dbus-send --session --print-reply --dest="$name" /CaravelHelper \
     org.caravel.CaravelHelperProtocol.isFirstSync >/dev/null
 helper=$(pidof caravel-helper)
+helper=${helper##* } # the first: one of its own children may be on the way
 caravel sources
 caravel status
 caravel sync
