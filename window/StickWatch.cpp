@@ -76,6 +76,8 @@ void StickWatch::read()
     m_helper.ask(Protocol::stick, {}, this, [this, seen](const QVariant &value) {
         seen->stick = value.toMap();
         m_isReading = false;
+        // It came or went between the questions.
+        m_isStale |= seen->state.mounted == seen->stick.isEmpty();
         if (m_helper.isConnected())
             adopt(*seen);
     });

@@ -21,7 +21,7 @@ protected:
     FailingFileManager files;
     ListHarness harness;
     QMLogger logger;
-    const ModuleCatalogue kinds;
+    const ModuleCatalogue kinds{};
     Plans plans{kinds, harness.manager};
     RunRecord record;
     FrontEnds frontEnds;

@@ -165,11 +165,12 @@ protected:
             found.erase(path);
         };
         for (const auto &[path, bytes] : wanted())
-            take(path, [&](const QByteArray &contents) { return contents == bytes; });
+            take(path, [&all = bytes](const QByteArray &contents) { return contents == all; });
         for (const auto &[path, part] : written) {
             if (m_what == u"sync")
-                take(QString::fromUtf8(path),
-                     [&](const QByteArray &contents) { return contents.contains(part); });
+                take(QString::fromUtf8(path), [&some = part](const QByteArray &contents) {
+                    return contents.contains(some);
+                });
         }
         // Of what a failure leaves unknown more may be kept than had to be.
         for (const auto &[path, bytes] : found) {

@@ -81,7 +81,8 @@ std::vector<MeasuredItem> measured(const Case &c, const StickFolder &folder,
     std::vector<MeasuredItem> items;
     for (const CVSyncItem &item : Compare::fixDuplicateDestinations(wanted, names)) {
         const Place place(words[static_cast<qsizetype>(items.size())]);
-        MeasuredItem &last = items.emplace_back(item, place.exists, place.isFolder);
+        MeasuredItem &last = items.emplace_back(
+            MeasuredItem{.item = item, .exists = place.exists, .isFolder = place.isFolder});
         if (const FolderEntry *there = find(folder, item.destination, names)) {
             using Kind = FileStatus::Kind;
             last.destination = {there->isFolder ? Kind::Folder : Kind::File, there->size};
