@@ -1,4 +1,5 @@
 #include "window/ListPane.h"
+#include "window/SearchField.h"
 
 #include "platform/core/Localized.h"
 #include "util/TextFormat.h"
@@ -29,7 +30,7 @@ ListPane::ListPane(RowFilter *filter, const QString &name, bool isCheckable, QWi
     : QWidget(parent)
     , m_filter(filter)
     , m_isCheckable(isCheckable)
-    , m_search(new QLineEdit)
+    , m_search(new SearchField)
     , m_view(new RowView)
     , m_stack(new QStackedWidget)
     , m_counts(new QLabel)
@@ -61,11 +62,8 @@ QWidget *ListPane::makeTop(bool isCheckable)
     auto *const top = new QWidget;
     auto *const layout = new QHBoxLayout(top);
     layout->setContentsMargins({});
-    m_search->setPlaceholderText(localized("Search"));
-    m_search->setAccessibleName(localized("Search"));
     m_search->setAccessibleDescription(
         localized("Shows what holds these words. What is out of sight stays as it is."));
-    m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, this, [this](const QString &text) {
         m_filter->search(text);
         updateCounts();

@@ -1,4 +1,5 @@
 #include "window/LogWindow.h"
+#include "window/SearchField.h"
 
 #include "frontend/HelperConnection.h"
 #include "platform/core/Localized.h"
@@ -36,7 +37,7 @@ constexpr qsizetype widest = 2000; // characters of a line that can be scrolled 
 LogWindow::LogWindow(HelperConnection *helper, QWidget *parent)
     : QWidget(parent, Qt::Window)
     , m_helper(helper)
-    , m_search(new QLineEdit)
+    , m_search(new SearchField)
     , m_found(new QLabel)
     , m_view(new QTreeView)
     , m_follow(new QCheckBox(localized("Follow")))
@@ -89,9 +90,6 @@ QWidget *LogWindow::makeTop()
     auto *const top = new QWidget;
     auto *const layout = new QHBoxLayout(top);
     layout->setContentsMargins({});
-    m_search->setPlaceholderText(localized("Search"));
-    m_search->setAccessibleName(localized("Search"));
-    m_search->setClearButtonEnabled(true);
     auto *const previous = new QPushButton(localized("Previous"));
     previous->setAccessibleDescription(localized("Goes to the previous line that was found."));
     auto *const next = new QPushButton(localized("Next"));

@@ -627,6 +627,10 @@
         <translation>Vacía el registro definitivamente.</translation>
     </message>
     <message>
+        <source>Empties the search.</source>
+        <translation>Vacía la búsqueda.</translation>
+    </message>
+    <message>
         <source>Everybody in this computer&apos;s address book is put on one page, with a small picture where there is one. It is made anew at each sync, and only where something has changed it is written.
 
 The PSP shows the page in its browser: with bookmarks synced, one of them leads there. System software 2.00 or later is needed.</source>
