@@ -86,7 +86,7 @@ check_metainfo() {
         [[ -f docs/guide/pictures/$picture ]] || { echo "$2: there is no picture $picture" && return 1; }
     done < <(sed -n 's|.*@CARAVEL_PICTURES@/\(.*\)</image>.*|\1|p' "$2")
     sed "s/@CARAVEL_BUILD@/${build:?not found in CMakeLists.txt}/
-         s|@CARAVEL_PICTURES@|https://caravel.org/pictures|
+         s|@CARAVEL_PICTURES@|https://caravel.example/pictures|
          s/@PROJECT_VERSION@/${release:?not found in CMakeLists.txt}/" "$2" >"$file"
     appstreamcli validate --no-net "$file"
 }
