@@ -34,14 +34,20 @@ QImage imageFor(const QMIconTransformer &transformer, const QString &name, QSize
     return canvas;
 }
 
+/// Of an album's picture in its frame the frame's shape alone would stay.
+bool isSymbol(const QString &name)
+{
+    return !name.contains(u'/') && !name.startsWith(u"iPhoto");
+}
+
 /// In a selected row a symbol has the colour of the text, and a picture stays as it is.
-QIcon iconOf(const QImage &image, bool isSymbol)
+QIcon iconOf(const QImage &image, bool takesTextColour)
 {
     if (image.isNull())
         return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
     QIcon icon(QPixmap::fromImage(image));
     QImage selected = image;
-    if (isSymbol) {
+    if (takesTextColour) {
         QPainter painter(&selected);
         painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
         painter.fillRect(QRect({}, selected.deviceIndependentSize().toSize()),
@@ -110,7 +116,7 @@ void Icons::adopt(const std::vector<std::pair<QString, QImage>> &images)
 {
     for (const auto &[name, image] : images) {
         m_asked.remove(name);
-        m_icons.insert(name, new QIcon(iconOf(image, !name.contains(u'/'))));
+        m_icons.insert(name, new QIcon(iconOf(image, isSymbol(name))));
         Q_EMIT ready(name);
     }
     read();
