@@ -160,7 +160,7 @@ void MovieQueue::removeMovieItem(const QVariantMap &row)
         m_moviesFailed.erase(failed);
         return;
     }
-    const QString identifier = MovieRows::identifierOf(row);
+    const QString identifier = identifierOf(row);
     if (Settings::useDetailedLogging())
         m_services.logger.log(QStringLiteral("Deleting movie %@... "), identifier);
     CVSyncMovies::deleteMovieWithIdentifier(identifier);
@@ -178,8 +178,20 @@ void MovieQueue::renameMovieItem(const QVariantMap &row, const QString &newName)
             qCWarning(lcModules).noquote() << "This can't be a movie's title:" << newName;
         return;
     }
-    CVSyncMovies::renameMovieWithIdentifier(MovieRows::identifierOf(row), newName,
+    CVSyncMovies::renameMovieWithIdentifier(identifierOf(row), newName,
                                             m_services.manager.pspVolume());
+}
+
+QString MovieQueue::identifierOf(const QVariantMap &row) const
+{
+    const auto stored = m_storedIds.constFind(MovieRows::keyOf(row));
+    if (stored != m_storedIds.constEnd()) {
+        for (const QString &identifier : CVSyncMovies::availableIdentifiers()) {
+            if (identifier.section(u'/', 0, 0) == *stored) // its title may be another by now
+                return identifier;
+        }
+    }
+    return MovieRows::identifierOf(row);
 }
 
 // --- The conversions
@@ -304,6 +316,9 @@ void MovieQueue::headIsStored(const StoredMovie &stored)
     if (stored.identifier && m_movieQueueDidAbort) {
         CVSyncMovies::deleteMovieWithIdentifier(*stored.identifier); // removed while it was stored
     } else if (stored.identifier) {
+        const QString id = stored.identifier->section(u'/', 0, 0);
+        m_storedIds.removeIf([&](const auto &older) { return older.value() == id; }); // free again
+        m_storedIds.insert(movie.key(), id);
         if (movie.isEnabled)
             select(selection() << *stored.identifier);
         // It may have got another title meanwhile.

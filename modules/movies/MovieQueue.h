@@ -4,6 +4,7 @@
 #include "modules/movies/MovieRows.h"
 #include "platform/core/ChildProcess.h"
 
+#include <QHash>
 #include <QTimer>
 #include <QVariantList>
 #include <QVariantMap>
@@ -60,6 +61,7 @@ public:
     void addMoviesFromArray(const QStringList &paths);
     /// Takes a row out of the queue or of what failed (ending its conversion), or moves the
     /// library's movie to the Trash.
+    /// A row of the queue whose movie went to the library meanwhile means the movie there.
     void removeMovieItem(const QVariantMap &row);
     void renameMovieItem(const QVariantMap &row, const QString &newName);
 
@@ -86,10 +88,13 @@ private:
     void queueRanEmpty();
     QStringList selection() const;
     void select(const QStringList &identifiers) const;
+    QString identifierOf(const QVariantMap &row) const;
 
     const Services m_services;
     QList<QueuedMovie> m_moviesQueue; // the head is the one being converted
     QList<QueuedMovie> m_moviesFailed;
+    // The library's ids by QueuedMovie::key(): a row may come back after its movie was stored.
+    QHash<QString, QString> m_storedIds;
     QTimer m_movieQueueTimer;
     std::unique_ptr<ChildProcess> m_convertTask; // while one runs or has just ended
     ConversionProgress m_progress{0};

@@ -133,3 +133,21 @@ TEST_F(MovieQueueTest, StoresBesideTheMainThreadAndKeepsTheMark)
     convert("echo movie >\"$3\"; echo thumbnail >\"$4\"", {u"removed.avi"_s});
     EXPECT_EQ(queue.moviesItems()().size(), 1);
 }
+
+TEST_F(MovieQueueTest, KnowsTheMovieOfARowFromBeforeItWasStored)
+{
+    QVariantMap queued;
+    const auto convertNoting = [&](const QString &name) {
+        QTimer::singleShot(0, [&] { queued = queue.moviesItems()().last().toMap(); });
+        convert("sleep 0.1; echo movie >\"$3\"; echo thumbnail >\"$4\"", {name});
+    };
+    convertNoting(u"late.avi"_s);
+    queue.renameMovieItem(queued, u"Late"_s);
+    queue.renameMovieItem(queued, u"Later"_s);
+    EXPECT_EQ(CVSyncMovies::availableIdentifiers().last(), u"M4V00001/Later");
+    queue.removeMovieItem(queued);
+    const QVariantMap gone = queued; // the id becomes the next movie's
+    convertNoting(u"other.avi"_s);
+    queue.removeMovieItem(gone);
+    EXPECT_EQ(CVSyncMovies::availableIdentifiers().last(), u"M4V00001/other");
+}
