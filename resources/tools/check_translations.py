@@ -9,6 +9,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 CATALOGUES = ROOT / "resources" / "translations"
+DESKTOP = ROOT / "resources" / "desktop"
 FOLDERS = ("app", "cli", "frontend", "modules", "platform", "protocol", "sync", "util", "window")
 LANGUAGES = {"de", "en", "es", "fr", "ja"}
 
@@ -167,6 +168,22 @@ def check_catalogue(path: Path, used: dict[str, str]) -> Iterator[str]:
         yield f"{quoted(text)} is used by no source"
 
 
+def unevenly_translated() -> Iterator[str]:
+    """The desktop's own files: what is in one language there is in each."""
+    entry = DESKTOP / "org.caravel.Caravel.desktop"
+    metadata = DESKTOP / "org.caravel.Caravel.metainfo.xml.in"
+    for path, pattern in [
+        (entry, r"^(\w+)\[(\w+)\]="),
+        (metadata, r'<(\w+) xml:lang="(\w+)"'),
+    ]:
+        found = re.findall(pattern, path.read_text(), re.MULTILINE)
+        for name in sorted({name for name, _ in found}):
+            counts = {language: found.count((name, language)) for language in LANGUAGES - {"en"}}
+            for language in sorted(counts):
+                if counts[language] < max(counts.values()):
+                    yield f"{path.name}: lacks {name} in {language}"
+
+
 def main() -> int:
     problems: list[str] = []
     used = texts_of_sources(problems)
@@ -175,6 +192,7 @@ def main() -> int:
     problems += [f"caravel_{language}.ts is missing" for language in sorted(absent)]
     for path in catalogues:
         problems += [f"{path.name}: {problem}" for problem in sorted(check_catalogue(path, used))]
+    problems += unevenly_translated()
     for problem in problems:
         print(problem, file=sys.stderr)
     if not problems:

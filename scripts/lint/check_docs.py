@@ -68,8 +68,9 @@ def wrong_settings() -> list[str]:
     rows = dict(re.findall(r"^\| `(\w+)` \|.*\| (.*) \|$", guide, re.MULTILINE))
     wanted = {key: value for key, value in defaults().items() if key in rows or f"`{key}`" not in guide}
     keys = sorted(wanted.keys() | rows.keys())
+    absent = "not there"
     return [
-        f"docs/guide/settings.md: the default of {key} is {rows.get(key)}, in util/Settings.h {wanted.get(key)}"
+        f"docs/guide/settings.md: the default of {key} is {rows.get(key, absent)}, in util/Settings.h {wanted.get(key, absent)}"
         for key in keys
         if wanted.get(key) != rows.get(key)
     ]

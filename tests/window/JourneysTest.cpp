@@ -40,6 +40,16 @@ protected:
         m_helper->search();
     }
 
+    /// Selects a playlist with a new file of that size; the stick has been synced before.
+    void selectToCopy(qint64 size)
+    {
+        QFile(m_programs.path(u"home/Music/1.mp3"_s)).resize(size);
+        writeFile(m_programs.path(u"MEMORYSTICK/.caravel/known"_s), {});
+        openWindow();
+        press(u"Begin"_s);
+        inList(u"Playlist"_s, u"Road"_s, u" "_s);
+    }
+
     void plugIn() const { ASSERT_TRUE(QDir().rename(m_programs.path(u"MEMORYSTICK"_s), stick())); }
     void pull() const { ASSERT_TRUE(QDir().rename(stick(), m_programs.path(u"MEMORYSTICK"_s))); }
     QString stick(const QString &file = {}) const
@@ -100,11 +110,7 @@ TEST_F(Journeys, AStickThatGoes)
 TEST_F(Journeys, ACancelledSync)
 {
     constexpr qint64 size = 600 << 20;
-    QFile(m_programs.path(u"home/Music/1.mp3"_s)).resize(size);
-    writeFile(m_programs.path(u"MEMORYSTICK/.caravel/known"_s), {}); // synced before
-    openWindow();
-    press(u"Begin"_s);
-    inList(u"Playlist"_s, u"Road"_s, u" "_s);
+    selectToCopy(size);
     plugIn();
     EXPECT_SEES("MEMORYSTICK");
     press(u"Sync Now"_s);
@@ -117,11 +123,7 @@ TEST_F(Journeys, ACancelledSync)
 TEST_F(Journeys, ASyncThatTheWindowLeavesAlone)
 {
     constexpr qint64 size = 200 << 20;
-    QFile(m_programs.path(u"home/Music/1.mp3"_s)).resize(size);
-    writeFile(m_programs.path(u"MEMORYSTICK/.caravel/known"_s), {}); // synced before
-    openWindow();
-    press(u"Begin"_s);
-    inList(u"Playlist"_s, u"Road"_s, u" "_s);
+    selectToCopy(size);
     EXPECT_EQ(type(Qt::Key_F, Qt::ControlModifier), "Search");
     for (const Qt::Key key : {Qt::Key_Q, Qt::Key_U, Qt::Key_I})
         type(key);
