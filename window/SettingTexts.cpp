@@ -81,7 +81,7 @@ QList<Text> musicAndPhotoTexts()
 {
     return {
         {music, syncMusic.name, QT_TRANSLATE_NOOP("", "Sync music"),
-         QT_TRANSLATE_NOOP("", "Otherwise a sync leaves the PSP's music as it is.")},
+         QT_TRANSLATE_NOOP("", "Otherwise a sync removes the music from the PSP.")},
         {music,
          musicSource.name,
          QT_TRANSLATE_NOOP("", "Playlists come from"),
@@ -103,7 +103,7 @@ QList<Text> musicAndPhotoTexts()
           {1, QT_TRANSLATE_NOOP("", "Nothing")},
           {2, QT_TRANSLATE_NOOP("", "Disc and track")}}},
         {photos, syncPhotos.name, QT_TRANSLATE_NOOP("", "Sync photos"),
-         QT_TRANSLATE_NOOP("", "Otherwise a sync leaves the PSP's photos as they are.")},
+         QT_TRANSLATE_NOOP("", "Otherwise a sync removes the photos from the PSP.")},
         {photos,
          photosSource.name,
          QT_TRANSLATE_NOOP("", "Albums come from"),
@@ -130,7 +130,7 @@ QList<Text> movieTexts()
 {
     return {
         {movies, syncMovies.name, QT_TRANSLATE_NOOP("", "Sync movies"),
-         QT_TRANSLATE_NOOP("", "Otherwise a sync leaves the PSP's movies as they are.")},
+         QT_TRANSLATE_NOOP("", "Otherwise a sync removes the movies from the PSP.")},
         {movies,
          movieConvertVideoResolution.name,
          QT_TRANSLATE_NOOP("", "Size of the picture"),

@@ -835,16 +835,16 @@ Die PSP zeigt die Seite in ihrem Browser: Werden Lesezeichen synchronisiert, fü
         <translation>Dieses Fenster öffnen, wenn eine PSP verbunden wird</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
-        <translation>Sonst lässt eine Synchronisierung die Filme der PSP, wie sie sind.</translation>
+        <source>Otherwise a sync removes the movies from the PSP.</source>
+        <translation>Sonst entfernt eine Synchronisierung die Filme von der PSP.</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
-        <translation>Sonst lässt eine Synchronisierung die Musik der PSP, wie sie ist.</translation>
+        <source>Otherwise a sync removes the music from the PSP.</source>
+        <translation>Sonst entfernt eine Synchronisierung die Musik von der PSP.</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
-        <translation>Sonst lässt eine Synchronisierung die Fotos der PSP, wie sie sind.</translation>
+        <source>Otherwise a sync removes the photos from the PSP.</source>
+        <translation>Sonst entfernt eine Synchronisierung die Fotos von der PSP.</translation>
     </message>
     <message>
         <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>

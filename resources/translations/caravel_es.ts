@@ -835,16 +835,16 @@ La PSP muestra la página en su navegador: si se sincronizan los marcadores, uno
         <translation>Abrir esta ventana al conectar una PSP</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
-        <translation>Si no, una sincronización deja las películas de la PSP como están.</translation>
+        <source>Otherwise a sync removes the movies from the PSP.</source>
+        <translation>Si no, una sincronización quita las películas de la PSP.</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
-        <translation>Si no, una sincronización deja la música de la PSP como está.</translation>
+        <source>Otherwise a sync removes the music from the PSP.</source>
+        <translation>Si no, una sincronización quita la música de la PSP.</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
-        <translation>Si no, una sincronización deja las fotos de la PSP como están.</translation>
+        <source>Otherwise a sync removes the photos from the PSP.</source>
+        <translation>Si no, una sincronización quita las fotos de la PSP.</translation>
     </message>
     <message>
         <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>

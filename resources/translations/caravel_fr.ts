@@ -835,16 +835,16 @@ La PSP affiche la page dans son navigateur : si les signets sont synchronisés, 
         <translation>Ouvrir cette fenêtre quand une PSP est connectée</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
-        <translation>Sinon, une synchronisation laisse les films de la PSP tels quels.</translation>
+        <source>Otherwise a sync removes the movies from the PSP.</source>
+        <translation>Sinon, une synchronisation retire les films de la PSP.</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
-        <translation>Sinon, une synchronisation laisse la musique de la PSP telle quelle.</translation>
+        <source>Otherwise a sync removes the music from the PSP.</source>
+        <translation>Sinon, une synchronisation retire la musique de la PSP.</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
-        <translation>Sinon, une synchronisation laisse les photos de la PSP telles quelles.</translation>
+        <source>Otherwise a sync removes the photos from the PSP.</source>
+        <translation>Sinon, une synchronisation retire les photos de la PSP.</translation>
     </message>
     <message>
         <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>

@@ -835,16 +835,16 @@ The PSP shows the page in its browser: with bookmarks synced, one of them leads 
         <translation>PSP の接続時にこのウインドウを開く</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s movies as they are.</source>
-        <translation>オフの場合、同期しても PSP のムービーはそのままです。</translation>
+        <source>Otherwise a sync removes the movies from the PSP.</source>
+        <translation>オフの場合、同期すると PSP のムービーは削除されます。</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s music as it is.</source>
-        <translation>オフの場合、同期しても PSP のミュージックはそのままです。</translation>
+        <source>Otherwise a sync removes the music from the PSP.</source>
+        <translation>オフの場合、同期すると PSP のミュージックは削除されます。</translation>
     </message>
     <message>
-        <source>Otherwise a sync leaves the PSP&apos;s photos as they are.</source>
-        <translation>オフの場合、同期しても PSP のフォトはそのままです。</translation>
+        <source>Otherwise a sync removes the photos from the PSP.</source>
+        <translation>オフの場合、同期すると PSP のフォトは削除されます。</translation>
     </message>
     <message>
         <source>Otherwise a sync leaves the bookmarks of the PSP&apos;s browser as they are.</source>
