@@ -164,21 +164,26 @@ void MainWindow::reload()
 
 // --- The stick
 
-// The first sync of a stick with files of its own is looked at first.
+// The first sync of a stick with files of its own is looked at first. Whether it is the first is
+// asked now: what was read while the stick came may be of the moment before.
 void MainWindow::startSync()
 {
-    if (!m_watch->isFirstSync()) {
-        m_helper->tell(Protocol::syncNow, {QVariantMap()});
-        return;
-    }
-    m_looksFirst = true;
-    m_planner->planNow();
+    m_helper->ask(Protocol::isFirstSync, {}, this, [this](const QVariant &isFirst) {
+        if (isFirst.isValid() && !isFirst.toBool()) {
+            m_helper->tell(Protocol::syncNow, {QVariantMap()});
+            return;
+        }
+        m_looksFirst = true;
+        m_planner->planNow();
+    });
 }
 
+// Without a plan nobody knows what the sync would remove.
 void MainWindow::syncOrPreview()
 {
     m_looksFirst = false;
-    if (PlanTexts::strangers(m_planner->summary()).isEmpty())
+    const QVariantMap &plan = m_planner->summary();
+    if (!plan.isEmpty() && PlanTexts::strangers(plan).isEmpty())
         m_helper->tell(Protocol::syncNow, {QVariantMap()});
     else
         openPreview();

@@ -72,7 +72,6 @@ void StickWatch::read()
     ask(Protocol::isConvertingMovie,
         [](Seen &s, const QVariant &v) { s.state.converting = v.toBool(); });
     ask(Protocol::canSync, [](Seen &s, const QVariant &v) { s.canSync = v.toBool(); });
-    ask(Protocol::isFirstSync, [](Seen &s, const QVariant &v) { s.isFirstSync = v.toBool(); });
     m_helper.ask(Protocol::stick, {}, this, [this, seen](const QVariant &value) {
         seen->stick = value.toMap();
         m_isReading = false;

@@ -22,8 +22,6 @@ public:
     /// As Protocol::stick.
     const QVariantMap &stick() const { return m_now.stick; }
     bool canSync() const { return m_now.canSync; }
-    /// Whether no sync was ever done to the stick.
-    bool isFirstSync() const { return m_now.isFirstSync; }
     /// Bytes per second of the running sync, where that is known.
     std::optional<double> rate() const { return m_rate.rate(); }
 
@@ -40,7 +38,6 @@ private:
         HelperState state;
         QVariantMap stick;
         bool canSync = false;
-        bool isFirstSync = false;
     };
 
     void readSoon();
