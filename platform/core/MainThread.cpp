@@ -290,7 +290,10 @@ bool Workers::serveUntilFinished(std::chrono::milliseconds limit, int (*count)()
     end.setSingleShot(true);
     end.start(limit);
     QEventLoop loop;
-    while (count() > 0 && !deadline.hasExpired())
-        loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    do {
+        while (count() > 0 && !deadline.hasExpired())
+            loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        serveWaitingCalls(); // the last that a worker said, which may start another
+    } while (count() > 0 && !deadline.hasExpired());
     return count() == 0;
 }

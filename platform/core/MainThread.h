@@ -44,8 +44,8 @@ enum class AtQuit { Wait, Leave };
 int live();
 int awaited();
 
-/// Main thread only: serves the event loop until none is counted any more or the time is over;
-/// returns whether none is.
+/// Main thread only: serves the event loop until none is counted any more, and what they left to be
+/// called is done, or the time is over; returns whether none is counted.
 bool serveUntilFinished(std::chrono::milliseconds limit, int (*count)() = live);
 
 } // namespace Workers

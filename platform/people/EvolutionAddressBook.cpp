@@ -202,18 +202,32 @@ bool hasService(GDBusConnection *bus, GCancellable *cancellable)
     return isListed;
 }
 
+/// The connection that all in this process share. Kept: without one, a thread of the library's that
+/// still works makes another, and a bus that goes ends a process whose connection wasn't told not
+/// to.
+Ref<GDBusConnection> sessionBus(GCancellable *cancellable, GError **error)
+{
+    static std::mutex mutex;
+    static Ref<GDBusConnection> kept;
+    const std::scoped_lock lock(mutex);
+    if (!kept || g_dbus_connection_is_closed(kept.get())) {
+        kept = {};
+        kept = Ref<GDBusConnection>(g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, error));
+        if (kept)
+            g_dbus_connection_set_exit_on_close(kept.get(), FALSE);
+    }
+    return kept;
+}
+
 void readBooks(Reading &reading)
 {
     const Glib::ThreadContext context; // libebook's objects stay with theirs
     GError *error = nullptr;
-    const Ref<GDBusConnection> bus(
-        g_bus_get_sync(G_BUS_TYPE_SESSION, reading.cancellable(), &error));
+    const Ref<GDBusConnection> bus = sessionBus(reading.cancellable(), &error);
     if (!bus) {
         reading.fail(noService, {}, error);
         return;
     }
-    // Else a bus that goes would end this process.
-    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     const Ref<ESourceRegistry> registry(e_source_registry_new_sync(reading.cancellable(), &error));
     if (!registry) {
         const bool isThere = hasService(bus.get(), reading.cancellable());

@@ -47,7 +47,7 @@ TEST(MainThread, RunsCallsInOrderAndWaitsWhereAsked)
         }
     });
     ASSERT_TRUE(serve());
-    ASSERT_TRUE(waitFor([&] { return order.size() == 200; }));
+    ASSERT_EQ(order.size(), 200);
     EXPECT_TRUE(std::ranges::is_sorted(order));
     call(201, CallMode::DontWait);
     call(202, CallMode::Wait); // straight through
@@ -102,4 +102,8 @@ TEST(Workers, AreCountedAndServedUntilTheyEndOrTheTimeIsOver)
     mayEnd.notify_all();
     EXPECT_TRUE(serve());
     EXPECT_EQ(ended, 3);
+    performOnMainThread(
+        nullptr, [&] { ++ended; }, CallMode::DontWait);
+    EXPECT_TRUE(serve());
+    EXPECT_EQ(ended, 4) << "what the last one left to be called";
 }
