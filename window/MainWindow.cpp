@@ -173,8 +173,8 @@ void MainWindow::startSync()
             m_helper->tell(Protocol::syncNow, {QVariantMap()});
             return;
         }
-        m_looksFirst = true;
         m_planner->planNow();
+        m_looksFirst = m_planner->isPlanning(); // not beside a sync that another has begun
     });
 }
 
